@@ -1,0 +1,27 @@
+#pragma once
+
+#include "citygml/CityGMLFeaturesVisitor.h"
+
+#include <list>
+#include <unordered_set>
+
+namespace tolvik {
+
+/// Lists the features of a document: `accept` on its root lists the root and then every feature that the walk reaches.
+class TOLVIK_PLATFORM_EXPORT CityGMLFeaturesFillVisitor : public CityGMLFeaturesVisitor
+{
+public:
+    CityGMLFeaturesFillVisitor();
+    ~CityGMLFeaturesFillVisitor() override;
+
+    /// The features in the order of meeting, each once: a feature before those below it. Valid while the visitor lives.
+    const std::list<gml::AbstractFeatureType*>& getModelFeatures() const;
+
+    bool visit_gml_AbstractFeatureType(gml::AbstractFeatureType* feature) override;
+
+private:
+    std::list<gml::AbstractFeatureType*> m_features;
+    std::unordered_set<gml::AbstractFeatureType*> m_listed;
+};
+
+} // namespace tolvik

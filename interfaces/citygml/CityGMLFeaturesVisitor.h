@@ -1,0 +1,54 @@
+#pragma once
+
+#include "PlatformExport.h"
+#include "citygml/CityGMLInheritVisitor.h"
+#include "citygml/FeatureVisits.h"
+#include "fondo/Referenced.h"
+
+#include <cstddef>
+#include <vector>
+
+namespace xml_schema {
+class type;
+}
+
+namespace tolvik {
+
+/// Walks from a feature to the features below it, through the feature-valued members of the types that hold features.
+///
+/// Two flags steer the walk, which starts with `accept` on a feature:
+/// - `walkChildren` false: the visit stays inside the object it started on.
+/// - both true: `visit_gml_AbstractFeatureType` is reached once for the start feature and once for each feature
+///   directly below it, and no deeper. The members of a derived type are walked before those of its bases.
+/// - `walkChildren` true, `walkStart` false: the walk goes all the way down. A feature is visited before the features
+///   below it, and these in document order.
+///
+/// The flags are read during a walk and are as before when it ends.
+class TOLVIK_PLATFORM_EXPORT CityGMLFeaturesVisitor : public citygml::CityGMLInheritVisitor, public Fondo::Referenced
+{
+public:
+    CityGMLFeaturesVisitor();
+    CityGMLFeaturesVisitor(const CityGMLFeaturesVisitor& other);
+    CityGMLFeaturesVisitor& operator=(const CityGMLFeaturesVisitor& other);
+    ~CityGMLFeaturesVisitor() override;
+
+#define TOLVIK_DECLARE_VISIT(prefix, Type) bool visit_##prefix##_##Type(prefix::Type* object) override;
+    TOLVIK_FEATURE_VISITS(TOLVIK_DECLARE_VISIT)
+#undef TOLVIK_DECLARE_VISIT
+
+    bool walkChildren = true;
+    bool walkStart = false;
+
+private:
+    struct Level;
+
+    void walk(xml_schema::type* object, const char* type);
+    void walkLevel(const Level& level);
+    void enter(xml_schema::type* object);
+    void walkPending(std::size_t first);
+
+    // Types of the objects being visited, whose members are still to be walked.
+    std::vector<Level> m_pending;
+};
+
+} // namespace tolvik

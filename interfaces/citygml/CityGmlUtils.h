@@ -1,0 +1,25 @@
+#pragma once
+
+#include "PlatformExport.h"
+
+#include <string>
+#include <vector>
+
+namespace tolvik {
+
+/// An XML namespace that a written document declares.
+struct NamespacesMap
+{
+    std::string prefix;
+    std::string name;
+    std::string schemaLocation;
+};
+
+class TOLVIK_PLATFORM_EXPORT CityGmlUtils
+{
+public:
+    /// All namespaces of CityGML and its extensions, one entry for each prefix.
+    static std::vector<NamespacesMap> getNamespaces();
+};
+
+} // namespace tolvik

@@ -1,0 +1,128 @@
+#include "citygml/CityGMLBaseVisitor.h"
+#include "platform/binding/KeptContent.h"
+#include "platform/binding/Tables.h"
+
+#include <cstddef>
+#include <typeindex>
+#include <unordered_map>
+
+namespace citygml {
+namespace binding {
+
+namespace {
+
+std::unordered_map<std::type_index, const TypeRecord*>& records()
+{
+    static auto* map = [] {
+        auto* result = new std::unordered_map<std::type_index, const TypeRecord*>;
+        result->reserve(2 * allTypesCount);
+        for (std::size_t i = 0; i < allTypesCount; ++i)
+            result->emplace(*allTypes[i]->info, allTypes[i]);
+        return result;
+    }();
+    return *map;
+}
+
+std::size_t depthOf(const TypeRecord* record)
+{
+    std::size_t depth = 0;
+    for (; record != nullptr; record = record->base)
+        ++depth;
+    return depth;
+}
+
+/// The deepest type whose objects `object` is one of. Only for classes derived outside the binding.
+const TypeRecord* nearestBase(const xml_schema::type& object)
+{
+    const TypeRecord* nearest = nullptr;
+    for (std::size_t i = 0; i < allTypesCount; ++i) {
+        const TypeRecord* candidate = allTypes[i];
+        if (candidate->isInstance(object) && (nearest == nullptr || depthOf(candidate) > depthOf(nearest)))
+            nearest = candidate;
+    }
+    return nearest;
+}
+
+} // namespace
+
+const TypeRecord* recordOf(const xml_schema::type& object)
+{
+    auto& map = records();
+    const std::type_index index(typeid(object));
+    const auto found = map.find(index);
+    if (found != map.end())
+        return found->second;
+    const TypeRecord* nearest = nearestBase(object);
+    map.emplace(index, nearest);
+    return nearest;
+}
+
+KeptContent& KeptContent::of(xml_schema::type& object)
+{
+    if (!object.m_kept)
+        object.m_kept = std::make_unique<KeptContent>();
+    return *object.m_kept;
+}
+
+} // namespace binding
+} // namespace citygml
+
+namespace xml_schema {
+
+using citygml::binding::KeptContent;
+using citygml::binding::recordOf;
+
+const std::string& TypeLabel::str() const
+{
+    static auto* labels = new std::unordered_map<const citygml::binding::TypeRecord*, std::string>;
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Winvalid-offsetof"
+    const auto* owner =
+        reinterpret_cast<const type*>(reinterpret_cast<const char*>(this) - offsetof(type, typeLabel));
+#pragma GCC diagnostic pop
+    const citygml::binding::TypeRecord* record = recordOf(*owner);
+    const auto found = labels->find(record);
+    return found != labels->end() ? found->second : labels->emplace(record, record->label).first->second;
+}
+
+type::type() = default;
+
+type::type(const type& other, ::xsd::cxx::tree::flags flags, type_base* container)
+    : type_base(other, flags, container), m_elementName(other.m_elementName), m_spelledOut(other.m_spelledOut),
+      m_kept(other.m_kept ? std::make_unique<KeptContent>(*other.m_kept) : nullptr)
+{
+}
+
+type& type::operator=(const type& other)
+{
+    if (this == &other)
+        return *this;
+    type_base::operator=(other);
+    // A value made by a program says nothing about the document, so that what the document said here stays.
+    if (other.m_elementName != 0) {
+        m_elementName = other.m_elementName;
+        m_spelledOut = other.m_spelledOut;
+        m_kept = other.m_kept ? std::make_unique<KeptContent>(*other.m_kept) : nullptr;
+    }
+    return *this;
+}
+
+type::~type() = default;
+
+type* type::_clone(::xsd::cxx::tree::flags flags, type_base* container) const
+{
+    return new type(*this, flags, container);
+}
+
+void type::_container(type_base* container)
+{
+    type_base::_container(container);
+}
+
+bool type::accept(citygml::CityGMLBaseVisitor* visitor)
+{
+    const citygml::binding::TypeRecord* record = recordOf(*this);
+    return record->visit == nullptr || record->visit(*this, *visitor);
+}
+
+} // namespace xml_schema

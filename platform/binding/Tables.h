@@ -1,0 +1,122 @@
+#pragma once
+
+#include "xml-schema.hxx"
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <typeinfo>
+
+namespace citygml {
+
+class CityGMLBaseVisitor;
+
+/// What the reader and the writer know of the schema: constant tables, generated from the schema files.
+namespace binding {
+
+struct TypeRecord;
+
+/// Meaning of the prefixes of qualified names at one place of a document.
+class NameScope
+{
+public:
+    virtual ~NameScope() = default;
+    /// \return the namespace bound to the prefix; throws ValueError for an unbound one.
+    virtual std::string namespaceOf(std::string_view prefix) const = 0;
+    /// \return a prefix that is bound to the namespace.
+    virtual std::string prefixOf(const std::string& uri) const = 0;
+};
+
+/// A text that is no value of its type; the message says which text and which type.
+struct ValueError
+{
+    std::string message;
+};
+
+/// Reads and writes the text of an object with simple content.
+struct TextOps
+{
+    /// Sets the object's value from text; throws ValueError.
+    void (*parse)(xml_schema::type& object, std::string_view text, const NameScope& scope);
+    /// Appends the object's value, not escaped.
+    void (*format)(const xml_schema::type& object, std::string& text, const NameScope& scope);
+};
+
+/// Access to one member of one class. A member holds objects, or fundamental values, which go through text.
+struct MemberOps
+{
+    /// Gives an object to the member: sets a single one, appends to a sequence. Takes ownership.
+    void (*add)(xml_schema::type& owner, xml_schema::type* child);
+    /// The same for a fundamental value; throws ValueError.
+    void (*addText)(xml_schema::type& owner, std::string_view text);
+    std::size_t (*count)(const xml_schema::type& owner);
+    const xml_schema::type& (*at)(const xml_schema::type& owner, std::size_t index);
+    void (*format)(const xml_schema::type& owner, std::size_t index, std::string& text);
+    /// Whether `add` replaces what is there.
+    bool single;
+};
+
+/// An element or attribute that a type declares.
+struct Member
+{
+    const char* uri;
+    const char* name;
+    bool isAttribute;
+    bool isRequired;
+    /// Text of a default or fixed attribute, else null.
+    const char* defaultText;
+    /// Members of a type with the same number, other than 0, stand in a repeated particle and may alternate.
+    int group;
+    /// Null for a fundamental type.
+    const TypeRecord* type;
+    const MemberOps* ops;
+};
+
+struct TypeRecord
+{
+    const char* uri;
+    const char* name;
+    const char* label;
+    const TypeRecord* base;
+    const std::type_info* info;
+    /// A new object with no member set.
+    xml_schema::type* (*create)();
+    /// Whether an object is of the type or of a class derived from it.
+    bool (*isInstance)(const xml_schema::type& object);
+    /// Calls the operation of a visitor; null for a type without one.
+    bool (*visit)(xml_schema::type& object, CityGMLBaseVisitor& visitor);
+    /// Null for a type with elements.
+    const TextOps* text;
+    /// Members that the type declares itself.
+    const Member* members;
+    std::size_t memberCount;
+    /// Values of an enumeration, else null.
+    const char* const* literals;
+    std::size_t literalCount;
+    bool isAbstract;
+    bool isMixed;
+};
+
+/// A global element.
+struct ElementRecord
+{
+    const char* uri;
+    const char* name;
+    /// Null for a fundamental type.
+    const TypeRecord* type;
+    /// Head of the element's substitution group, or null.
+    const ElementRecord* head;
+    bool isAbstract;
+};
+
+extern const TypeRecord* const allTypes[];
+extern const std::size_t allTypesCount;
+extern const ElementRecord allElements[];
+extern const std::size_t allElementsCount;
+
+/// Record of an object's dynamic type, or of the nearest base that has one. Never null: the last is `xs:anyType`.
+const TypeRecord* recordOf(const xml_schema::type& object);
+
+} // namespace binding
+} // namespace citygml
