@@ -135,6 +135,8 @@ public:
     /// Registers a provider of the host and keeps it, once however often it is added. It is asked whenever a
     /// tree is built anew for an edit; for trees that are there call reapplyPropertiesFromProviders().
     void addPropertyProvider(PropertyProvider* provider);
+
+    /// Gives the provider up; what it has added stays.
     void removePropertyProvider(PropertyProvider* provider);
 
     /// Lets all providers, in the order of their registration, add their properties to the row's property

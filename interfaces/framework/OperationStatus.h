@@ -2,6 +2,7 @@
 
 #include "PlatformExport.h"
 
+#include <chrono>
 #include <QString>
 
 namespace tolvik {
@@ -39,6 +40,7 @@ public:
     static OperationListener* setListener(OperationListener* listener);
 
 private:
+    static int levelWithin(const OperationStatus* status, const OperationListener* listener);
     void advance(long long steps);
 
     OperationListener* listener;
@@ -47,6 +49,7 @@ private:
     int level = 0;
     int clockStride = 1;
     int callsToClock = 1;
+    std::chrono::steady_clock::time_point lastClockReading;
 };
 
 } // namespace tolvik

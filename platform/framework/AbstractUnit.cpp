@@ -1,0 +1,7 @@
+#include "framework/AbstractUnit.h"
+
+namespace tolvik {
+
+AbstractUnit::~AbstractUnit() = default;
+
+} // namespace tolvik

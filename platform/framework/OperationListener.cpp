@@ -1,0 +1,7 @@
+#include "framework/OperationListener.h"
+
+namespace tolvik {
+
+OperationListener::~OperationListener() = default;
+
+} // namespace tolvik

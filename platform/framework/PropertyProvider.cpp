@@ -1,0 +1,7 @@
+#include "framework/PropertyProvider.h"
+
+namespace tolvik {
+
+PropertyProvider::~PropertyProvider() = default;
+
+} // namespace tolvik
