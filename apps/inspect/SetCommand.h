@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QString>
+
+#include <iosfwd>
+#include <string>
+
+namespace tolvik {
+class CityGMLModel;
+}
+
+namespace tolvik::inspect {
+
+/// What `tolvik-inspect set` edits.
+struct SetOptions
+{
+    /// gml:id of the feature.
+    std::string id;
+    /// Labels from the root down, joined by `/`; `[n]` behind a label takes the n-th of equal ones, counted from 1.
+    QString path;
+    /// The new value as text.
+    QString value;
+    /// File to write.
+    QString output;
+};
+
+/// Edits one value of a loaded document through its property and saves the document.
+/// Nothing is written unless the value has reached the document.
+/// \param err takes the reason of a failure
+/// \return the program's exit code: 0, or 1 on failure
+int runSet(tolvik::CityGMLModel& model, const SetOptions& options, std::ostream& err);
+
+} // namespace tolvik::inspect
