@@ -76,7 +76,7 @@ protected:
     virtual void endResetModel();
 
     /// Adds everything below a node, but not the node itself, in whole rows.
-    virtual void recursiveChildrenSelection(TreeNode* node, QItemSelection& selection);
+    virtual void recursiveChildrenSelection(TreeNode* node, QItemSelection& selected);
 
     /// Whether a node is shown as disabled: here if the row behind it is.
     virtual bool isDisabled(TreeNode* node) const;
@@ -111,8 +111,10 @@ protected:
 private:
     QList<QModelIndex> sourceRows(const QList<QModelIndex>& indexes) const;
     QModelIndex nodeIndex(TreeNode* node) const;
+    void appendChildren(const TreeNode& node, QItemSelection& selected) const;
     void clearTree();
 
+    QVector<QMetaObject::Connection> connections;
     bool recursiveSelection = false;
     bool extendingSelection = false;
 };
