@@ -7,7 +7,7 @@
 #include <memory>
 #include <string>
 
-#include <xsd/cxx/xml/dom/namespace-infomap.hxx>
+#include <xsd/cxx/xml/dom/serialization-header.hxx>
 
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"

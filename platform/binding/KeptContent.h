@@ -3,7 +3,9 @@
 #include "platform/binding/Tables.h"
 
 #include <cstdint>
+#include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace citygml {
@@ -24,21 +26,43 @@ public:
 
     enum class Kind : std::uint8_t { Text, Comment, Instruction, Element };
 
-    /// A piece of content, written back in front of the child element whose number is `position`.
+    /// A piece of content.
     struct Node
     {
         Kind kind;
+        /// It is written in front of the child element with this number, counted over the children with a member.
         std::uint32_t position;
         /// Markup as it is written, names and entities included.
         std::string xml;
     };
 
+    /// An attribute of an element that is no object, but a value of a fundamental type.
+    struct ValueAttribute
+    {
+        std::uint16_t member;
+        std::uint32_t index;
+        Attribute attribute;
+    };
+
+    /// What belongs to the document as a whole; kept with its root.
+    struct Document
+    {
+        /// Prefix and namespace of each declaration.
+        std::vector<std::pair<std::string, std::string>> namespaces;
+        /// Namespace and location, as pairs.
+        std::vector<std::pair<std::string, std::string>> schemaLocations;
+        bool hasSchemaLocation = false;
+        /// Comments and processing instructions around the root.
+        std::vector<std::string> prologue;
+        std::vector<std::string> epilogue;
+    };
+
     std::vector<Attribute> attributes;
     std::vector<Node> nodes;
-    /// Order of the child elements as numbers of members, where it is not the order of the members.
+    std::vector<ValueAttribute> valueAttributes;
+    /// Members of the children in repeated particles in the order of the document, where that alternates.
     std::vector<std::uint16_t> order;
-    /// Prefix declarations of a root element: prefix and namespace.
-    std::vector<std::pair<std::string, std::string>> namespaces;
+    std::shared_ptr<Document> document;
 
     static const KeptContent* find(const xml_schema::type& object) { return object.m_kept.get(); }
     /// The object's kept content, made on first use.
