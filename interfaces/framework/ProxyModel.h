@@ -41,7 +41,8 @@ public:
     virtual void changeObjectVisibleField(const QList<QModelIndex>& indexes, bool visible) = 0;
 
     /// While on, selecting a node selects everything below it, and deselecting it deselects everything below
-    /// it.
+    /// it. But when the selection is replaced by something below a node, the node does not take that along;
+    /// and a current node that is selected gets what is below it back when all of that is deselected at once.
     virtual void setRecursiveSelection(bool recursive) = 0;
     virtual bool isRecursiveSelection() = 0;
 

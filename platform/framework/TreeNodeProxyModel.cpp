@@ -49,6 +49,18 @@ QList<TreeNode*> nodesOf(const QItemSelection& selection)
     return nodes;
 }
 
+/// Whether one of the nodes is somewhere below another one.
+bool anyBelow(const TreeNode& top, const QList<TreeNode*>& nodes)
+{
+    return std::any_of(nodes.begin(), nodes.end(), [&top](const TreeNode* node) {
+        const TreeNode* above = node->parent();
+        while (above != nullptr && above != &top) {
+            above = above->parent();
+        }
+        return above != nullptr;
+    });
+}
+
 /// Everything below a node, parents first.
 void appendBelow(const TreeNode& node, QList<TreeNode*>& nodes)
 {
@@ -371,8 +383,8 @@ void TreeNodeProxyModel::doRecursiveSelection(const QItemSelection& selected,
 
     // A click on one node of a selected branch deselects all the others, those above the node included. The
     // node is no news to the selection, but it has been chosen anew: what is above it must not take it along,
-    // and what is below it belongs to it again. Such a change is known by the branch having lost nodes at
-    // several levels.
+    // and what is below it belongs to it again. Such a change is known by the branch having lost nodes above
+    // and below the node, or by the node being the current one.
     QSet<TreeNode*> replaced;
     QSet<TreeNode*> chosenAnew;
     const auto judge = [&](TreeNode* node, TreeNode* kept) {
@@ -395,6 +407,9 @@ void TreeNodeProxyModel::doRecursiveSelection(const QItemSelection& selected,
     const QModelIndex current = selection->currentIndex();
     if (TreeNode* const node = treeNode(current); node != nullptr && selection->isSelected(current)) {
         judge(node, node);
+        if (anyBelow(*node, offNodes) && !anyBelow(*node, nodesOf(selection->selection()))) {
+            chosenAnew.insert(node);
+        }
     }
 
     QItemSelection toDeselect;
