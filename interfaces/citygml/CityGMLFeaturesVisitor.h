@@ -40,15 +40,22 @@ public:
     bool walkStart = false;
 
 private:
-    struct Level;
+    /// An object whose type has members to walk.
+    struct Level
+    {
+        xml_schema::type* object;
+        int type;
+    };
 
-    void walk(xml_schema::type* object, const char* type);
-    void walkLevel(const Level& level);
-    void enter(xml_schema::type* object);
+    void visitLevel(xml_schema::type* object, int type);
+    void walk(const Level& level);
+    void enterContent(xml_schema::type& value);
+    void enter(xml_schema::type& object);
     void walkPending(std::size_t first);
 
-    // Types of the objects being visited, whose members are still to be walked.
+    // What a deep walk still has to enter, and where the part of the object being visited begins.
     std::vector<Level> m_pending;
+    std::size_t m_first = 0;
 };
 
 } // namespace tolvik

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "BindingExport.h"
 #include "xml-schema.hxx"
 
 #include <cstddef>
@@ -110,13 +111,13 @@ struct ElementRecord
     bool isAbstract;
 };
 
-extern const TypeRecord* const allTypes[];
-extern const std::size_t allTypesCount;
-extern const ElementRecord allElements[];
-extern const std::size_t allElementsCount;
+extern TOLVIK_BINDING_EXPORT const TypeRecord* const allTypes[];
+extern TOLVIK_BINDING_EXPORT const std::size_t allTypesCount;
+extern TOLVIK_BINDING_EXPORT const ElementRecord allElements[];
+extern TOLVIK_BINDING_EXPORT const std::size_t allElementsCount;
 
 /// Record of an object's dynamic type, or of the nearest base that has one. Never null: the last is `xs:anyType`.
-const TypeRecord* recordOf(const xml_schema::type& object);
+TOLVIK_BINDING_EXPORT const TypeRecord* recordOf(const xml_schema::type& object);
 
 } // namespace binding
 } // namespace citygml

@@ -1,0 +1,20 @@
+#include "citygml/CityGMLFeaturesFillVisitor.h"
+
+namespace tolvik {
+
+CityGMLFeaturesFillVisitor::CityGMLFeaturesFillVisitor() = default;
+CityGMLFeaturesFillVisitor::~CityGMLFeaturesFillVisitor() = default;
+
+const std::list<gml::AbstractFeatureType*>& CityGMLFeaturesFillVisitor::getModelFeatures() const
+{
+    return m_features;
+}
+
+bool CityGMLFeaturesFillVisitor::visit_gml_AbstractFeatureType(gml::AbstractFeatureType* feature)
+{
+    if (m_listed.insert(feature).second)
+        m_features.push_back(feature);
+    return CityGMLFeaturesVisitor::visit_gml_AbstractFeatureType(feature);
+}
+
+} // namespace tolvik
