@@ -7,14 +7,16 @@
 
 namespace tolvik {
 
-/// Lists the features of a document: `accept` on its root lists the root and then every feature that the walk reaches.
+/// Lists the features of a document: `accept` on its root lists the root and then every feature that the walk
+/// reaches.
 class TOLVIK_PLATFORM_EXPORT CityGMLFeaturesFillVisitor : public CityGMLFeaturesVisitor
 {
 public:
     CityGMLFeaturesFillVisitor();
     ~CityGMLFeaturesFillVisitor() override;
 
-    /// The features in the order of meeting, each once: a feature before those below it. Valid while the visitor lives.
+    /// The features in the order of meeting, each once: a feature before those below it. Valid while the
+    /// visitor lives.
     const std::list<gml::AbstractFeatureType*>& getModelFeatures() const;
 
     bool visit_gml_AbstractFeatureType(gml::AbstractFeatureType* feature) override;

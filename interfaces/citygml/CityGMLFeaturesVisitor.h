@@ -1,9 +1,9 @@
 #pragma once
 
-#include "PlatformExport.h"
 #include "citygml/CityGMLInheritVisitor.h"
 #include "citygml/FeatureVisits.h"
 #include "fondo/Referenced.h"
+#include "PlatformExport.h"
 
 #include <cstddef>
 #include <vector>
@@ -14,17 +14,21 @@ class type;
 
 namespace tolvik {
 
-/// Walks from a feature to the features below it, through the feature-valued members of the types that hold features.
+/// Walks from a feature to the features below it, through the feature-valued members of the types that hold
+/// features.
 ///
 /// Two flags steer the walk, which starts with `accept` on a feature:
 /// - `walkChildren` false: the visit stays inside the object it started on.
-/// - both true: `visit_gml_AbstractFeatureType` is reached once for the start feature and once for each feature
+/// - both true: `visit_gml_AbstractFeatureType` is reached once for the start feature and once for each
+/// feature
 ///   directly below it, and no deeper. The members of a derived type are walked before those of its bases.
-/// - `walkChildren` true, `walkStart` false: the walk goes all the way down. A feature is visited before the features
+/// - `walkChildren` true, `walkStart` false: the walk goes all the way down. A feature is visited before the
+/// features
 ///   below it, and these in document order.
 ///
 /// The flags are read during a walk and are as before when it ends.
-class TOLVIK_PLATFORM_EXPORT CityGMLFeaturesVisitor : public citygml::CityGMLInheritVisitor, public Fondo::Referenced
+class TOLVIK_PLATFORM_EXPORT CityGMLFeaturesVisitor : public citygml::CityGMLInheritVisitor,
+                                                      public Fondo::Referenced
 {
 public:
     CityGMLFeaturesVisitor();

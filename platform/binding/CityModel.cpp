@@ -19,8 +19,9 @@ void CityModel(std::ostream& stream, const CityModelType& model,
 {
     if (encoding != "UTF-8") {
         xsd::cxx::tree::diagnostics<char> diagnostics;
-        diagnostics.push_back(xsd::cxx::tree::error<char>(xsd::cxx::tree::severity::error, "document", 0, 0,
-                                                          "documents are written in UTF-8, not in '" + encoding + "'"));
+        diagnostics.push_back(
+            xsd::cxx::tree::error<char>(xsd::cxx::tree::severity::error, "document", 0, 0,
+                                        "documents are written in UTF-8, not in '" + encoding + "'"));
         throw xsd::cxx::tree::serialization<char>(diagnostics);
     }
     citygml::binding::writeDocument(stream, model, map);

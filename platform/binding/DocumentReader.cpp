@@ -152,7 +152,8 @@ public:
 
     std::unique_ptr<core::CityModelType> read()
     {
-        const std::unique_ptr<XML_ParserStruct, void (*)(XML_Parser)> parser(XML_ParserCreate(nullptr), &XML_ParserFree);
+        const std::unique_ptr<XML_ParserStruct, void (*)(XML_Parser)> parser(XML_ParserCreate(nullptr),
+                                                                             &XML_ParserFree);
         m_parser = parser.get();
         if (m_parser == nullptr)
             throw std::bad_alloc();
@@ -208,7 +209,8 @@ private:
         std::size_t orderBegin;
     };
 
-    // The parser is C: what a handler throws is kept, the parser stopped, and the exception thrown on from read().
+    // The parser is C: what a handler throws is kept, the parser stopped, and the exception thrown on from
+    // read().
     template <typename Work>
     static void guarded(void* self, Work work)
     {
@@ -245,7 +247,8 @@ private:
     }
     static void XMLCALL onText(void* self, const XML_Char* text, int length)
     {
-        guarded(self, [&](Reader& r) { r.addText(std::string_view(text, static_cast<std::size_t>(length))); });
+        guarded(self,
+                [&](Reader& r) { r.addText(std::string_view(text, static_cast<std::size_t>(length))); });
     }
     static void XMLCALL onComment(void* self, const XML_Char* text)
     {
@@ -260,7 +263,8 @@ private:
             r.addMarkup(KeptContent::Kind::Instruction, "processing instruction", "<?" + text + "?>");
         });
     }
-    static void XMLCALL onDoctype(void* self, const XML_Char*, const XML_Char* system, const XML_Char* publicId, int)
+    static void XMLCALL onDoctype(void* self, const XML_Char*, const XML_Char* system,
+                                  const XML_Char* publicId, int)
     {
         guarded(self, [&](Reader& r) {
             if (system != nullptr || publicId != nullptr)
@@ -275,7 +279,8 @@ private:
                 r.raise("the external entity '" + std::string(name) + "' is not opened");
         });
     }
-    static int XMLCALL onExternalEntity(XML_Parser parser, const XML_Char*, const XML_Char*, const XML_Char*, const XML_Char*)
+    static int XMLCALL onExternalEntity(XML_Parser parser, const XML_Char*, const XML_Char*, const XML_Char*,
+                                        const XML_Char*)
     {
         guarded(XML_GetUserData(parser), [](Reader& r) { r.raise("an external entity is not opened"); });
         return XML_STATUS_ERROR;
@@ -284,7 +289,8 @@ private:
     {
         guarded(self, [&](Reader& r) { r.raise("the entity '" + std::string(name) + "' is not declared"); });
     }
-    // The parser itself knows UTF-8, UTF-16, ISO-8859-1 and US-ASCII; other encodings of one byte come from Qt.
+    // The parser itself knows UTF-8, UTF-16, ISO-8859-1 and US-ASCII; other encodings of one byte come from
+    // Qt.
     static int XMLCALL onEncoding(void*, const XML_Char* name, XML_Encoding* encoding)
     {
         QTextCodec* codec = QTextCodec::codecForName(name);
@@ -415,8 +421,8 @@ private:
         bool isAbstract = place.isAbstract;
         for (const char** a = attributes; *a != nullptr; a += 2) {
             const char* colon = std::strchr(*a, ':');
-            if (colon != nullptr && std::strcmp(colon + 1, "type") == 0 && uriOf(RawName(*a).prefix) == xsiUri &&
-                type != nullptr)
+            if (colon != nullptr && std::strcmp(colon + 1, "type") == 0 &&
+                uriOf(RawName(*a).prefix) == xsiUri && type != nullptr)
                 isAbstract = !selectType(a[1], type);
         }
         if (isAbstract)
@@ -430,7 +436,8 @@ private:
         if (type == nullptr) {
             const bool isNil = readValueAttributes(*parent.object, place.member, attributes);
             m_text.clear();
-            m_frames.push_back({Mode::Value, isNil, parent.object, nullptr, id, place.member, 0, 0, m_order.size()});
+            m_frames.push_back(
+                {Mode::Value, isNil, parent.object, nullptr, id, place.member, 0, 0, m_order.size()});
             return true;
         }
         std::unique_ptr<xml_schema::type> created(type->record()->create());
@@ -464,7 +471,8 @@ private:
     void pushObject(xml_schema::type& object, const TypeIndex& type, NameId id, const char** attributes)
     {
         m_text.clear();
-        m_frames.push_back({type.hasText() ? Mode::Text : Mode::Children, false, &object, &type, id, -1, 0, 0, m_order.size()});
+        m_frames.push_back({type.hasText() ? Mode::Text : Mode::Children, false, &object, &type, id, -1, 0, 0,
+                            m_order.size()});
         for (const char** a = attributes; *a != nullptr; a += 2) {
             if (!isDeclaration(*a))
                 readAttribute(m_frames.back(), a[0], a[1]);
@@ -500,8 +508,8 @@ private:
         std::unique_ptr<xml_schema::type> created(member.type->record()->create());
         xml_schema::type& object = *created;
         if (auto* identifier = dynamic_cast<xml_schema::id*>(&object)) {
-            // It enters the root's identifiers when it gets its text. One that was refused must not leave them
-            // when it dies, since the entry is another's.
+            // It enters the root's identifiers when it gets its text. One that was refused must not leave
+            // them when it dies, since the entry is another's.
             ops.add(owner, created.release());
             try {
                 *identifier = collapsed(value);
@@ -552,10 +560,12 @@ private:
             isNil = isNil || (uri == xsiUri && raw.local == "nil" && isTrue(a[1]));
             count("attribute", *a);
             const TypeIndex& type = m_index.typeOf(owner);
-            const std::size_t index = type.members()[static_cast<std::size_t>(member)].member->ops->count(owner);
-            KeptContent::of(owner).valueAttributes.push_back({static_cast<std::uint16_t>(member),
-                                                              static_cast<std::uint32_t>(index),
-                                                              {std::string(raw.prefix), uri, std::string(raw.local), a[1]}});
+            const std::size_t index =
+                type.members()[static_cast<std::size_t>(member)].member->ops->count(owner);
+            KeptContent::of(owner).valueAttributes.push_back(
+                {static_cast<std::uint16_t>(member),
+                 static_cast<std::uint32_t>(index),
+                 {std::string(raw.prefix), uri, std::string(raw.local), a[1]}});
         }
         return isNil;
     }
@@ -641,7 +651,8 @@ private:
                 ++i;
                 continue;
             }
-            xml += ' ' + (i->attribute.prefix.empty() ? "" : i->attribute.prefix + ':') + i->attribute.name + "=\"";
+            xml += ' ' + (i->attribute.prefix.empty() ? "" : i->attribute.prefix + ':') + i->attribute.name +
+                   "=\"";
             appendEscapedAttribute(i->attribute.value, xml);
             xml += '"';
             i = attributes.erase(i);
@@ -658,8 +669,8 @@ private:
             return;
         for (const TypeIndex::FlatMember& member : frame.type->members()) {
             if (member.required >= 0 && (frame.met >> member.required & 1u) == 0)
-                raise(std::string("the required ") + (member.member->isAttribute ? "attribute" : "element") + " '" +
-                      nameOf(member.name) + "' is missing");
+                raise(std::string("the required ") + (member.member->isAttribute ? "attribute" : "element") +
+                      " '" + nameOf(member.name) + "' is missing");
         }
     }
 
@@ -669,8 +680,8 @@ private:
         for (std::size_t i = frame.orderBegin + 1; i < m_order.size(); ++i)
             alternates = alternates || m_order[i] < m_order[i - 1];
         if (alternates)
-            KeptContent::of(*frame.object).order.assign(
-                m_order.begin() + static_cast<std::ptrdiff_t>(frame.orderBegin), m_order.end());
+            KeptContent::of(*frame.object)
+                .order.assign(m_order.begin() + static_cast<std::ptrdiff_t>(frame.orderBegin), m_order.end());
         if (!frame.type->isMixed() || KeptContent::find(*frame.object) == nullptr)
             return;
         // White space between the elements of mixed content counts only beside text.
@@ -705,7 +716,8 @@ private:
             appendEscaped(m_text, xml);
             if (!isBlank(m_text))
                 count("text in", nameOf(frame.name).c_str());
-            KeptContent::of(*frame.object).nodes.push_back({KeptContent::Kind::Text, frame.children, std::move(xml)});
+            KeptContent::of(*frame.object)
+                .nodes.push_back({KeptContent::Kind::Text, frame.children, std::move(xml)});
         }
         m_text.clear();
     }
@@ -742,7 +754,8 @@ private:
         ++m_rawDepth;
     }
 
-    /// Declarations in scope that are not the root's go with the element, since only the root's are written back.
+    /// Declarations in scope that are not the root's go with the element, since only the root's are written
+    /// back.
     void declareLocalNamespaces(const char** attributes)
     {
         const auto& bindings = m_scopes.bindings();
@@ -753,7 +766,8 @@ private:
                 continue;
             bool isRedeclared = false;
             for (const char** a = attributes; *a != nullptr; a += 2)
-                isRedeclared = isRedeclared || (isDeclaration(*a) && binding.prefix == ((*a)[5] == ':' ? *a + 6 : ""));
+                isRedeclared =
+                    isRedeclared || (isDeclaration(*a) && binding.prefix == ((*a)[5] == ':' ? *a + 6 : ""));
             if (isRedeclared)
                 continue;
             m_raw.append(binding.prefix.empty() ? " xmlns" : " xmlns:").append(binding.prefix).append("=\"");
@@ -768,7 +782,8 @@ private:
         if (--m_rawDepth != 0)
             return;
         Frame& frame = m_frames.back();
-        KeptContent::of(*frame.object).nodes.push_back({KeptContent::Kind::Element, frame.children, std::move(m_raw)});
+        KeptContent::of(*frame.object)
+            .nodes.push_back({KeptContent::Kind::Element, frame.children, std::move(m_raw)});
         m_raw.clear();
     }
 
@@ -805,7 +820,8 @@ private:
     std::vector<std::string> m_outside;
     bool m_rootEnded = false;
 
-    log4cplus::Logger m_logger = log4cplus::Logger::getInstance(LOG4CPLUS_TEXT("tolvik.citygml.DocumentReader"));
+    log4cplus::Logger m_logger =
+        log4cplus::Logger::getInstance(LOG4CPLUS_TEXT("tolvik.citygml.DocumentReader"));
     const bool m_countsKept = m_logger.isEnabledFor(log4cplus::DEBUG_LOG_LEVEL);
     std::map<std::string, std::size_t> m_kept;
 };

@@ -96,7 +96,7 @@ public:
         for (const std::string& markup : document.prologue)
             m_out.append(markup).append(1, '\n');
         const TypeIndex& type = m_index.typeOf(model);
-        writeElement(model, type, rootName(), nullptr, 0, &document);
+        writeElement(model, type, rootName(), 0, &document);
         m_out += '\n';
         for (const std::string& markup : document.epilogue)
             m_out.append(markup).append(1, '\n');
@@ -142,9 +142,9 @@ private:
     [[noreturn]] static void reject(const std::string& name)
     {
         xsd::cxx::tree::diagnostics<char> diagnostics;
-        diagnostics.push_back(xsd::cxx::tree::error<char>(
-            xsd::cxx::tree::severity::error, "document", 0, 0,
-            "the text of '" + name + "' holds a character that XML cannot hold"));
+        diagnostics.push_back(
+            xsd::cxx::tree::error<char>(xsd::cxx::tree::severity::error, "document", 0, 0,
+                                        "the text of '" + name + "' holds a character that XML cannot hold"));
         throw xsd::cxx::tree::serialization<char>(diagnostics);
     }
 
@@ -165,7 +165,8 @@ private:
     void newLine(int depth) { m_out.append(1, '\n').append(static_cast<std::size_t>(2 * depth), ' '); }
 
     /// The tag of an object that stands in a member of its parent.
-    const Tag& tagOf(const TypeIndex& parent, int member, const xml_schema::type& object, const TypeIndex& type)
+    const Tag& tagOf(const TypeIndex& parent, int member, const xml_schema::type& object,
+                     const TypeIndex& type)
     {
         const NameId kept = KeptContent::elementName(object);
         Tag& tag = m_tags[{&parent, &type, kept, member}];
@@ -192,8 +193,8 @@ private:
         return tag;
     }
 
-    void writeElement(const xml_schema::type& object, const TypeIndex& type, const Tag& tag, const TypeIndex* parent,
-                      int depth, const KeptContent::Document* document)
+    void writeElement(const xml_schema::type& object, const TypeIndex& type, const Tag& tag, int depth,
+                      const KeptContent::Document* document)
     {
         const KeptContent* kept = KeptContent::find(object);
         m_out.append(1, '<').append(tag.name);
@@ -232,7 +233,6 @@ private:
         if (content.isIndented && content.written != 0)
             newLine(depth);
         m_out.append("</").append(tag.name).append(1, '>');
-        (void)parent;
     }
 
     /// The writing of one object's content.
@@ -338,11 +338,12 @@ private:
         }
         const xml_schema::type& child = ops.at(*content.object, index);
         const TypeIndex& type = m_index.typeOf(child);
-        writeElement(child, type, tagOf(*content.type, static_cast<int>(number), child, type), content.type,
-                     content.depth, nullptr);
+        writeElement(child, type, tagOf(*content.type, static_cast<int>(number), child, type), content.depth,
+                     nullptr);
     }
 
-    void writeValue(const Content& content, const TypeIndex::FlatMember& member, int number, std::size_t index)
+    void writeValue(const Content& content, const TypeIndex::FlatMember& member, int number,
+                    std::size_t index)
     {
         const std::string& tag = valueTag(member);
         m_out.append(1, '<').append(tag);
@@ -359,10 +360,10 @@ private:
 
     static bool isNil(const KeptContent* kept)
     {
-        return kept != nullptr &&
-               std::any_of(kept->attributes.begin(), kept->attributes.end(), [](const KeptContent::Attribute& a) {
-                   return a.uri == xsiUri && a.name == "nil";
-               });
+        return kept != nullptr && std::any_of(kept->attributes.begin(), kept->attributes.end(),
+                                              [](const KeptContent::Attribute& a) {
+                                                  return a.uri == xsiUri && a.name == "nil";
+                                              });
     }
 
     void writeDocumentAttributes(const KeptContent::Document& document)
@@ -381,12 +382,16 @@ private:
         }
         std::string text;
         for (const auto& location : locations)
-            text.append(text.empty() ? "" : " ").append(location.first).append(1, ' ').append(location.second);
+            text.append(text.empty() ? "" : " ")
+                .append(location.first)
+                .append(1, ' ')
+                .append(location.second);
         if (!text.empty())
             addAttribute(m_declared.qualifierOf(xsiUri) + ":schemaLocation", text);
     }
 
-    void writeAttributes(const xml_schema::type& object, const TypeIndex& type, const Tag& tag, const KeptContent* kept)
+    void writeAttributes(const xml_schema::type& object, const TypeIndex& type, const Tag& tag,
+                         const KeptContent* kept)
     {
         for (std::size_t i = type.elementCount(); i < type.members().size(); ++i) {
             const TypeIndex::FlatMember& member = type.members()[i];

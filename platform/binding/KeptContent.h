@@ -30,7 +30,8 @@ public:
     struct Node
     {
         Kind kind;
-        /// It is written in front of the child element with this number, counted over the children with a member.
+        /// It is written in front of the child element with this number, counted over the children with a
+        /// member.
         std::uint32_t position;
         /// Markup as it is written, names and entities included.
         std::string xml;
@@ -74,7 +75,10 @@ public:
     {
         return (object.m_spelledOut >> attribute & 1u) != 0;
     }
-    static void setSpelledOut(xml_schema::type& object, unsigned attribute) { object.m_spelledOut |= 1u << attribute; }
+    static void setSpelledOut(xml_schema::type& object, unsigned attribute)
+    {
+        object.m_spelledOut |= 1u << attribute;
+    }
 };
 
 } // namespace binding

@@ -98,8 +98,9 @@ struct Access<field>
             formatNumber(valueAt(of(owner), index), text);
     }
     static constexpr MemberOps ops = {
-        &add, &addText, &count, &at, &format,
-        !std::is_base_of_v<xsd::cxx::tree::sequence<T, fundamental>, Container<T, fundamental>>};
+        &add,    &addText,
+        &count,  &at,
+        &format, !std::is_base_of_v<xsd::cxx::tree::sequence<T, fundamental>, Container<T, fundamental>>};
 };
 
 template <auto field>

@@ -159,8 +159,10 @@ Place SchemaIndex::findPlace(const TypeIndex& type, NameId name) const
             if (candidate != name)
                 place.type = global->type != nullptr ? &typeOf(*global->type) : nullptr;
             // Only a reference to the global element takes over that it is abstract.
-            const bool isGlobal = global != nullptr && global->type == (place.type ? place.type->record() : nullptr);
-            place.isAbstract = (isGlobal && global->isAbstract) || (place.type && place.type->record()->isAbstract);
+            const bool isGlobal =
+                global != nullptr && global->type == (place.type ? place.type->record() : nullptr);
+            place.isAbstract =
+                (isGlobal && global->isAbstract) || (place.type && place.type->record()->isAbstract);
             return place;
         }
         head = head != nullptr ? head->head : nullptr;
@@ -169,7 +171,8 @@ Place SchemaIndex::findPlace(const TypeIndex& type, NameId name) const
     return Place();
 }
 
-NameId SchemaIndex::elementName(const TypeIndex& parent, int member, const TypeIndex& type, bool& needsType) const
+NameId SchemaIndex::elementName(const TypeIndex& parent, int member, const TypeIndex& type,
+                                bool& needsType) const
 {
     const TypeIndex::FlatMember& flat = parent.members()[static_cast<std::size_t>(member)];
     needsType = false;

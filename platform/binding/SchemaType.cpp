@@ -88,7 +88,8 @@ const std::string& TypeLabel::str() const
 type::type() = default;
 
 type::type(const type& other, ::xsd::cxx::tree::flags flags, type_base* container)
-    : type_base(other, flags, container), m_elementName(other.m_elementName), m_spelledOut(other.m_spelledOut),
+    : type_base(other, flags, container), m_elementName(other.m_elementName),
+      m_spelledOut(other.m_spelledOut),
       m_kept(other.m_kept ? std::make_unique<KeptContent>(*other.m_kept) : nullptr)
 {
 }

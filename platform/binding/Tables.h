@@ -116,7 +116,8 @@ extern TOLVIK_BINDING_EXPORT const std::size_t allTypesCount;
 extern TOLVIK_BINDING_EXPORT const ElementRecord allElements[];
 extern TOLVIK_BINDING_EXPORT const std::size_t allElementsCount;
 
-/// Record of an object's dynamic type, or of the nearest base that has one. Never null: the last is `xs:anyType`.
+/// Record of an object's dynamic type, or of the nearest base that has one. Never null: the last is
+/// `xs:anyType`.
 TOLVIK_BINDING_EXPORT const TypeRecord* recordOf(const xml_schema::type& object);
 
 } // namespace binding

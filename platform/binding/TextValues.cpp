@@ -140,7 +140,8 @@ public:
     double seconds()
     {
         std::size_t length = 0;
-        while (length < m_rest.size() && (m_rest[length] == '.' || (m_rest[length] >= '0' && m_rest[length] <= '9')))
+        while (length < m_rest.size() &&
+               (m_rest[length] == '.' || (m_rest[length] >= '0' && m_rest[length] <= '9')))
             ++length;
         if (length < 2 || (length > 2 && m_rest[2] != '.'))
             fail();
@@ -427,11 +428,21 @@ void parseValue(xml_schema::duration& value, std::string_view text)
         else {
             const unsigned amount = parseDecimal<unsigned>(digits, "a whole number in a duration");
             switch (place) {
-            case 0: result.years(amount); break;
-            case 1: result.months(amount); break;
-            case 2: result.days(amount); break;
-            case 3: result.hours(amount); break;
-            default: result.minutes(amount); break;
+            case 0:
+                result.years(amount);
+                break;
+            case 1:
+                result.months(amount);
+                break;
+            case 2:
+                result.days(amount);
+                break;
+            case 3:
+                result.hours(amount);
+                break;
+            default:
+                result.minutes(amount);
+                break;
             }
         }
         reader.skip(length + 1);
@@ -514,7 +525,8 @@ void formatValue(const xml_schema::duration& value, std::string& text)
 void parseName(xml_schema::qname& value, std::string_view text, const NameScope& scope)
 {
     const std::size_t colon = text.find(':');
-    const std::string_view prefix = colon == std::string_view::npos ? std::string_view() : text.substr(0, colon);
+    const std::string_view prefix =
+        colon == std::string_view::npos ? std::string_view() : text.substr(0, colon);
     const std::string local(colon == std::string_view::npos ? text : text.substr(colon + 1));
     if (local.empty())
         reject(text, "a qualified name");

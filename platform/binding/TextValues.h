@@ -9,8 +9,8 @@
 namespace citygml {
 namespace binding {
 
-/// Numbers and booleans, independent of any locale. Reading throws ValueError. Writing gives the shortest decimal text
-/// that reads back to the same bits.
+/// Numbers and booleans, independent of any locale. Reading throws ValueError. Writing gives the shortest
+/// decimal text that reads back to the same bits.
 template <typename T>
 T parseNumber(std::string_view text);
 void formatNumber(double value, std::string& text);
@@ -92,6 +92,9 @@ struct Text
             static_cast<Value&>(value) = parseNumber<Value>(trimmed(text));
         } else if constexpr (std::is_same_v<T, xml_schema::string>) {
             static_cast<std::string&>(value).assign(text);
+        } else if constexpr (std::is_same_v<T, xml_schema::uri>) {
+            // White space inside is no part of a URI, but real documents have it; it comes back as it was.
+            static_cast<std::string&>(value).assign(trimmed(text));
         } else if constexpr (std::is_base_of_v<std::string, T>) {
             static_cast<std::string&>(value) = collapsed(text);
         } else if constexpr (std::is_same_v<T, xml_schema::simple_type>) {
@@ -155,7 +158,8 @@ private:
     struct Root
     {
         template <typename V, typename C, typename B, xsd::cxx::tree::schema_type::value S>
-        static xsd::cxx::tree::fundamental_base<V, C, B, S>* select(xsd::cxx::tree::fundamental_base<V, C, B, S>*);
+        static xsd::cxx::tree::fundamental_base<V, C, B, S>*
+        select(xsd::cxx::tree::fundamental_base<V, C, B, S>*);
         static xml_schema::string* select(xml_schema::string*);
         static Item* select(void*);
         using Type = std::remove_pointer_t<decltype(select(static_cast<Item*>(nullptr)))>;

@@ -29,13 +29,20 @@ constexpr auto attributeClasses = classes(true);
 const char* entityOf(char c)
 {
     switch (c) {
-    case '&': return "&amp;";
-    case '<': return "&lt;";
-    case '>': return "&gt;";
-    case '"': return "&quot;";
-    case '\t': return "&#9;";
-    case '\n': return "&#10;";
-    default: return "&#13;";
+    case '&':
+        return "&amp;";
+    case '<':
+        return "&lt;";
+    case '>':
+        return "&gt;";
+    case '"':
+        return "&quot;";
+    case '\t':
+        return "&#9;";
+    case '\n':
+        return "&#10;";
+    default:
+        return "&#13;";
     }
 }
 
@@ -55,7 +62,8 @@ std::size_t multibyteLength(std::string_view text)
         return continues(1) && continues(2) && code >= 0x800 && !isSurrogate && code < 0xFFFE ? 3 : 0;
     }
     if (first >= 0xF0 && first < 0xF5) {
-        const unsigned code = (first & 0x07u) << 18 | (byte(1) & 0x3Fu) << 12 | (byte(2) & 0x3Fu) << 6 | (byte(3) & 0x3Fu);
+        const unsigned code =
+            (first & 0x07u) << 18 | (byte(1) & 0x3Fu) << 12 | (byte(2) & 0x3Fu) << 6 | (byte(3) & 0x3Fu);
         return continues(1) && continues(2) && continues(3) && code >= 0x10000 && code < 0x110000 ? 4 : 0;
     }
     return 0;

@@ -22,7 +22,7 @@ enum Visit {
 #define TOLVIK_VISIT_NUMBER(prefix, Type) prefix##_##Type,
     TOLVIK_FEATURE_VISITS(TOLVIK_VISIT_NUMBER)
 #undef TOLVIK_VISIT_NUMBER
-    VisitCount
+        VisitCount
 };
 
 struct Walk
@@ -31,8 +31,8 @@ struct Walk
     std::vector<const char*> members;
 };
 
-/// The members of each type that lead to features: directly, through a property, or through the hook for attributes of
-/// extensions.
+/// The members of each type that lead to features: directly, through a property, or through the hook for
+/// attributes of extensions.
 const std::vector<Walk>& walks()
 {
     static const std::vector<Walk> table = {
@@ -45,18 +45,22 @@ const std::vector<Walk>& walks()
           "consistsOfBuildingPart", "address", "_GenericApplicationPropertyOfAbstractBuilding"}},
         {bldg_AbstractBoundarySurfaceType, {"opening", "_GenericApplicationPropertyOfBoundarySurface"}},
         {bldg_BuildingInstallationType, {"boundedBy", "_GenericApplicationPropertyOfBuildingInstallation"}},
-        {bldg_IntBuildingInstallationType, {"boundedBy", "_GenericApplicationPropertyOfIntBuildingInstallation"}},
-        {bldg_RoomType, {"boundedBy", "interiorFurniture", "roomInstallation", "_GenericApplicationPropertyOfRoom"}},
+        {bldg_IntBuildingInstallationType,
+         {"boundedBy", "_GenericApplicationPropertyOfIntBuildingInstallation"}},
+        {bldg_RoomType,
+         {"boundedBy", "interiorFurniture", "roomInstallation", "_GenericApplicationPropertyOfRoom"}},
 
         {brid_AbstractBridgeType,
          {"outerBridgeConstruction", "outerBridgeInstallation", "interiorBridgeInstallation", "boundedBy",
-          "interiorBridgeRoom", "consistsOfBridgePart", "address", "_GenericApplicationPropertyOfAbstractBridge"}},
+          "interiorBridgeRoom", "consistsOfBridgePart", "address",
+          "_GenericApplicationPropertyOfAbstractBridge"}},
         {brid_AbstractBoundarySurfaceType, {"opening", "_GenericApplicationPropertyOfBoundarySurface"}},
         {brid_BridgeConstructionElementType,
          {"boundedBy", "_GenericApplicationPropertyOfBridgeConstructionElement"}},
         {brid_BridgeInstallationType, {"boundedBy", "_GenericApplicationPropertyOfBridgeInstallation"}},
         {brid_BridgeRoomType,
-         {"boundedBy", "interiorFurniture", "bridgeRoomInstallation", "_GenericApplicationPropertyOfBridgeRoom"}},
+         {"boundedBy", "interiorFurniture", "bridgeRoomInstallation",
+          "_GenericApplicationPropertyOfBridgeRoom"}},
         {brid_IntBridgeInstallationType, {"boundedBy", "_GenericApplicationPropertyOfIntBridgeInstallation"}},
 
         {tun_AbstractTunnelType,
@@ -64,7 +68,8 @@ const std::vector<Walk>& walks()
           "consistsOfTunnelPart", "_GenericApplicationPropertyOfAbstractTunnel"}},
         {tun_AbstractBoundarySurfaceType, {"opening", "_GenericApplicationPropertyOfBoundarySurface"}},
         {tun_HollowSpaceType,
-         {"boundedBy", "interiorFurniture", "hollowSpaceInstallation", "_GenericApplicationPropertyOfHollowSpace"}},
+         {"boundedBy", "interiorFurniture", "hollowSpaceInstallation",
+          "_GenericApplicationPropertyOfHollowSpace"}},
         {tun_IntTunnelInstallationType, {"boundedBy", "_GenericApplicationPropertyOfIntTunnelInstallation"}},
         {tun_TunnelInstallationType, {"boundedBy", "_GenericApplicationPropertyOfTunnelInstallation"}},
 
@@ -79,6 +84,80 @@ const std::vector<Walk>& walks()
         {dem_ReliefFeatureType, {"reliefComponent", "_GenericApplicationPropertyOfReliefFeature"}},
         {frn_CityFurnitureType, {"_GenericApplicationPropertyOfCityFurniture"}},
         {grp_CityObjectGroupType, {"groupMember", "parent", "_GenericApplicationPropertyOfCityObjectGroup"}},
+
+        {component_AbstractSurfaceComponentTypeType, {"layer"}},
+        {component_ComponentType, {"componentType"}},
+        {component_GeneralComponentTypeType, {"componentReference"}},
+        {component_OpeningComponentTypeType, {"part", "_GenericApplicationPropertyOfOpeningComponentType"}},
+        {component_WallComponentTypeType, {"opening"}},
+
+        {energy_AbstractMaterialType, {"imageTexture"}},
+        {energy_BuildingUnitType, {"occupiedBy", "equippedWith"}},
+        {energy_ConstructionType, {"layer"}},
+        {energy_EnergyConversionSystemType, {"hasOperation", "consumes", "produces"}},
+        {energy_EnergyDemandType, {"energySource", "energyDistribution", "energyStorage", "energyEmission"}},
+        {energy_FinalEnergyType, {"isProducedBy", "isConsumedBy"}},
+        {energy_LayerComponentType, {"material"}},
+        {energy_LayerType, {"layerComponent"}},
+        {energy_ReverseConstructionType, {"baseConstruction"}},
+        {energy_ThermalBoundaryType,
+         {"construction", "contains", "delimits", "_GenericApplicationPropertyOfThermalBoundary"}},
+        {energy_ThermalOpeningType, {"construction", "_GenericApplicationPropertyOfThermalOpening"}},
+        {energy_ThermalZoneType,
+         {"boundedBy", "contains", "interiorRoom", "_GenericApplicationPropertyOfThermalZone"}},
+        {energy_UsageZoneType,
+         {"contains", "occupiedBy", "equippedWith", "_GenericApplicationPropertyOfUsageZone"}},
+        {energy__SolarEnergySystemType, {"energyStorage"}},
+
+        {epadesa_BuildingInformationType, {"buildingUnit"}},
+        {epadesa_CityLightType, {"pole", "lamp"}},
+        {epadesa_PublicTransportStationType, {"post", "shelter"}},
+
+        {ladmfr_FR_ActeType, {"signature"}},
+        {ladmfr_FR_BoundaryType, {"point"}},
+        {ladmfr_FR_ParcelleCadastraleType, {"boundary", "pdl"}},
+        {ladmfr_FR_PdlLotType, {"division"}},
+        {ladmfr_FR_PdlType, {"lot"}},
+        {ladmfr_LA_BAUnitType, {"rrr", "spatialUnit", "source", "relatedBAUnit"}},
+        {ladmfr_LA_LevelType, {"spatialUnit"}},
+        {ladmfr_LA_PartyType, {"rrr", "groupParty"}},
+        {ladmfr_LA_RRRType, {"party", "baUnit", "source"}},
+        {ladmfr_LA_SpatialSourceType, {"point"}},
+        {ladmfr_LA_SpatialUnitGroupType, {"spatialUnit", "subGroup"}},
+        {ladmfr_LA_SpatialUnitType,
+         {"level", "spatialUnitGroup", "baUnit", "boundaryFaceString", "boundaryFace", "spatialSource"}},
+
+        {pivotEnergy_AbstractSystemObjectType, {"servedZone"}},
+        {pivotEnergy_AeraulicDistributionType, {"portion", "ventilationSystem"}},
+        {pivotEnergy_BlowerVentsType, {"distribution"}},
+        {pivotEnergy_ConnectedCoolingEmitterType, {"distribution"}},
+        {pivotEnergy_ConnectedEmitterType, {"heatingEmitter", "coolingEmitter"}},
+        {pivotEnergy_ConnectedHeatingEmitterType, {"distribution"}},
+        {pivotEnergy_DHWEmitterType, {"distribution"}},
+        {pivotEnergy_DistributionPortionType, {"goThrough"}},
+        {pivotEnergy_EnergyConsumptionType, {"system"}},
+        {pivotEnergy_GenerationManagementType, {"generateur", "generatorControl", "storage"}},
+        {pivotEnergy_HydraulicDistributionType, {"portion", "generation"}},
+        {pivotEnergy_OrderedComponentType, {"component"}},
+        {pivotEnergy_ReturnAirVentsType, {"distribution"}},
+        {pivotEnergy_StandaloneEmitterType, {"heatingEmitter", "coolingEmitter"}},
+        {pivotEnergy_StorageType, {"solarLoop"}},
+
+        {utility_AbstractCommodityClassifierType, {"composedOf"}},
+        {utility_AbstractCommodityType, {"isClassifiedBy"}},
+        {utility_AbstractFeatureMaterialType, {"layer"}},
+        {utility_AbstractHollowSpaceType, {"consistsOf", "contains"}},
+        {utility_AbstractLinkType, {"start", "end", "linkControl"}},
+        {utility_AbstractNetworkFeatureType,
+         {"hasMaterial", "consistsOf", "roleInNetwork", "hollowSpace", "topoGraph"}},
+        {utility_FeatureGraphType, {"nodeMember", "linkMember"}},
+        {utility_NetworkGraphType, {"featureGraphMember", "linkMember", "networkLinkMember"}},
+        {utility_NetworkType,
+         {"transportedMedium", "component", "topologyGraph", "superOrdinateNetwork", "subOrdinateNetwork",
+          "supplyArea"}},
+        {utility_NodeType, {"connectionSignature", "linkControl"}},
+        {utility_ProtectiveElementType, {"protects", "fillingMaterial"}},
+        {utility_RoleInNetworkType, {"network"}},
     };
     return table;
 }
@@ -120,7 +199,8 @@ public:
     const Shape& shapeOf(const TypeRecord* record)
     {
         const auto found = m_shapes.find(record);
-        return found != m_shapes.end() ? found->second : m_shapes.emplace(record, makeShape(record)).first->second;
+        return found != m_shapes.end() ? found->second
+                                       : m_shapes.emplace(record, makeShape(record)).first->second;
     }
 
 private:
@@ -186,11 +266,11 @@ CityGMLFeaturesVisitor& CityGMLFeaturesVisitor::operator=(const CityGMLFeaturesV
 
 CityGMLFeaturesVisitor::~CityGMLFeaturesVisitor() = default;
 
-#define TOLVIK_DEFINE_VISIT(prefix, Type)                                                                              \
-    bool CityGMLFeaturesVisitor::visit_##prefix##_##Type(prefix::Type* object)                                         \
-    {                                                                                                                  \
-        visitLevel(object, prefix##_##Type);                                                                           \
-        return citygml::CityGMLInheritVisitor::visit_##prefix##_##Type(object);                                        \
+#define TOLVIK_DEFINE_VISIT(prefix, Type)                                                                    \
+    bool CityGMLFeaturesVisitor::visit_##prefix##_##Type(prefix::Type* object)                               \
+    {                                                                                                        \
+        visitLevel(object, prefix##_##Type);                                                                 \
+        return citygml::CityGMLInheritVisitor::visit_##prefix##_##Type(object);                              \
     }
 TOLVIK_FEATURE_VISITS(TOLVIK_DEFINE_VISIT)
 #undef TOLVIK_DEFINE_VISIT
@@ -203,8 +283,8 @@ void CityGMLFeaturesVisitor::visitLevel(xml_schema::type* object, int type)
         walk({object, type});
         return;
     }
-    // The visit runs from the derived type to its bases, and the document has the members of the bases in front. So a
-    // deep walk enters them when the visit has reached the top.
+    // The visit runs from the derived type to its bases, and the document has the members of the bases in
+    // front. So a deep walk enters them when the visit has reached the top.
     m_pending.push_back({object, type});
     if (type == gml_AbstractFeatureType)
         walkPending(m_first);
