@@ -2,8 +2,24 @@
 
 #include "framework/CoreProperty.h"
 #include "gml/AbstractFeatureType.hxx"
+#include "gml/ReferenceType.hxx"
+#include "UI/Models/CityGMLModel/catalogues/Catalogue.h"
+
+#include <QUrl>
 
 namespace tolvik {
+
+namespace {
+
+/// A new group at the end of \a parent.
+CoreProperty* addGroup(CoreProperty* parent, const QString& name)
+{
+    auto* const group = new CoreProperty(name, QVariant());
+    parent->addProperty(group);
+    return group;
+}
+
+} // namespace
 
 GmlCorePropertyCreator::GmlCorePropertyCreator(bool existingOnly)
     : m_property(new CoreProperty(QString(), QVariant())), m_existingOnly(existingOnly)
@@ -22,6 +38,66 @@ CoreProperty* GmlCorePropertyCreator::createProperty(gml::AbstractFeatureType* f
 CoreProperty* GmlCorePropertyCreator::getProperty() const
 {
     return m_property;
+}
+
+CoreProperty* GmlCorePropertyCreator::getOrCreateFieldPartProp()
+{
+    if (m_fieldPart == nullptr) {
+        m_fieldPart = addGroup(m_property, QStringLiteral("Fields"));
+    }
+    return m_fieldPart;
+}
+
+CoreProperty* GmlCorePropertyCreator::getOrCreateRootADEPartProp(const QString& name)
+{
+    CoreProperty*& part = m_adeParts[name];
+    if (part == nullptr) {
+        if (m_adeRoot == nullptr) {
+            m_adeRoot = addGroup(m_property, QStringLiteral("Properties"));
+        }
+        part = addGroup(m_adeRoot, name);
+    }
+    return part;
+}
+
+/// A group that several rows share: the one of that name, or else a new one.
+CoreProperty* GmlCorePropertyCreator::getOrCreateProperty(CoreProperty* parent, const QString& name)
+{
+    CoreProperty* const group = parent->getProperty(name, false);
+    return group != nullptr ? group : addGroup(parent, name);
+}
+
+/// What a reference points to, or an invalid variant.
+QVariant GmlCorePropertyCreator::getReferenceUrl(const gml::ReferenceType& reference)
+{
+    return reference.href().present()
+               ? QVariant(QUrl(QString::fromStdString(reference.href().get()), QUrl::TolerantMode))
+               : QVariant();
+}
+
+/// Visits an object inside the feature; its rows go to \a group.
+void GmlCorePropertyCreator::enter(CoreProperty* group, xml_schema::type& object)
+{
+    CoreProperty* const outer = m_currentParent;
+    m_currentParent = group;
+    object.accept(this);
+    m_currentParent = outer;
+}
+
+CoreProperty* GmlCorePropertyCreator::Place::find(GmlCorePropertyCreator& creator) const
+{
+    switch (m_kind) {
+    case Kind::Extension:
+        return creator.getOrCreateRootADEPartProp(m_name);
+    case Kind::Group:
+        return m_group;
+    case Kind::Current:
+        return creator.m_currentParent != nullptr ? creator.m_currentParent
+                                                  : creator.getOrCreateFieldPartProp();
+    case Kind::Fields:
+        break;
+    }
+    return creator.getOrCreateFieldPartProp();
 }
 
 } // namespace tolvik

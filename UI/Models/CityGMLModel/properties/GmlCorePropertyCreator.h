@@ -1,13 +1,27 @@
 #pragma once
 
 #include "UI/Models/CityGMLModel/properties/CityGMLPropertiesVisitor.h"
+#include "UI/Models/CityGMLModel/properties/PropertyVisits.h"
+
+#include <QMap>
+#include <QString>
+#include <QVariant>
 
 namespace tolvik {
 
 class CoreProperty;
 
-/// Builds the property tree of one feature. One creator serves one feature: a second one would add its rows to the
-/// first one's tree.
+/// Builds the property tree of one feature:
+/// \code
+/// (root)
+///   Properties            rows of the extensions
+///     Energy, Epadesa ...   one group for each extension
+///   Fields                rows of GML, CityGML core and the thematic modules
+/// \endcode
+/// A group is there if it has rows, and groups stand in the order of first use. The rows of a derived type
+/// come before those of its bases.
+///
+/// One creator serves one feature: a second one would add its rows to the first one's tree.
 /// \code
 /// GmlCorePropertyCreator creator;
 /// feature->accept(&creator);
@@ -16,7 +30,8 @@ class CoreProperty;
 class CITYGMLMODEL_EXPORT GmlCorePropertyCreator : public CityGMLPropertiesVisitor
 {
 public:
-    /// \param existingOnly true: an absent attribute gets no property. False: it gets an empty one, and setting that
+    /// \param existingOnly true: an absent attribute gets no property. False: it gets an empty one, and
+    /// setting that
     ///                     brings the attribute into being.
     explicit GmlCorePropertyCreator(bool existingOnly = true);
     ~GmlCorePropertyCreator() override;
@@ -28,8 +43,32 @@ public:
     /// Root of the tree, with an empty name and no value; never null. The creator does not own it.
     CoreProperty* getProperty() const;
 
+#define TOLVIK_DECLARE_VISIT(prefix, Type) bool visit_##prefix##_##Type(prefix::Type* object) override;
+    TOLVIK_PROPERTY_VISITS(TOLVIK_DECLARE_VISIT)
+#undef TOLVIK_DECLARE_VISIT
+
 private:
+    class Place;
+    template <class OwnerClass>
+    class Rows;
+    class GenericRows;
+
+    void visit_abstractBuilding_genericProperties(bldg::AbstractBuildingType* building);
+    void visit_auxiliaryTrafficArea_genericProperties(tran::AuxiliaryTrafficAreaType* area);
+    void visit_cityFurniture_genericProperties(frn::CityFurnitureType* furniture);
+    void visit_trafficArea_genericProperties(tran::TrafficAreaType* area);
+
+    CoreProperty* getOrCreateFieldPartProp();
+    CoreProperty* getOrCreateRootADEPartProp(const QString& name);
+    CoreProperty* getOrCreateProperty(CoreProperty* parent, const QString& name);
+    QVariant getReferenceUrl(const gml::ReferenceType& reference);
+    void enter(CoreProperty* group, xml_schema::type& object);
+
     CoreProperty* m_property;
+    CoreProperty* m_fieldPart = nullptr;
+    CoreProperty* m_adeRoot = nullptr;
+    QMap<QString, CoreProperty*> m_adeParts;
+    CoreProperty* m_currentParent = nullptr;
     bool m_existingOnly;
 };
 

@@ -1,0 +1,112 @@
+#pragma once
+
+// Bodies of the property classes; included where the classes are instantiated.
+
+#include "UI/Models/CityGMLModel/properties/GmlEnumAttributeProperty.h"
+#include "UI/Models/CityGMLModel/properties/GmlEnumGenericApplicationAttributeProperty.h"
+#include "UI/Models/CityGMLModel/properties/ValueConversion.h"
+
+namespace tolvik {
+
+/// Gives a property the unit that the document names; an empty name leaves it without one.
+void setDocumentUnit(CoreProperty& property, const xml_schema::uri& uom);
+
+template <class Owner, class Value>
+GmlAttributeProperty<Owner, Value>::GmlAttributeProperty(Owner* owner, const QString& label,
+                                                         ConstGetter constGetter, MutableGetter mutableGetter,
+                                                         const xml_schema::uri& uom)
+    : CoreProperty(label, QVariant()), m_owner(owner), m_constGetter(constGetter),
+      m_mutableGetter(mutableGetter), m_uom(uom)
+{
+    setDocumentUnit(*this, m_uom);
+}
+
+template <class Owner, class Value>
+GmlAttributeProperty<Owner, Value>::~GmlAttributeProperty() = default;
+
+template <class Owner, class Value>
+QVariant GmlAttributeProperty<Owner, Value>::value()
+{
+    return toQVariant<Value>((m_owner->*m_constGetter)());
+}
+
+template <class Owner, class Value>
+void GmlAttributeProperty<Owner, Value>::setValue(const QVariant& value)
+{
+    CoreProperty::setValue(value);
+    assignQVariant<Value>((m_owner->*m_mutableGetter)(), value, m_uom);
+}
+
+template <class Owner, class Value>
+QVariant GmlAttributeProperty<Owner, Value>::defaultValue() const
+{
+    return tolvik::defaultValue<Value>();
+}
+
+template <class Owner, class Value>
+bool GmlAttributeProperty<Owner, Value>::editable() const
+{
+    return true;
+}
+
+template <class Owner, class Value>
+GmlEnumAttributeProperty<Owner, Value>::GmlEnumAttributeProperty(Owner* owner, const QString& label,
+                                                                 ConstGetter constGetter,
+                                                                 MutableGetter mutableGetter)
+    : GmlAttributeProperty<Owner, Value>(owner, label, constGetter, mutableGetter, xml_schema::uri(""))
+{
+    this->m_potentialValues = getEnumList<Value>();
+}
+
+template <class Owner, class Value>
+GmlEnumAttributeProperty<Owner, Value>::~GmlEnumAttributeProperty() = default;
+
+template <class Poly, class Value>
+GmlGenericApplicationAttributeProperty<Poly, Value>::GmlGenericApplicationAttributeProperty(
+    Poly* owner, const QString& label, const xml_schema::uri& uom)
+    : CoreProperty(label, QVariant()), m_owner(owner), m_uom(uom)
+{
+    setDocumentUnit(*this, m_uom);
+}
+
+template <class Poly, class Value>
+GmlGenericApplicationAttributeProperty<Poly, Value>::~GmlGenericApplicationAttributeProperty() = default;
+
+template <class Poly, class Value>
+QVariant GmlGenericApplicationAttributeProperty<Poly, Value>::value()
+{
+    return toQVariant<Value>(static_cast<const Value&>(*m_owner));
+}
+
+template <class Poly, class Value>
+void GmlGenericApplicationAttributeProperty<Poly, Value>::setValue(const QVariant& value)
+{
+    // The part of the object that is the value; the rest of it, such as the name of its element, stays.
+    assignQVariant<Value>(static_cast<Value&>(*m_owner), value, m_uom);
+}
+
+template <class Poly, class Value>
+QVariant GmlGenericApplicationAttributeProperty<Poly, Value>::defaultValue() const
+{
+    return tolvik::defaultValue<Value>();
+}
+
+template <class Poly, class Value>
+bool GmlGenericApplicationAttributeProperty<Poly, Value>::editable() const
+{
+    return false;
+}
+
+template <class Poly, class Value>
+GmlEnumGenericApplicationAttributeProperty<Poly, Value>::GmlEnumGenericApplicationAttributeProperty(
+    Poly* owner, const QString& label, xml_schema::uri uom)
+    : GmlGenericApplicationAttributeProperty<Poly, Value>(owner, label, uom)
+{
+    this->m_potentialValues = getEnumList<Value>();
+}
+
+template <class Poly, class Value>
+GmlEnumGenericApplicationAttributeProperty<Poly, Value>::~GmlEnumGenericApplicationAttributeProperty() =
+    default;
+
+} // namespace tolvik
