@@ -1,0 +1,663 @@
+#include "UI/Models/CityGMLModel/CityGMLProxyModel.h"
+
+#include "framework/OperationStatus.h"
+#include "framework/TextConversion.h"
+#include "gml/AbstractFeatureType.hxx"
+#include "gml/CodeType.hxx"
+#include "UI/Models/CityGMLModel/CityGMLModel.h"
+#include "UI/Models/CityGMLModel/CityGMLProxyModelTraverseChildrenGMLVisitor.h"
+#include "UI/Models/CityGMLModel/CityGMLProxyModelTraverseNoApparencesVisitor.h"
+
+#include <algorithm>
+#include <log4cplus/loggingmacros.h>
+#include <QAction>
+#include <QCoreApplication>
+#include <QDataStream>
+#include <QItemSelectionModel>
+#include <QMimeData>
+#include <QSet>
+#include <QSharedPointer>
+
+namespace tolvik {
+
+namespace {
+
+constexpr int nameColumn = 0;
+constexpr int typeColumn = 1;
+constexpr int columns = 2;
+
+constexpr int selectionGroup = 2;
+
+const char iconDirectory[] = ":/CityGMLModel/";
+const char defaultIcon[] = "default";
+
+/// The types that have an icon. OuterCeilingSurface has no picture, and shows none.
+const char* const icons[] = {
+    "Appearance",
+    "Bridge",
+    "Building",
+    "CityFurniture",
+    "CityModel",
+    "CityObjectGroup",
+    "Door",
+    "ElectricBoard",
+    "GroundSurface",
+    "LandUse",
+    "Linky",
+    "Luminaire",
+    "OuterCeilingSurface",
+    "PlantCover",
+    "Railway",
+    "ReliefFeature",
+    "Road",
+    "RoofSurface",
+    "SolitaryVegetationObject",
+    "WallSurface",
+    "Window",
+    defaultIcon,
+};
+
+QString iconPath(const QString& typeLabel)
+{
+    return QLatin1String(iconDirectory) + typeLabel + QLatin1String(".png");
+}
+
+TreeNodeGML* asGML(TreeNode* node)
+{
+    return dynamic_cast<TreeNodeGML*>(node);
+}
+
+gml::AbstractFeatureType* featureOf(TreeNode* node)
+{
+    const TreeNodeGML* const gmlNode = asGML(node);
+    return gmlNode != nullptr ? gmlNode->feature() : nullptr;
+}
+
+bool isBelow(const TreeNode* node, const TreeNode* top)
+{
+    while (node != nullptr && node != top) {
+        node = node->parent();
+    }
+    return node != nullptr;
+}
+
+int checkState(bool isVisible)
+{
+    return isVisible ? Qt::Checked : Qt::Unchecked;
+}
+
+} // namespace
+
+const char* const CityGMLProxyModel::MimeType = "application/x-modelkeylist";
+
+CityGMLProxyModel::CityGMLProxyModel(const QString& name, QObject* parent)
+    : TreeNodeProxyModel(name, parent), traversalVisitor(new CityGMLProxyModelTraverseNoApparencesVisitor),
+      traverseChildrenVisitor(new CityGMLProxyModelTraverseChildrenGMLVisitor(nodeMap))
+{
+    logger =
+        log4cplus::Logger::getInstance(LOG4CPLUS_TEXT("tolvik.UI.Models.CityGMLModel.CityGMLProxyModel"));
+    if (QCoreApplication::instance() == nullptr) {
+        return; // icons need one
+    }
+    for (const char* const each : icons) {
+        const QString path = iconPath(QLatin1String(each));
+        iconMap.insert(path, QIcon(path));
+    }
+}
+
+CityGMLProxyModel::~CityGMLProxyModel() = default;
+
+CityGMLModel* CityGMLProxyModel::document() const
+{
+    return static_cast<CityGMLModel*>(source.data());
+}
+
+void CityGMLProxyModel::setTraversalVisitor(CityGMLFeaturesVisitor* visitor)
+{
+    traversalVisitor = visitor;
+    rebuildForHost();
+}
+
+void CityGMLProxyModel::setTraverseChildrenVisitor(CityGMLProxyModelTraverseChildrenVisitor* visitor)
+{
+    traverseChildrenVisitor = visitor;
+    rebuildForHost();
+}
+
+void CityGMLProxyModel::rebuildForHost()
+{
+    if (source != nullptr && !sourceBusy) {
+        emit aboutToBeChanged();
+        computeNodeMap();
+        emit changed();
+    }
+}
+
+void CityGMLProxyModel::resetModel()
+{
+    beginResetModel();
+    nodeMap.clear();
+    rootNodes.clear();
+    endResetModel();
+}
+
+bool CityGMLProxyModel::isAccepted(gml::AbstractFeatureType* feature) const
+{
+    return feature->accept(traversalVisitor.get());
+}
+
+void CityGMLProxyModel::computeNodeMap()
+{
+    if (source == nullptr) {
+        return;
+    }
+    beginResetModel();
+    nodeMap.clear();
+    rootNodes.clear();
+    // A document's features lie in memory much in the order of its rows, so that an entry goes next to the
+    // last one.
+    auto entry = nodeMap.end();
+    const int rows = document()->rowCount(QModelIndex());
+    for (int row = 0; row < rows; ++row) {
+        gml::AbstractFeatureType* const feature = document()->getFeature(row);
+        if (isAccepted(feature)) {
+            entry = nodeMap.try_emplace(entry, feature);
+            entry->second.emplace_back(new TreeNodeGML(feature, nullptr));
+        }
+    }
+    updateTreeNodes();
+    endResetModel();
+}
+
+void CityGMLProxyModel::updateTreeNodes()
+{
+    if (traverseChildrenVisitor) {
+        fillChildren();
+    }
+    linkChildren();
+    collectRoots();
+}
+
+void CityGMLProxyModel::fillChildren()
+{
+    CityGMLProxyModelTraverseChildrenVisitor& visitor = *traverseChildrenVisitor;
+    OperationStatus status(tr("Building Proxy Nodes"), static_cast<long long>(nodeMap.size()), true);
+    visitor.setTraversalVisitor(traversalVisitor.get());
+    for (const auto& [feature, nodes] : nodeMap) {
+        for (const auto& node : nodes) {
+            if (node) {
+                visitor.setTreeNode(node.get());
+                visitor.walkStart = true;
+                feature->accept(&visitor);
+            }
+            status.addStep(1);
+        }
+    }
+}
+
+void CityGMLProxyModel::linkChildren()
+{
+    OperationStatus status(tr("Building Nodes Parent/Children relashionship"),
+                           static_cast<long long>(nodeMap.size()), true);
+    for (const auto& [feature, nodes] : nodeMap) {
+        for (const auto& node : nodes) {
+            int row = 0;
+            for (const auto& child : node->children()) {
+                if (child) {
+                    child->setParent(node.get());
+                    child->setChildNumber(row);
+                } else {
+                    LOG4CPLUS_ERROR(logger, LOG4CPLUS_STRING_TO_TSTRING(logPrefix())
+                                                << " updateTreeNodes() : " << node.get()
+                                                << " has nil children");
+                }
+                ++row;
+            }
+        }
+        status.addStep(1);
+    }
+}
+
+void CityGMLProxyModel::collectRoots()
+{
+    OperationStatus status(tr("Building Root nodes"), static_cast<long long>(nodeMap.size()), true);
+    int row = 0;
+    for (const auto& [feature, nodes] : nodeMap) {
+        for (const auto& node : nodes) {
+            if (node->parent() == nullptr) {
+                node->setChildNumber(row++);
+                rootNodes.append(node);
+            }
+        }
+        status.addStep(1);
+    }
+}
+
+bool CityGMLProxyModel::deleteTreeNode(TreeNode* node)
+{
+    if (node == nullptr) {
+        return false;
+    }
+    auto& children = node->children();
+    TreeNodeGML* const gmlNode = asGML(node);
+    if (gmlNode == nullptr) {
+        for (std::size_t count = children.size(); count > 0; --count) {
+            deleteTreeNode(children.front().get());
+        }
+        return true;
+    }
+    gml::AbstractFeatureType* const feature = gmlNode->feature();
+    const auto entry = nodeMap.find(feature);
+    if (entry == nodeMap.end()) {
+        return false;
+    }
+    auto& nodes = entry->second;
+    const auto position = std::find(nodes.begin(), nodes.end(), gmlNode);
+    if (position == nodes.end()) {
+        return false;
+    }
+    for (std::size_t i = 0, count = children.size(); i < count; ++i) {
+        deleteTreeNode(children[i].get());
+    }
+    nodes.erase(position);
+    if (!nodes.empty()) {
+        return false;
+    }
+    emit featureRemovedFromModel(feature);
+    nodeMap.erase(entry);
+    return true;
+}
+
+core::CityModelType* CityGMLProxyModel::cityGML() const
+{
+    return source != nullptr ? document()->cityGML() : nullptr;
+}
+
+TreeNode* CityGMLProxyModel::treeNode(const QModelIndex& index)
+{
+    return TreeNodeProxyModel::treeNode(index);
+}
+
+TreeNodeGML* CityGMLProxyModel::treeNode(gml::AbstractFeatureType* feature) const
+{
+    const auto entry = nodeMap.find(feature);
+    return entry != nodeMap.end() ? entry->second.front().get() : nullptr;
+}
+
+gml::AbstractFeatureType* CityGMLProxyModel::getFeature(const QModelIndex& index)
+{
+    return featureOf(treeNode(index));
+}
+
+gml::AbstractFeatureType* CityGMLProxyModel::getFeatureParent(std::string id) const
+{
+    return getFeatureParent(document()->getFeature(id));
+}
+
+gml::AbstractFeatureType* CityGMLProxyModel::getFeatureParent(gml::AbstractFeatureType* feature) const
+{
+    return featureOf(treeNode(feature)->parent());
+}
+
+QModelIndex CityGMLProxyModel::index(int row, int column, const QModelIndex& parent) const
+{
+    return TreeNodeProxyModel::index(row, column, parent);
+}
+
+QModelIndex CityGMLProxyModel::index(int row, int column, TreeNode* node) const
+{
+    return TreeNodeProxyModel::index(row, column, node);
+}
+
+QModelIndex CityGMLProxyModel::index(gml::AbstractFeatureType* feature) const
+{
+    if (source == nullptr || feature == nullptr) {
+        return QModelIndex();
+    }
+    return mapFromSource(document()->index(feature));
+}
+
+QModelIndex CityGMLProxyModel::mapFromSource(const QModelIndex& index) const
+{
+    if (source == nullptr || sourceBusy || !index.isValid()) {
+        return QModelIndex();
+    }
+    TreeNodeGML* const node = treeNode(document()->getFeature(index));
+    if (node == nullptr) {
+        return QModelIndex();
+    }
+    const int row = node->childNumber();
+    if (row <= -1) {
+        LOG4CPLUS_WARN(logger, LOG4CPLUS_TEXT("[") << LOG4CPLUS_STRING_TO_TSTRING(objectName().toStdString())
+                                                   << "] mapFromSource row unset : " << node);
+        return QModelIndex();
+    }
+    return createIndex(row, index.column(), node);
+}
+
+QList<QModelIndex> CityGMLProxyModel::listFromSource(const QModelIndex& index) const
+{
+    QList<QModelIndex> indexes;
+    if (source == nullptr || sourceBusy || !index.isValid()) {
+        return indexes;
+    }
+    const auto entry = nodeMap.find(document()->getFeature(index));
+    if (entry == nodeMap.end()) {
+        return indexes;
+    }
+    for (const auto& node : entry->second) {
+        const int row = node->childNumber();
+        if (row != -1) {
+            indexes.append(createIndex(row, index.column(), node.get()));
+        } else {
+            LOG4CPLUS_WARN(logger, LOG4CPLUS_STRING_TO_TSTRING(logPrefix())
+                                       << " listFromSource row unset : " << node.get());
+        }
+    }
+    return indexes;
+}
+
+QModelIndex CityGMLProxyModel::mapToSource(const QModelIndex& index) const
+{
+    if (source == nullptr || sourceBusy || !index.isValid()) {
+        return QModelIndex();
+    }
+    const QModelIndex row = document()->index(getFeature(index));
+    return row.isValid() ? document()->index(row.row(), index.column(), row.parent()) : row;
+}
+
+std::string CityGMLProxyModel::logPrefix() const
+{
+    const std::string name = objectName().toStdString();
+    return "[" + name + "] " + name + "(" + source->objectName().toStdString() + ")";
+}
+
+void CityGMLProxyModel::sourceDataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight)
+{
+    if (topLeft != bottomRight) {
+        const QItemSelection changedNodes = mapSelectionFromSource(QItemSelection(topLeft, bottomRight));
+        for (const QItemSelectionRange& range : changedNodes) {
+            emit dataChanged(range.topLeft(), range.bottomRight());
+        }
+        return;
+    }
+    const QModelIndex changedNode = mapFromSource(topLeft);
+    if (!changedNode.isValid()) {
+        return;
+    }
+    if (TreeNodeGML* const node = asGML(treeNode(changedNode))) {
+        const auto& names = node->feature()->name();
+        if (!names.empty()) {
+            node->setName(Fondo::String::fromUTF8(names.front()));
+        }
+    }
+    emit dataChanged(changedNode, changedNode);
+}
+
+void CityGMLProxyModel::rowsInsertedInSourceModel(const QModelIndex& /*parent*/, int start, int /*end*/)
+{
+    if (source == nullptr) {
+        return;
+    }
+    gml::AbstractFeatureType* const feature = document()->getFeature(start);
+    if (feature == nullptr || !isAccepted(feature)) {
+        return;
+    }
+    TreeNodeGML* const node = new TreeNodeGML(feature, nullptr);
+    nodeMap[feature].emplace_back(node);
+    rootNodes.clear();
+    updateTreeNodes();
+
+    QModelIndex parentIndex;
+    if (TreeNodeGML* const parentNode = asGML(node->parent())) {
+        parentIndex = index(parentNode->childNumber(), nameColumn, parentNode);
+    }
+    beginInsertRows(parentIndex, node->childNumber(), node->childNumber());
+    endInsertRows();
+    renewPersistentIndexes(nullptr);
+}
+
+void CityGMLProxyModel::rowsAboutToBeRemovedInSourceModel(const QModelIndex& parent, int start, int /*end*/)
+{
+    if (source == nullptr) {
+        return;
+    }
+    gml::AbstractFeatureType* const feature = document()->getFeature(start);
+    bool isGone = false;
+    for (auto entry = nodeMap.find(feature); !isGone && entry != nodeMap.end();
+         entry = nodeMap.find(feature)) {
+        const Fondo::RefPtr<TreeNodeGML> node = entry->second.front();
+        QModelIndex parentIndex;
+        if (const TreeNode* const parentNode = node->parent()) {
+            parentIndex = index(parentNode->childNumber(), nameColumn, parent);
+        }
+        beginRemoveRows(parentIndex, node->childNumber(), node->childNumber());
+        takeOut(node.get());
+        isGone = deleteTreeNode(node.get());
+        endRemoveRows();
+        renewPersistentIndexes(node.get());
+    }
+    nodeMap.erase(feature);
+}
+
+/// Takes a node from where it stands, and numbers the nodes behind it.
+void CityGMLProxyModel::takeOut(TreeNode* node)
+{
+    const int row = node->childNumber();
+    if (TreeNode* const parentNode = node->parent()) {
+        auto& siblings = parentNode->children();
+        // A node whose feature was moved in the document still has the parent that no longer holds it.
+        if (row < static_cast<int>(siblings.size()) && siblings[static_cast<std::size_t>(row)] == node) {
+            siblings.erase(siblings.begin() + row);
+        }
+        parentNode->renumberChildren();
+        return;
+    }
+    rootNodes.removeAt(row);
+    for (int i = 0; i < rootNodes.size(); ++i) {
+        rootNodes[i]->setChildNumber(i);
+    }
+}
+
+/// Brings persistent indexes in step with the tree where the signals did not tell all: an insertion can move
+/// other nodes, and a removal below the second level is signalled for another parent. Nothing may refer to a
+/// removed node when it dies. \param removed a node that has been taken out, or null
+void CityGMLProxyModel::renewPersistentIndexes(const TreeNode* removed)
+{
+    QModelIndexList from;
+    QModelIndexList to;
+    const QModelIndexList indexes = persistentIndexList();
+    for (const QModelIndex& each : indexes) {
+        TreeNode* const node = treeNode(each);
+        if (removed != nullptr && isBelow(node, removed)) {
+            from.append(each);
+            to.append(QModelIndex());
+        } else if (each.row() != node->childNumber()) {
+            from.append(each);
+            to.append(createIndex(node->childNumber(), each.column(), node));
+        }
+    }
+    changePersistentIndexList(from, to);
+}
+
+int CityGMLProxyModel::columnCount(const QModelIndex& /*parent*/) const
+{
+    return columns;
+}
+
+QVariant CityGMLProxyModel::data(const QModelIndex& index, int role) const
+{
+    if (source == nullptr || sourceBusy) {
+        return QVariant();
+    }
+    TreeNode* const node = treeNode(index);
+    if (node == nullptr) {
+        return QVariant();
+    }
+    const TreeNodeGML* const gmlNode = asGML(node);
+    const int column = index.column();
+    switch (role) {
+    case Qt::DisplayRole:
+    case Qt::EditRole:
+        if (column == nameColumn) {
+            return toQString(node->getName());
+        }
+        if (column == typeColumn && gmlNode != nullptr) {
+            return QString::fromStdString(gmlNode->feature()->typeLabel);
+        }
+        break;
+    case Qt::DecorationRole:
+        if (column == nameColumn && gmlNode != nullptr) {
+            return icon(gmlNode->feature()->typeLabel);
+        }
+        break;
+    case Qt::CheckStateRole:
+        if (!checkColumnEnabled) {
+            return QVariant();
+        }
+        if (column == nameColumn) {
+            return recursiveCheckState(index);
+        }
+        // A source that keeps account of what it is asked is asked twice for this.
+        TreeNodeProxyModel::data(index, role);
+        break;
+    default:
+        break;
+    }
+    return TreeNodeProxyModel::data(index, role);
+}
+
+QIcon CityGMLProxyModel::icon(const std::string& typeLabel) const
+{
+    const auto found = iconMap.constFind(iconPath(QString::fromStdString(typeLabel)));
+    return found != iconMap.constEnd() ? *found : iconMap.value(iconPath(QLatin1String(defaultIcon)));
+}
+
+QVariant CityGMLProxyModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
+        return QVariant();
+    }
+    switch (section) {
+    case nameColumn:
+        return tr("Name");
+    case typeColumn:
+        return tr("Type");
+    default:
+        return tr("unknown");
+    }
+}
+
+QVariant CityGMLProxyModel::recursiveCheckState(const QModelIndex& index) const
+{
+    TreeNodeGML* const node = asGML(treeNode(index));
+    if (node == nullptr) {
+        return TreeNodeProxyModel::recursiveCheckState(index);
+    }
+    const auto stateOf = [this](TreeNode* each) {
+        return checkState(document()->isVisible(document()->index(featureOf(each))));
+    };
+    const int state = stateOf(node);
+    const auto& children = node->children();
+    const bool isMixed = std::any_of(children.begin(), children.end(),
+                                     [&](const auto& child) { return stateOf(child.get()) != state; });
+    return isMixed ? static_cast<int>(Qt::PartiallyChecked) : state;
+}
+
+bool CityGMLProxyModel::isDisabled(TreeNode* node) const
+{
+    const TreeNodeGML* const gmlNode = asGML(node);
+    return source != nullptr && gmlNode != nullptr && document()->isDisabled(gmlNode->feature());
+}
+
+int CityGMLProxyModel::defaultExpandDepth()
+{
+    return 0;
+}
+
+void CityGMLProxyModel::createActions()
+{
+    TreeNodeProxyModel::createActions();
+    const QSharedPointer<QAction> action(new QAction(tr("Select siblings of same type"), this));
+    action->setToolTip(tr("Select all brothers of the same type"));
+    connect(action.data(), SIGNAL(triggered()), this, SLOT(selectSiblingsWithSameType()));
+    actions.append(new Action(action, this, selectionGroup, tr("Select")));
+}
+
+void CityGMLProxyModel::selectSiblings(bool sameType, bool /*reserved*/)
+{
+    if (selectionModel() == nullptr || sourceBusy) {
+        return;
+    }
+    TreeNode* const node = treeNode(selectionModel()->currentIndex());
+    gml::AbstractFeatureType* const feature = featureOf(node);
+    if (feature == nullptr || node->parent() == nullptr) {
+        return;
+    }
+    QItemSelection siblings;
+    const int lastColumn = columnCount(QModelIndex()) - 1;
+    const auto children = node->parent()->children();
+    int row = 0;
+    for (const auto& child : children) {
+        const gml::AbstractFeatureType* const childFeature = featureOf(child.get());
+        if (childFeature != nullptr && (!sameType || childFeature->typeLabel == feature->typeLabel.str())) {
+            siblings.append(QItemSelectionRange(index(row, nameColumn, child.get()),
+                                                index(row, lastColumn, child.get())));
+        }
+        ++row;
+    }
+    if (!siblings.isEmpty()) {
+        selectionModel()->select(siblings, QItemSelectionModel::Select);
+    }
+}
+
+QStringList CityGMLProxyModel::mimeTypes() const
+{
+    return {QLatin1String(MimeType)};
+}
+
+QMimeData* CityGMLProxyModel::mimeData(const QModelIndexList& indexes) const
+{
+    if (indexes.isEmpty()) {
+        return nullptr;
+    }
+    QByteArray keys;
+    QDataStream stream(&keys, QIODevice::WriteOnly);
+    encodeData(indexes, stream);
+    auto* const mimeData = new QMimeData;
+    mimeData->setData(QLatin1String(MimeType), keys);
+    return mimeData;
+}
+
+void CityGMLProxyModel::encodeData(const QList<QModelIndex>& indexes, QDataStream& stream) const
+{
+    if (source == nullptr) {
+        return;
+    }
+    QSet<qint64> keys;
+    for (const QModelIndex& each : indexes) {
+        keys.insert(document()->getRow(getFeature(each)));
+    }
+    for (const qint64 key : qAsConst(keys)) {
+        stream << key;
+    }
+}
+
+QList<QModelIndex> CityGMLProxyModel::decodeData(QDataStream& stream) const
+{
+    QList<QModelIndex> rows;
+    if (source == nullptr) {
+        return rows;
+    }
+    while (!stream.atEnd()) {
+        qint64 key = 0;
+        stream >> key;
+        const QModelIndex row = document()->index(document()->getFeature(static_cast<int>(key)));
+        if (row.isValid()) {
+            rows.append(row);
+        }
+    }
+    return rows;
+}
+
+} // namespace tolvik

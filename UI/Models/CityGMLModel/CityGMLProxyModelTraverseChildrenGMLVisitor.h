@@ -1,0 +1,20 @@
+#pragma once
+
+#include "UI/Models/CityGMLModel/CityGMLProxyModelTraverseChildrenVisitor.h"
+
+namespace tolvik {
+
+/// Makes the nodes of the features directly below a feature the children of its node, in the order of the
+/// walk. Of a feature with several nodes it takes the oldest.
+class CITYGMLMODEL_EXPORT CityGMLProxyModelTraverseChildrenGMLVisitor
+    : public CityGMLProxyModelTraverseChildrenVisitor
+{
+public:
+    explicit CityGMLProxyModelTraverseChildrenGMLVisitor(NodeMap& nodes);
+    CityGMLProxyModelTraverseChildrenGMLVisitor(const CityGMLProxyModelTraverseChildrenGMLVisitor& other);
+    ~CityGMLProxyModelTraverseChildrenGMLVisitor() override;
+
+    bool visit_gml_AbstractFeatureType(gml::AbstractFeatureType* feature) override;
+};
+
+} // namespace tolvik

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "UI/Models/CityGMLModel/CityGMLProxyModelTraverseAllVisitor.h"
+
+namespace tolvik {
+
+/// Says which features of a document CityGMLProxyModel shows: all but appearances.
+class CITYGMLMODEL_EXPORT CityGMLProxyModelTraverseNoApparencesVisitor
+    : public CityGMLProxyModelTraverseAllVisitor
+{
+public:
+    CityGMLProxyModelTraverseNoApparencesVisitor();
+    CityGMLProxyModelTraverseNoApparencesVisitor(const CityGMLProxyModelTraverseNoApparencesVisitor& other);
+    CityGMLProxyModelTraverseNoApparencesVisitor&
+    operator=(const CityGMLProxyModelTraverseNoApparencesVisitor& other);
+    ~CityGMLProxyModelTraverseNoApparencesVisitor() override;
+
+    bool visit_gml_AbstractFeatureType(gml::AbstractFeatureType* feature) override;
+};
+
+} // namespace tolvik

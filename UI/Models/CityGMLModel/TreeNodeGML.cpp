@@ -1,0 +1,24 @@
+#include "UI/Models/CityGMLModel/TreeNodeGML.h"
+
+#include "gml/AbstractFeatureType.hxx"
+#include "gml/CodeType.hxx"
+
+namespace tolvik {
+
+TreeNodeGML::TreeNodeGML(gml::AbstractFeatureType* feature, TreeNode* parent)
+    : TreeNode(parent), schemaFeature(feature)
+{
+    if (feature == nullptr) {
+        return;
+    }
+    const auto& names = feature->name();
+    name = names.empty() ? Fondo::String(feature->typeLabel.str()) : Fondo::String::fromUTF8(names.front());
+}
+
+TreeNodeGML::TreeNodeGML(const TreeNodeGML& other) = default;
+
+TreeNodeGML& TreeNodeGML::operator=(const TreeNodeGML& other) = default;
+
+TreeNodeGML::~TreeNodeGML() = default;
+
+} // namespace tolvik

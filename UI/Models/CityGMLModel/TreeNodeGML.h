@@ -1,0 +1,32 @@
+#pragma once
+
+#include "framework/TreeNode.h"
+#include "UI/Models/CityGMLModel/CityGMLModelExport.h"
+
+namespace gml {
+class AbstractFeatureType;
+}
+
+namespace tolvik {
+
+/// A position in the feature tree. It has the type record of TreeNode: a cast tells the two apart, isOfType()
+/// does not.
+class CITYGMLMODEL_EXPORT TreeNodeGML : public TreeNode
+{
+public:
+    /// A node named after the feature: by the first of its names, else by its type. The name stays when that
+    /// of the feature changes. \param feature what the node stands for, not owned; null leaves the name empty
+    TreeNodeGML(gml::AbstractFeatureType* feature, TreeNode* parent);
+
+    TreeNodeGML(const TreeNodeGML& other);
+    TreeNodeGML& operator=(const TreeNodeGML& other);
+    ~TreeNodeGML() override;
+
+    /// Owned by the document, with which it goes.
+    gml::AbstractFeatureType* feature() const { return schemaFeature; }
+
+private:
+    gml::AbstractFeatureType* schemaFeature;
+};
+
+} // namespace tolvik
