@@ -27,6 +27,7 @@ struct PropertiesOptions
 /// \param out takes the trees, in UTF-8
 /// \param err takes the reason of a failure
 /// \return the program's exit code: 0, or 1 for a selection that selects nothing
-int runProperties(tolvik::CityGMLModel& model, const PropertiesOptions& options, std::ostream& out, std::ostream& err);
+int runProperties(tolvik::CityGMLModel& model, const PropertiesOptions& options, std::ostream& out,
+                  std::ostream& err);
 
 } // namespace tolvik::inspect

@@ -16,7 +16,8 @@ struct SetOptions
 {
     /// gml:id of the feature.
     std::string id;
-    /// Labels from the root down, joined by `/`; `[n]` behind a label takes the n-th of equal ones, counted from 1.
+    /// Labels from the root down, joined by `/`; `[n]` behind a label takes the n-th of equal ones, counted
+    /// from 1.
     QString path;
     /// The new value as text.
     QString value;

@@ -1,0 +1,178 @@
+#include "SetCommand.h"
+
+#include "framework/CoreProperty.h"
+#include "gml/AbstractFeatureType.hxx"
+#include "SaveDocument.h"
+#include "UI/Models/CityGMLModel/CityGMLModel.h"
+#include "UI/Models/CityGMLModel/properties/GmlCorePropertyCreator.h"
+
+#include <algorithm>
+#include <ostream>
+#include <QDateTime>
+#include <QHash>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QStringList>
+#include <QUrl>
+#include <stdexcept>
+#include <typeinfo>
+
+namespace tolvik::inspect {
+namespace {
+
+/// The edit cannot be done; what() says why.
+struct EditError : std::runtime_error
+{
+    explicit EditError(const QString& reason) : std::runtime_error(reason.toStdString()) {}
+};
+
+gml::AbstractFeatureType* findFeature(const CityGMLModel& model, const std::string& id)
+{
+    gml::AbstractFeatureType* const feature = model.getFeature(id);
+    // The model also finds features without an identifier, under a name of its own.
+    if (feature == nullptr || !feature->id().present() || feature->id().get() != id) {
+        throw EditError(QStringLiteral("no feature has the gml:id %1").arg(QString::fromStdString(id)));
+    }
+    return feature;
+}
+
+/// The property that a path leads to, or null. A label may hold a slash or brackets itself, so that each
+/// child is tried that the path can mean.
+CoreProperty* findBelow(const CoreProperty& parent, const QStringRef& path)
+{
+    QHash<QString, int> seen;
+    for (const auto& child : parent.properties()) {
+        const int number = ++seen[child->name()];
+        QStringList names{QStringLiteral("%1[%2]").arg(child->name()).arg(number)};
+        if (number == 1) {
+            names += child->name();
+        }
+        for (const QString& name : names) {
+            if (path == name) {
+                return child.get();
+            }
+            CoreProperty* const found = path.startsWith(name + QLatin1Char('/'))
+                                            ? findBelow(*child, path.mid(name.size() + 1))
+                                            : nullptr;
+            if (found != nullptr) {
+                return found;
+            }
+        }
+    }
+    return nullptr;
+}
+
+/// The entries of a list: those of a JSON array, or the text as the only one.
+QVariantList listFromText(const QString& text)
+{
+    const QJsonDocument document = QJsonDocument::fromJson(text.toUtf8());
+    return document.isArray() ? document.array().toVariantList() : QVariantList{text};
+}
+
+/// A text as a value of the kind that the property has. Invalid if it is none.
+QVariant valueFromText(const QString& text, const QVariant& example)
+{
+    bool fits = true;
+    QVariant value;
+    switch (static_cast<QMetaType::Type>(example.userType())) {
+    case QMetaType::Double:
+        value = text.toDouble(&fits);
+        break;
+    case QMetaType::Int:
+    case QMetaType::LongLong:
+        value = text.toLongLong(&fits);
+        break;
+    case QMetaType::ULongLong:
+        value = text.toULongLong(&fits);
+        break;
+    case QMetaType::Bool:
+        fits = text == QLatin1String("true") || text == QLatin1String("false");
+        value = text == QLatin1String("true");
+        break;
+    case QMetaType::QDate:
+        value = QDate::fromString(text, Qt::ISODate);
+        fits = value.toDate().isValid();
+        break;
+    case QMetaType::QDateTime:
+        value = QDateTime::fromString(text, Qt::ISODate);
+        fits = value.toDateTime().isValid();
+        break;
+    case QMetaType::QVariantList:
+        value = listFromText(text);
+        break;
+    default:
+        value = text;
+    }
+    return fits ? value : QVariant();
+}
+
+/// Whether the document now says what was asked for.
+bool isSame(const QVariant& now, const QVariant& asked)
+{
+    if (now.userType() == QMetaType::QVariantList) {
+        const QVariantList list = now.toList();
+        const QVariantList askedList = asked.toList();
+        return list.size() == askedList.size() &&
+               std::equal(list.begin(), list.end(), askedList.begin(), isSame);
+    }
+    if (now.userType() == QMetaType::QUrl) {
+        return now.toUrl() == QUrl(asked.toString(), QUrl::TolerantMode);
+    }
+    if (now.userType() == QMetaType::Double) {
+        bool isNumber = false;
+        return now.toDouble() == asked.toDouble(&isNumber) && isNumber;
+    }
+    return now.isValid() && now.toString() == asked.toString();
+}
+
+/// Writes the value into the document.
+/// \throws EditError if the document would not hold the value then
+void edit(CoreProperty& property, const QString& text)
+{
+    if (typeid(property) == typeid(CoreProperty)) {
+        throw EditError(QStringLiteral("%1 cannot be edited").arg(property.name()));
+    }
+    const QVariant current = property.value();
+    const QVariantList literals = property.potentialValues();
+    const QVariant value = literals.isEmpty()
+                               ? valueFromText(text, current.isValid() ? current : property.defaultValue())
+                               : QVariant(text);
+    if (!value.isValid() || (!literals.isEmpty() && !literals.contains(value))) {
+        throw EditError(QStringLiteral("%1 cannot be \"%2\"").arg(property.name(), text));
+    }
+    property.setValue(value);
+    if (!isSame(property.value(), value)) {
+        throw EditError(QStringLiteral("%1 cannot be set to \"%2\"").arg(property.name(), text));
+    }
+}
+
+/// Edits the value that a path leads to, of an existing attribute or else of one that is made.
+void edit(gml::AbstractFeatureType* feature, const QString& path, const QString& value)
+{
+    for (const bool existingOnly : {true, false}) {
+        const Fondo::RefPtr<CoreProperty> root =
+            GmlCorePropertyCreator::createProperty(feature, existingOnly);
+        if (CoreProperty* const property = findBelow(*root, QStringRef(&path))) {
+            edit(*property, value);
+            return;
+        }
+    }
+    throw EditError(QStringLiteral("the feature has no property %1").arg(path));
+}
+
+} // namespace
+
+int runSet(tolvik::CityGMLModel& model, const SetOptions& options, std::ostream& err)
+{
+    try {
+        gml::AbstractFeatureType* const feature = findFeature(model, options.id);
+        edit(feature, options.path, options.value);
+        model.propertyChanged(model.index(feature), true);
+    } catch (const EditError& error) {
+        err << "tolvik-inspect: " << error.what() << '\n';
+        return 1;
+    }
+    return saveDocument(model, options.output, err) ? 0 : 1;
+}
+
+} // namespace tolvik::inspect
