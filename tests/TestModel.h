@@ -31,7 +31,8 @@ public:
 
     TestItem* addItem(const QString& name, TestItem* parent)
     {
-        beginInsertRows(QModelIndex(), rowCount(), rowCount());
+        const int row = static_cast<int>(items.size());
+        beginInsertRows(QModelIndex(), row, row);
         items.push_back(std::make_unique<TestItem>(TestItem{name, parent}));
         visibility.append(false);
         properties.append(Fondo::RefPtr<tolvik::CoreProperty>(new tolvik::CoreProperty(name, QVariant())));

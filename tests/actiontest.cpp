@@ -31,8 +31,9 @@ private slots:
     void ownsTheEntry()
     {
         const QStringListModel model;
-        const QPointer<QAction> entry = new QAction("text");
-        RefPtr<Action> action = new Action(QSharedPointer<QAction>(entry.data()), &model, 0, "");
+        QSharedPointer<QAction> shared(new QAction("text"));
+        const QPointer<QAction> entry = shared.data();
+        RefPtr<Action> action = new Action(std::move(shared), &model, 0, "");
         QVERIFY(!entry.isNull());
         action = nullptr;
         QVERIFY(entry.isNull());

@@ -61,8 +61,8 @@ private slots:
     void hasAParent()
     {
         QWidget parent;
-        const auto* const dialog = new EditRangeDialog({}, &parent);
-        QCOMPARE(dialog->parentWidget(), &parent);
+        const EditRangeDialog dialog({}, &parent);
+        QCOMPARE(dialog.parentWidget(), &parent);
     }
 };
 

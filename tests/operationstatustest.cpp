@@ -57,7 +57,7 @@ private slots:
         Recorder recorder;
         QVERIFY(OperationStatus::setListener(&recorder) == nullptr);
         for (int i = 0; i < 3; ++i) {
-            const OperationStatus status(QString::number(i), i * 10, i != 1);
+            const OperationStatus status(QString::number(i), i * 10LL, i != 1);
         }
         QCOMPARE(recorder.lines, QStringList({"begin 0 0 blocking 0", "end 0", "begin 1 10 free 0", "end 0",
                                               "begin 2 20 blocking 0", "end 0"}));

@@ -7,7 +7,6 @@
 
 using Fondo::RefPtr;
 using tolvik::Action;
-using tolvik::ProxyModel;
 
 namespace {
 

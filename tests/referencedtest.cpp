@@ -54,17 +54,19 @@ class ReferencedTest : public QObject
 private slots:
     void countStartsAtZeroAndLastReferenceDeletes()
     {
+        int deathsOnTheStack = 0;
+        const Counted fresh(&deathsOnTheStack);
+        QCOMPARE(fresh.referenceCount(), 0);
+
         int deaths = 0;
-        auto* const object = new Counted(&deaths);
-        QCOMPARE(object->referenceCount(), 0);
         {
-            const RefPtr<Counted> first = object;
-            QCOMPARE(object->referenceCount(), 1);
+            const RefPtr<Counted> first = new Counted(&deaths);
+            QCOMPARE(first->referenceCount(), 1);
             {
                 const RefPtr<Counted> second(first);
-                QCOMPARE(object->referenceCount(), 2);
+                QCOMPARE(second->referenceCount(), 2);
             }
-            QCOMPARE(object->referenceCount(), 1);
+            QCOMPARE(first->referenceCount(), 1);
             QCOMPARE(deaths, 0);
         }
         QCOMPARE(deaths, 1);
@@ -160,6 +162,7 @@ private slots:
         int deaths = 0;
         const RefPtr<Counted> original = new Counted(&deaths);
         const RefPtr<Counted> second = original;
+        QCOMPARE(second->referenceCount(), 2);
         const RefPtr<Counted> copy = new Counted(*original);
         QCOMPARE(copy->referenceCount(), 1);
         *copy = *original;

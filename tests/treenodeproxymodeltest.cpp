@@ -8,7 +8,6 @@
 #include <QStringListModel>
 #include <QtTest>
 
-using tolvik::Model;
 using tolvik::TreeNode;
 
 namespace {

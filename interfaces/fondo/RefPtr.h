@@ -28,7 +28,13 @@ public:
 
     ~RefPtr() { release(object); }
 
-    RefPtr& operator=(const RefPtr& other) { return *this = other.object; }
+    RefPtr& operator=(const RefPtr& other)
+    {
+        if (this != &other) {
+            assign(other.object);
+        }
+        return *this;
+    }
 
     RefPtr& operator=(RefPtr&& other) noexcept
     {
@@ -38,14 +44,9 @@ public:
         return *this;
     }
 
-    /// Takes the new object before it releases the old one, since the old one may own the new one.
     RefPtr& operator=(T* other)
     {
-        if (object != other) {
-            T* const old = std::exchange(object, other);
-            acquire();
-            release(old);
-        }
+        assign(other);
         return *this;
     }
 
@@ -55,6 +56,16 @@ public:
     explicit operator bool() const { return object != nullptr; }
 
 private:
+    /// Takes the new object before it releases the old one, since the old one may own the new one.
+    void assign(T* other)
+    {
+        if (object != other) {
+            T* const old = std::exchange(object, other);
+            acquire();
+            release(old);
+        }
+    }
+
     void acquire() const
     {
         if (object != nullptr) {

@@ -28,6 +28,8 @@ Clock::time_point lastReport;
 
 } // namespace
 
+// By value, as hosts with a framework of their own declare it.
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
 OperationStatus::OperationStatus(QString title, long long totalSteps, bool blocking)
     : listener(registeredListener), outer(innermost)
 {

@@ -35,7 +35,8 @@ constexpr double stepMetres = 100.0;
 
 CityGMLViewSettingsWidget::CityGMLViewSettingsWidget(QWidget* parent) : QWidget(parent)
 {
-    auto* const layout = new QFormLayout(this);
+    auto* const layout = new QFormLayout;
+    setLayout(layout);
     for (std::size_t i = 0; i < lines.size(); ++i) {
         auto* const box = new QDoubleSpinBox(this);
         box->setRange(0.0, largestRange);
