@@ -47,7 +47,8 @@ void logError(const log4cplus::Logger& logger, const SchemaError& error, int lin
 
 CityGMLModel::CityGMLModel(ModelInterface* plugin, QObject* parent)
     : Model(plugin, parent),
-      logger(log4cplus::Logger::getInstance(LOG4CPLUS_TEXT("tolvik.UI.Models.CityGMLModel"))), correctGuid(false)
+      logger(log4cplus::Logger::getInstance(LOG4CPLUS_TEXT("tolvik.UI.Models.CityGMLModel"))),
+      correctGuid(false)
 {
 }
 
@@ -95,7 +96,8 @@ QVariant CityGMLModel::data(const QModelIndex& index, int role) const
             const auto& names = feature->name();
             return names.empty() ? tr("<unset>") : QString::fromStdString(names.front());
         }
-        return index.column() == typeColumn ? QVariant(QString::fromStdString(feature->typeLabel)) : QVariant();
+        return index.column() == typeColumn ? QVariant(QString::fromStdString(feature->typeLabel))
+                                            : QVariant();
     case Qt::CheckStateRole:
         if (index.column() == nameColumn) {
             return static_cast<int>(isVisible(index) ? Qt::Checked : Qt::Unchecked);
@@ -108,7 +110,8 @@ QVariant CityGMLModel::data(const QModelIndex& index, int role) const
 
 bool CityGMLModel::setData(const QModelIndex& index, const QVariant& value, int role)
 {
-    if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::EditRole) || index.column() != nameColumn) {
+    if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::EditRole) ||
+        index.column() != nameColumn) {
         return false;
     }
     const gml::CodeType name(value.toString().toStdString());
@@ -165,7 +168,8 @@ void CityGMLModel::load(std::istream& stream)
     beginResetModel();
     clearModel();
     try {
-        cityModel = core::CityModel(stream, xsd::cxx::tree::flags::dont_validate, xsd::cxx::tree::properties<char>());
+        cityModel =
+            core::CityModel(stream, xsd::cxx::tree::flags::dont_validate, xsd::cxx::tree::properties<char>());
     } catch (const SchemaError& error) {
         logError(logger, error, __LINE__);
     }
@@ -212,7 +216,8 @@ bool CityGMLModel::saveAs(const QString& path, bool flag)
 bool CityGMLModel::doSave(const QString& path, bool /*flag*/)
 {
     const auto failure = [this] {
-        return std::runtime_error("CityGML::save : Unable to save file " + fileName.toLocal8Bit().toStdString());
+        return std::runtime_error("CityGML::save : Unable to save file " +
+                                  fileName.toLocal8Bit().toStdString());
     };
     if (cityModel.get() == nullptr) {
         throw failure(); // before the file is cut to nothing
@@ -317,8 +322,8 @@ void CityGMLModel::setSelectedIds(const QStringList& ids)
                                                  index(row, lastColumn, QModelIndex())));
         }
     }
-    selectionModel()->select(selection,
-                             QItemSelectionModel::Clear | QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    selectionModel()->select(selection, QItemSelectionModel::Clear | QItemSelectionModel::Select |
+                                            QItemSelectionModel::Rows);
 }
 
 QList<QModelIndex> CityGMLModel::getIndexList(const QStringList& ids) const
@@ -524,8 +529,8 @@ void CityGMLModel::reallyDoHideAll()
     showAlls(false);
 }
 
-// Hiding and showing differ on purpose in what they test and announce: a list is hidden unseen, so that a host can rely
-// on hearing of every row that it asked to hide.
+// Hiding and showing differ on purpose in what they test and announce: a list is hidden unseen, so that a
+// host can rely on hearing of every row that it asked to hide.
 
 void CityGMLModel::reallyDoHide(const QModelIndex& index)
 {

@@ -22,8 +22,8 @@ class AbstractFeatureType;
 
 namespace tolvik {
 
-/// One CityGML document as a list of two columns, name and type: a row for each feature, however deep it lies in
-/// the document. CityGMLProxyModel makes a tree of it.
+/// One CityGML document as a list of two columns, name and type: a row for each feature, however deep it lies
+/// in the document. CityGMLProxyModel makes a tree of it.
 /// \code
 /// CityGMLModel model(plugin, nullptr);
 /// model.load("town.gml");
@@ -32,11 +32,11 @@ namespace tolvik {
 ///     ...
 /// }
 /// \endcode
-/// The model owns the document. Rows, indexes and property trees point into it: they end with the next load, and
-/// between the signals of a reset they must not be touched.
+/// The model owns the document. Rows, indexes and property trees point into it: they end with the next load,
+/// and between the signals of a reset they must not be touched.
 ///
-/// Errors of the schema library are logged as "tolvik.UI.Models.CityGMLModel". Used on the thread that owns the
-/// model.
+/// Errors of the schema library are logged as "tolvik.UI.Models.CityGMLModel". Used on the thread that owns
+/// the model.
 class CITYGMLMODEL_EXPORT CityGMLModel : public Model
 {
     Q_OBJECT
@@ -48,8 +48,8 @@ public:
 
     using QObject::parent;
 
-    /// The index of a row, with the feature as internal pointer. Invalid under a valid \a parent and for a row that is
-    /// not there; the column is not looked at.
+    /// The index of a row, with the feature as internal pointer. Invalid under a valid \a parent and for a
+    /// row that is not there; the column is not looked at.
     QModelIndex index(int row, int column, const QModelIndex& parent = QModelIndex()) const override;
     QModelIndex parent(const QModelIndex& child) const override;
 
@@ -59,12 +59,13 @@ public:
     /// Always 2.
     int columnCount(const QModelIndex& parent = QModelIndex()) const override;
 
-    /// Name and type of the feature for display and editing, and in column 0 the visibility as check state. The file
-    /// name for an invalid index and Qt::UserRole. Invalid without a document.
+    /// Name and type of the feature for display and editing, and in column 0 the visibility as check state.
+    /// The file name for an invalid index and Qt::UserRole. Invalid without a document.
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
 
-    /// Renames the feature of a row: the first of its names is replaced, or made. The model stays as dirty as it was.
-    /// \return false, with nothing done, unless \a index is in column 0 and \a role is that of display or editing
+    /// Renames the feature of a row: the first of its names is replaced, or made. The model stays as dirty as
+    /// it was.
+    /// \return false, with nothing done, unless the index is in column 0 and the role display or editing
     bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
 
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
@@ -80,31 +81,32 @@ public:
     /// \param url where the document comes from; its path, with `_` for each `/`, becomes the file name
     void load(QIODevice* device, const QUrl& url) override;
 
-    /// Replaces the document by the one that the stream holds, from its position to its end, within one model reset.
-    /// The document is not validated. If it cannot be read, an error is logged and the document and the rows are as
-    /// before. The file name and the dirty state stay; the document is dirty only if identifiers were generated.
+    /// Replaces the document by the one that the stream holds, from its position to its end, within one model
+    /// reset. The document is not validated. If it cannot be read, an error is logged and the document and
+    /// the rows are as before. The file name and the dirty state stay; the document is dirty only if
+    /// identifiers were generated.
     void load(std::istream& stream) override;
 
-    /// Loads a file, see load(std::istream&), and puts its directory in front of the paths on which referenced files
-    /// are searched. A file that cannot be opened leaves the document and the file name as they were, but no rows.
+    /// Loads a file, see load(std::istream&), and puts its directory in front of the paths on which
+    /// referenced files are searched. A file that cannot be opened leaves the document and the file name as
+    /// they were, but no rows.
     void load(const QString& path) override;
 
     /// Replaces the document by a ready one, within one model reset.
     /// \param document taken over; null leaves the model without a document
     void load(std::auto_ptr<core::CityModelType> document);
 
-    /// Writes the document to its file.
-    /// \param flag without effect
-    /// \return true
-    /// \throws std::runtime_error where the document cannot be written, which is logged, or where there is none. That
-    ///         the file cannot be opened or is cut short by a full disk is not noticed.
+    /// Writes the document to its file. That the file cannot be opened, or is cut short by a full disk, is
+    /// not noticed. \param flag without effect \return true \throws std::runtime_error where the document
+    /// cannot be written, which is logged, or there is none
     bool save(bool flag) override;
 
-    /// Writes the document to \a path, which becomes its file name. As save() otherwise; the text of the error names
-    /// the former file name.
+    /// Writes the document to \a path, which becomes its file name. As save() otherwise; the text of the
+    /// error names the former file name.
     bool saveAs(const QString& path, bool flag) override;
 
-    /// Hides the row if it is visible, and sends representationAboutToBeChanged(). It is not shown again here.
+    /// Hides the row if it is visible, and sends representationAboutToBeChanged(). It is not shown again
+    /// here.
     void reset(const QModelIndex& index) override;
 
     /// Nothing: rows have no place of their own to be brought into sight.
@@ -118,7 +120,8 @@ public:
     /// Adds each row's identifier to one of the two lists.
     void getVisibilityIds(QStringList& hiddenIds, QStringList& visibleIds) const override;
 
-    /// Makes the listed rows, and no others, visible or hidden. Texts that are no numbers of rows are ignored.
+    /// Makes the listed rows, and no others, visible or hidden. Texts that are no numbers of rows are
+    /// ignored.
     void setVisibilityIds(const QStringList& ids, bool visible) override;
 
     /// Adds the identifiers of the rows that are selected over their whole width.
@@ -127,12 +130,13 @@ public:
     /// Selects the listed rows and nothing else. Texts that are no numbers of rows are ignored.
     void setSelectedIds(const QStringList& ids) override;
 
-    /// One index of column 0 for each identifier: row 0 for a text that is no number, invalid for a row that is not
-    /// there.
+    /// One index of column 0 for each identifier: row 0 for a text that is no number, invalid for a row that
+    /// is not there.
     QList<QModelIndex> getIndexList(const QStringList& ids) const override;
 
-    /// Marks the document as changed and announces the row with the role Qt::UserRole. An invalid index is ignored.
-    /// \param rebuild first builds the row's property tree anew; the former tree dies with its last reference
+    /// Marks the document as changed and announces the row with the role Qt::UserRole. An invalid index is
+    /// ignored.
+    /// \param rebuild first builds the row's property tree anew; the former one is given up
     void propertyChanged(const QModelIndex& index, bool rebuild) override;
 
     /// "CityGML 2.0".
@@ -168,21 +172,21 @@ public:
     /// The row of a feature, -1 if it has none.
     int getRow(gml::AbstractFeatureType* feature) const;
 
-    /// Adds a row at the end and builds its property tree. Sends no signal: addFeature() does that, or the caller
-    /// brackets it in a reset.
+    /// Adds a row at the end and builds its property tree. Sends no signal: addFeature() does that, or the
+    /// caller brackets it in a reset.
     /// \throws xsd::cxx::tree::duplicate_id<char> if a generated identifier is in use
     void append(gml::AbstractFeatureType* feature);
 
-    /// Whether append() gives an identifier to a feature that has none, and so makes the document dirty. False at
-    /// first. Rows that are there are left alone until the next rebuild.
+    /// Whether append() gives an identifier to a feature that has none, and so makes the document dirty.
+    /// False at first. Rows that are there are left alone until the next rebuild.
     void setCorrectGuid(bool correct);
 
-    /// Adds a row at the end for a feature of the document. Null, or a feature that has a row, is ignored. Where the
-    /// feature stands in the document is the caller's business.
+    /// Adds a row at the end for a feature of the document. Null, or a feature that has a row, is ignored.
+    /// Where the feature stands in the document is the caller's business.
     void addFeature(gml::AbstractFeatureType* feature);
 
-    /// Takes away the row of a feature, but not the rows of the features below it. The feature stays where it is in
-    /// the document.
+    /// Takes away the row of a feature, but not the rows of the features below it. The feature stays where it
+    /// is in the document.
     /// \param feature one that has a row, with the identifier that it had when its row was added
     void removeFeature(gml::AbstractFeatureType* feature);
 

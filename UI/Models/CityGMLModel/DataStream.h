@@ -12,8 +12,8 @@ class OperationStatus;
 
 namespace boost::iostreams {
 
-/// Lets a `boost::iostreams::stream` read and write a QDataStream, and so lets a reader of standard streams read a
-/// QIODevice. It cannot seek.
+/// Lets a `boost::iostreams::stream` read and write a QDataStream, and so lets a reader of standard streams
+/// read a QIODevice. It cannot seek.
 /// \code
 /// QDataStream data(device);
 /// boost::iostreams::stream<boost::iostreams::DataStream> stream(&data);
@@ -33,8 +33,8 @@ public:
     /// \return how many characters of \a s were written; -1 on an error
     std::streamsize write(const char* s, std::streamsize n);
 
-    /// What reports the progress of reading a stream; a device looks its own up when it is made. Devices enter their
-    /// stream, with null where it was not known.
+    /// What reports the progress of reading a stream; a device looks its own up when it is made. Devices
+    /// enter their stream, with null where it was not known.
     static QHash<QDataStream*, tolvik::OperationStatus*> statusByStream;
 
 private:

@@ -1,7 +1,7 @@
 #pragma once
 
-// What almost every unit of the library reads: Qt and the base of the schema binding. The schema classes stay out, so
-// that a change of a schema does not build this anew.
+// What almost every unit of the library reads: Qt and the base of the schema binding. The schema classes stay
+// out, so that a change of a schema does not build this anew.
 #include "xml-schema.hxx"
 
 #include <map>

@@ -7,13 +7,15 @@ namespace tolvik {
 
 class CityGMLViewSettingsWidget;
 
-/// Edits the view settings of a city model: the vector holds the five numbers of a CityGMLViewSettings, in its order.
+/// Edits the view settings of a city model: the vector holds the five numbers of a CityGMLViewSettings, in
+/// its order.
 class CITYGMLMODEL_EXPORT GmlEditRangeDialog : public EditRangeDialog
 {
     Q_OBJECT
 
 public:
-    /// \param ranges the five numbers; missing ones are those of default settings, and further ones are ignored
+    /// \param ranges the five numbers; missing ones are those of default settings, and further ones are
+    /// ignored
     explicit GmlEditRangeDialog(const QVector<double>& ranges, QWidget* parent = nullptr);
     ~GmlEditRangeDialog() override;
 
