@@ -279,10 +279,11 @@ private slots:
         auto* const provider = new Provider("once", &deaths);
         provider->onCall = [&] { model.removePropertyProvider(provider); };
         model.addPropertyProvider(provider);
-        model.addPropertyProvider(new Provider("other", &deaths));
+        model.addPropertyProvider(new Provider("second", &deaths));
+        model.addPropertyProvider(new Provider("third", &deaths));
         model.reapplyPropertiesFromProviders(model.index(0, 0));
         QCOMPARE(deaths, 1);
-        QCOMPARE(childNames(model.getProperty(model.index(0, 0))), QStringList({"once", "other"}));
+        QCOMPARE(childNames(model.getProperty(model.index(0, 0))), QStringList({"once", "second", "third"}));
     }
 
     void providersAreNotAskedForAnInvalidIndex()

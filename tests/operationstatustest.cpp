@@ -174,11 +174,12 @@ private slots:
             status.addStep(1);
         }
         recorder.doneByReport.clear();
-        for (int i = 0; i < 300; ++i) {
+        // However slow the machine is: of 600 ms and more, the first 256 steps at most may go by unseen.
+        for (int i = 0; i < 600; ++i) {
             QTest::qSleep(1);
             status.addStep(1);
         }
-        QVERIFY(!recorder.doneByReport.isEmpty());
+        QVERIFY(recorder.doneByReport.size() >= 4);
     }
 };
 
