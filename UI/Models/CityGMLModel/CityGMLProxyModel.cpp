@@ -412,9 +412,14 @@ void CityGMLProxyModel::rowsInsertedInSourceModel(const QModelIndex& /*parent*/,
     if (TreeNodeGML* const parentNode = asGML(node->parent())) {
         parentIndex = index(parentNode->childNumber(), nameColumn, parentNode);
     }
-    beginInsertRows(parentIndex, node->childNumber(), node->childNumber());
+    const int row = node->childNumber();
+    // Nodes that the new one claims have moved without a signal. Those behind it move with the signal below.
+    movePersistentIndexes([&](const TreeNode* each) {
+        const bool isBehind = each->parent() == node->parent() && each->childNumber() > row;
+        return isBehind ? each->childNumber() - 1 : each->childNumber();
+    });
+    beginInsertRows(parentIndex, row, row);
     endInsertRows();
-    renewPersistentIndexes(nullptr);
 }
 
 void CityGMLProxyModel::rowsAboutToBeRemovedInSourceModel(const QModelIndex& parent, int start, int /*end*/)
@@ -435,7 +440,9 @@ void CityGMLProxyModel::rowsAboutToBeRemovedInSourceModel(const QModelIndex& par
         takeOut(node.get());
         isGone = deleteTreeNode(node.get());
         endRemoveRows();
-        renewPersistentIndexes(node.get());
+        // Below the second level the signals name another parent. Nothing may refer to a node when it dies.
+        movePersistentIndexes(
+            [&](const TreeNode* each) { return isBelow(each, node.get()) ? -1 : each->childNumber(); });
     }
     nodeMap.erase(feature);
 }
@@ -459,22 +466,20 @@ void CityGMLProxyModel::takeOut(TreeNode* node)
     }
 }
 
-/// Brings persistent indexes in step with the tree where the signals did not tell all: an insertion can move
-/// other nodes, and a removal below the second level is signalled for another parent. Nothing may refer to a
-/// removed node when it dies. \param removed a node that has been taken out, or null
-void CityGMLProxyModel::renewPersistentIndexes(const TreeNode* removed)
+/// Brings persistent indexes in step with the tree, since the signals do not tell all of what has changed.
+/// \param rowOf gives the row that a node's indexes are to have, -1 for none
+template <class RowOf>
+void CityGMLProxyModel::movePersistentIndexes(RowOf rowOf)
 {
     QModelIndexList from;
     QModelIndexList to;
     const QModelIndexList indexes = persistentIndexList();
     for (const QModelIndex& each : indexes) {
         TreeNode* const node = treeNode(each);
-        if (removed != nullptr && isBelow(node, removed)) {
+        const int row = rowOf(node);
+        if (row != each.row()) {
             from.append(each);
-            to.append(QModelIndex());
-        } else if (each.row() != node->childNumber()) {
-            from.append(each);
-            to.append(createIndex(node->childNumber(), each.column(), node));
+            to.append(row != -1 ? createIndex(row, each.column(), node) : QModelIndex());
         }
     }
     changePersistentIndexList(from, to);
