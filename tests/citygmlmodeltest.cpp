@@ -114,9 +114,9 @@ private slots:
     {
         tolvik::ModelInterface plugin;
         QObject parent;
-        auto* model = new CityGMLModel(&plugin, &parent);
-        QCOMPARE(model->getModelPlugin(), &plugin);
-        QCOMPARE(model->parent(), &parent);
+        CityGMLModel model(&plugin, &parent);
+        QCOMPARE(model.getModelPlugin(), &plugin);
+        QCOMPARE(model.parent(), &parent);
     }
 
     void withoutADocument()
@@ -384,7 +384,9 @@ private slots:
         model.loadText(town(2));
         for (int row = 0; row < 3; ++row) {
             tolvik::CoreProperty* const root = model.getProperty(model.index(row, 0));
-            QVERIFY(root != nullptr);
+            if (root == nullptr) {
+                QFAIL("no property tree");
+            }
             QVERIFY(root->name().isEmpty());
             QCOMPARE(root->value(), QVariant());
             QCOMPARE(root->referenceCount(), 1);

@@ -1,5 +1,5 @@
 // The device is hidden in the library, so the test has a copy of its own.
-#include "UI/Models/CityGMLModel/DataStream.cpp"
+#include "UI/Models/CityGMLModel/DataStream.cpp" // NOLINT(bugprone-suspicious-include)
 
 #include "framework/OperationListener.h"
 

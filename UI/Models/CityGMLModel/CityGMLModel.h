@@ -96,9 +96,11 @@ public:
     /// \param document taken over; null leaves the model without a document
     void load(std::auto_ptr<core::CityModelType> document);
 
-    /// Writes the document to its file. That the file cannot be opened, or is cut short by a full disk, is
-    /// not noticed. \param flag without effect \return true \throws std::runtime_error where the document
-    /// cannot be written, which is logged, or there is none
+    /// Writes the document to its file. A file that cannot be opened, or is cut short by a full disk, is not
+    /// noticed.
+    /// \param flag without effect
+    /// \return true
+    /// \throws std::runtime_error where the document cannot be written, which is logged, or there is none
     bool save(bool flag) override;
 
     /// Writes the document to \a path, which becomes its file name. As save() otherwise; the text of the
