@@ -94,6 +94,7 @@ struct CheckedCity : CityTree
 
 // Built before there is an application, see main().
 std::unique_ptr<CityTree> cityWithoutApplication;
+std::unique_ptr<CityTree> cityWithoutDisplay;
 
 } // namespace
 
@@ -312,6 +313,14 @@ private slots:
         QCOMPARE(city.at("b1").data(), QVariant("Town hall"));
     }
 
+    void withoutDisplayTheIconsAreNull()
+    {
+        const CityTree& city = *cityWithoutDisplay;
+        QCOMPARE(city.tree.iconMap.size(), iconNames.size());
+        QVERIFY(iconAt(city.at("b1")).isNull());
+        QVERIFY(iconAt(city.at("d2")).isNull());
+    }
+
     void checkStateIsOffAtFirst()
     {
         const CityTree city;
@@ -440,10 +449,15 @@ private slots:
 int main(int argc, char* argv[])
 {
     cityWithoutApplication = std::make_unique<CityTree>();
-    QApplication application(argc, argv);
+    {
+        const QCoreApplication application(argc, argv);
+        cityWithoutDisplay = std::make_unique<CityTree>();
+    }
+    const QApplication application(argc, argv);
     CityGMLProxyPresentationTest test;
     const int result = QTest::qExec(&test, argc, argv);
     cityWithoutApplication.reset();
+    cityWithoutDisplay.reset();
     return result;
 }
 

@@ -13,10 +13,12 @@
 #include <QAction>
 #include <QCoreApplication>
 #include <QDataStream>
+#include <QGuiApplication>
 #include <QItemSelectionModel>
 #include <QMimeData>
 #include <QSet>
 #include <QSharedPointer>
+#include <vector>
 
 namespace tolvik {
 
@@ -97,11 +99,13 @@ CityGMLProxyModel::CityGMLProxyModel(const QString& name, QObject* parent)
     logger =
         log4cplus::Logger::getInstance(LOG4CPLUS_TEXT("tolvik.UI.Models.CityGMLModel.CityGMLProxyModel"));
     if (QCoreApplication::instance() == nullptr) {
-        return; // icons need one
+        return;
     }
+    // A program without a display can do without pictures, and cannot load them.
+    const bool canLoad = qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr;
     for (const char* const each : icons) {
         const QString path = iconPath(QLatin1String(each));
-        iconMap.insert(path, QIcon(path));
+        iconMap.insert(path, canLoad ? QIcon(path) : QIcon());
     }
 }
 
@@ -155,15 +159,21 @@ void CityGMLProxyModel::computeNodeMap()
     nodeMap.clear();
     rootNodes.clear();
     // A document's features lie in memory much in the order of its rows, so that an entry goes next to the
-    // last one.
+    // last one. The entries come in front of the nodes, so that a look-up in the map finds them close
+    // together.
+    std::vector<NodeMap::iterator> accepted;
     auto entry = nodeMap.end();
     const int rows = document()->rowCount(QModelIndex());
+    accepted.reserve(static_cast<std::size_t>(rows));
     for (int row = 0; row < rows; ++row) {
         gml::AbstractFeatureType* const feature = document()->getFeature(row);
         if (isAccepted(feature)) {
             entry = nodeMap.try_emplace(entry, feature);
-            entry->second.emplace_back(new TreeNodeGML(feature, nullptr));
+            accepted.push_back(entry);
         }
+    }
+    for (const NodeMap::iterator& each : accepted) {
+        each->second.emplace_back(new TreeNodeGML(each->first, nullptr));
     }
     updateTreeNodes();
     endResetModel();
