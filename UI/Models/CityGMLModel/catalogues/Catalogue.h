@@ -3,8 +3,9 @@
 // What the catalogues are written with: each unit of this directory gives, for the types of one schema
 // namespace, the rows of their property trees, one line a row in the order on screen.
 //
-// A visit makes a `rows` for the type and the place its rows go to, and then has lines of these forms. The
-// type of the value says when there is a row (see Rows::attr()) and where its unit comes from.
+// A visit makes a `rows` for the type and the place its rows go to, such as EXTENSION("Energy"), and then has
+// lines of these forms. The type of the value says when there is a row (see Rows::attr()) and where its unit
+// comes from.
 //
 //     ATTR("MeasuredHeight", measuredHeight, optional<gml::LengthType>);         label, accessors, type of
 //     the value ENUM("RelativeToWater", relativeToWater, optional<core::RelativeToWaterType>);    the same,
@@ -23,6 +24,7 @@
 //     GENERIC_ENUM("constructionWeight", energy::ConstructionWeightValue, "Energy");
 //     GENERIC_CHILD("durationOfConstruction", pivotEnergy::poly_durationOfConstruction, "pivotEnergy");
 //     GENERIC_HELD("referencePoint", energy::poly_referencePoint, Point, "Energy");
+//     GENERIC_GROUP("shading", pivotEnergy::ShadingTypePropertyType, ShadingType, "pivotEnergy");
 //
 // The properties that ATTR, ENUM, GENERIC and GENERIC_ENUM bind are instantiated for what stands in the line:
 // a build step reads them from the file.
@@ -47,29 +49,24 @@
 
 #include <type_traits>
 
-#define ATTR(label, getter, ...)                                                                             \
-    rows.template attr<__VA_ARGS__>(QStringLiteral(label), TOLVIK_ACCESSORS(getter))
-#define ENUM(label, getter, ...)                                                                             \
-    rows.template enumAttr<__VA_ARGS__>(QStringLiteral(label), TOLVIK_ACCESSORS(getter))
-#define ATTR_BY_NAME(name, getter, ...)                                                                      \
-    rows.template attr<__VA_ARGS__>(QString::fromStdString(name), TOLVIK_ACCESSORS(getter))
+#define EXTENSION(name) Place::extension(QStringLiteral(name))
+#define SHARED_GROUP(extension, name) Place::group(getOrCreateProperty(getOrCreateRootADEPartProp(QStringLiteral(extension)), QStringLiteral(name)))
+
+#define ATTR(label, getter, ...) rows.template attr<__VA_ARGS__>(QStringLiteral(label), TOLVIK_ACCESSORS(getter))
+#define ENUM(label, getter, ...) rows.template enumAttr<__VA_ARGS__>(QStringLiteral(label), TOLVIK_ACCESSORS(getter))
+#define ATTR_BY_NAME(name, getter, ...) rows.template attr<__VA_ARGS__>(QString::fromStdString(name), TOLVIK_ACCESSORS(getter))
 #define CHILD(label, getter) rows.child(QStringLiteral(label), rows.object().getter())
 #define HELD(label, getter, held) rows.child(QStringLiteral(label), rows.object().getter(), TOLVIK_HELD(held))
-#define CHILDREN(label, getter, held)                                                                        \
-    rows.children(QStringLiteral(label), rows.object().getter(), TOLVIK_HELD(held))
+#define CHILDREN(label, getter, held) rows.children(QStringLiteral(label), rows.object().getter(), TOLVIK_HELD(held))
 #define REFERENCE(label, getter) rows.reference(QStringLiteral(label), rows.object().getter())
 
-#define GENERIC(label, Poly, Value, extension)                                                               \
-    rows.attr<Poly, Value>(QStringLiteral(label), QStringLiteral(extension))
-#define GENERIC_ENUM(label, Enum, extension)                                                                 \
-    rows.enumAttr<Enum, Enum>(QStringLiteral(label), QStringLiteral(extension))
-#define GENERIC_CHILD(label, Poly, extension)                                                                \
-    rows.child<Poly>(QStringLiteral(label), QStringLiteral(extension))
-#define GENERIC_HELD(label, Poly, member, extension)                                                         \
-    rows.held<Poly>(QStringLiteral(label), QStringLiteral(extension), TOLVIK_HELD(member))
+#define GENERIC(label, Poly, Value, extension) rows.attr<Poly, Value>(QStringLiteral(label), QStringLiteral(extension))
+#define GENERIC_ENUM(label, Enum, extension) rows.enumAttr<Enum, Enum>(QStringLiteral(label), QStringLiteral(extension))
+#define GENERIC_CHILD(label, Poly, extension) rows.child<Poly>(QStringLiteral(label), QStringLiteral(extension))
+#define GENERIC_HELD(label, Poly, member, extension) rows.held<Poly>(QStringLiteral(label), QStringLiteral(extension), TOLVIK_HELD(member))
+#define GENERIC_GROUP(label, Poly, member, extension) rows.group<Poly>(QStringLiteral(label), QStringLiteral(extension), TOLVIK_HELD(member))
 
-#define TOLVIK_ACCESSORS(getter)                                                                             \
-    &std::decay_t<decltype(rows)>::Owner::getter, &std::decay_t<decltype(rows)>::Owner::getter
+#define TOLVIK_ACCESSORS(getter) &std::decay_t<decltype(rows)>::Owner::getter, &std::decay_t<decltype(rows)>::Owner::getter
 #define TOLVIK_HELD(held) [](auto& element) -> decltype(auto) { return element.held(); }
 
 namespace tolvik {
@@ -123,8 +120,8 @@ constexpr bool isOptional<optional<T>> = true;
 
 // Of types that are not complete here none is a measure.
 template <typename T>
-constexpr bool hasUnit = std::is_convertible_v<T*, gml::MeasureType*> || std::is_same_v<T, gml::MeasureListType> ||
-                         std::is_convertible_v<T*, gml::MeasureOrNullListType*>;
+constexpr bool hasUnit =
+    std::is_convertible_v<T*, gml::MeasureType*> || std::is_same_v<T, gml::MeasureListType> || std::is_convertible_v<T*, gml::MeasureOrNullListType*>;
 
 /// The unit that the document gives a value: its own, or that of a sequence's first element. Empty for an
 /// absent measure and for what is no measure.
@@ -192,10 +189,7 @@ class GmlCorePropertyCreator::Rows
 public:
     using Owner = OwnerClass;
 
-    Rows(GmlCorePropertyCreator* creator, Owner* object, const Place& place)
-        : m_creator(*creator), m_object(*object), m_place(place)
-    {
-    }
+    Rows(GmlCorePropertyCreator* creator, Owner* object, const Place& place) : m_creator(*creator), m_object(*object), m_place(place) {}
 
     Owner& object() const { return m_object; }
 
@@ -205,20 +199,17 @@ public:
     /// A row bound to an attribute. An absent optional has one only where absent attributes are shown, and an
     /// empty sequence has none. A measure has the unit that it has in the document.
     template <class Value, class Declaring>
-    void attr(const QString& label, const Value& (Declaring::*getter)() const,
-              Value& (Declaring::*mutableGetter)()) const
+    void attr(const QString& label, const Value& (Declaring::*getter)() const, Value& (Declaring::*mutableGetter)()) const
     {
         const Value& value = (m_object.*getter)();
         if (wanted(value)) {
-            add(new GmlAttributeProperty<Owner, Value>(&m_object, label, getter, mutableGetter,
-                                                       unitOf(value)));
+            add(new GmlAttributeProperty<Owner, Value>(&m_object, label, getter, mutableGetter, unitOf(value)));
         }
     }
 
     /// The same, offering the literals of an enumeration.
     template <class Value, class Declaring>
-    void enumAttr(const QString& label, const Value& (Declaring::*getter)() const,
-                  Value& (Declaring::*mutableGetter)()) const
+    void enumAttr(const QString& label, const Value& (Declaring::*getter)() const, Value& (Declaring::*mutableGetter)()) const
     {
         if (wanted((m_object.*getter)())) {
             add(new GmlEnumAttributeProperty<Owner, Value>(&m_object, label, getter, mutableGetter));
@@ -232,9 +223,7 @@ public:
     template <class Member>
     void reference(const QString& label, Member& member) const
     {
-        forEachHeld(member, [&](gml::ReferenceType& reference) {
-            readOnly(label, m_creator.getReferenceUrl(reference));
-        });
+        forEachHeld(member, [&](gml::ReferenceType& reference) { readOnly(label, m_creator.getReferenceUrl(reference)); });
     }
 
     /// A new group; rows get below it with below().
@@ -294,17 +283,13 @@ private:
 class GmlCorePropertyCreator::GenericRows
 {
 public:
-    GenericRows(GmlCorePropertyCreator* creator, xml_schema::type& element)
-        : m_creator(*creator), m_element(element)
-    {
-    }
+    GenericRows(GmlCorePropertyCreator* creator, xml_schema::type& element) : m_creator(*creator), m_element(element) {}
 
     template <class Poly, class Value>
     void attr(const QString& label, const QString& extension) const
     {
         if (auto* const poly = dynamic_cast<Poly*>(&m_element)) {
-            add(extension,
-                new GmlGenericApplicationAttributeProperty<Poly, Value>(poly, label, unitOf(*poly)));
+            add(extension, new GmlGenericApplicationAttributeProperty<Poly, Value>(poly, label, unitOf(*poly)));
         }
     }
 
@@ -312,8 +297,7 @@ public:
     void enumAttr(const QString& label, const QString& extension) const
     {
         if (auto* const poly = dynamic_cast<Poly*>(&m_element)) {
-            add(extension,
-                new GmlEnumGenericApplicationAttributeProperty<Poly, Value>(poly, label, unitOf(*poly)));
+            add(extension, new GmlEnumGenericApplicationAttributeProperty<Poly, Value>(poly, label, unitOf(*poly)));
         }
     }
 
@@ -335,6 +319,16 @@ public:
         }
     }
 
+    /// A group with the rows of the object that the matched one holds; an empty one if it holds none.
+    template <class Poly, class Held>
+    void group(const QString& label, const QString& extension, Held held) const
+    {
+        if (auto* const poly = dynamic_cast<Poly*>(&m_element)) {
+            CoreProperty* const target = group(label, extension);
+            forEachHeld(held(*poly), [&](auto& object) { m_creator.enter(target, object); });
+        }
+    }
+
 private:
     CoreProperty* group(const QString& label, const QString& extension) const
     {
@@ -343,10 +337,7 @@ private:
         return group;
     }
 
-    void add(const QString& extension, CoreProperty* property) const
-    {
-        m_creator.getOrCreateRootADEPartProp(extension)->addProperty(property);
-    }
+    void add(const QString& extension, CoreProperty* property) const { m_creator.getOrCreateRootADEPartProp(extension)->addProperty(property); }
 
     GmlCorePropertyCreator& m_creator;
     xml_schema::type& m_element;

@@ -32,7 +32,6 @@ void GmlCorePropertyCreator::visit_abstractBuilding_genericProperties(bldg::Abst
 {
     for (xml_schema::type& element : object->_GenericApplicationPropertyOfAbstractBuilding()) {
         const GenericRows rows(this, element);
-        // clang-format off
         GENERIC("buildingHabitants", utility::poly_buildingHabitants, long long, "UtilityNetwork");
         GENERIC("buildingType", energy::poly_buildingType, string, "Energy");
         GENERIC_ENUM("constructionWeight", energy::ConstructionWeightValue, "Energy");
@@ -50,7 +49,6 @@ void GmlCorePropertyCreator::visit_abstractBuilding_genericProperties(bldg::Abst
         GENERIC("foundationConstructiveSystem", pivotEnergy::poly_foundationConstructiveSystem, gml::CodeType, "pivotEnergy");
         GENERIC("yearOfRefurbishment", pivotEnergy::poly_yearOfRefurbishment, gyear, "pivotEnergy");
         GENERIC("nextLifeCycleStage", pivotEnergy::LifeCycleStageType, pivotEnergy::LifeCycleStageType, "pivotEnergy");
-        // clang-format on
     }
 }
 

@@ -23,8 +23,7 @@ bool GmlCorePropertyCreator::visit_brid_AbstractBridgeType(brid::AbstractBridgeT
     return CityGMLPropertiesVisitor::visit_brid_AbstractBridgeType(object);
 }
 
-bool GmlCorePropertyCreator::visit_brid_BridgeConstructionElementType(
-    brid::BridgeConstructionElementType* object)
+bool GmlCorePropertyCreator::visit_brid_BridgeConstructionElementType(brid::BridgeConstructionElementType* object)
 {
     const Rows<brid::BridgeConstructionElementType> rows(this, object, Place::fields());
     ATTR("Class", class_, optional<gml::CodeType>);

@@ -23,8 +23,7 @@ bool GmlCorePropertyCreator::visit_core_AbstractCityObjectType(core::AbstractCit
         const auto targets = rows.below(rows.group(QStringLiteral("GeneralizesTo")));
         for (core::GeneralizationRelationType& relation : object->generalizesTo()) {
             if (relation._CityObject().present() && relation._CityObject()->id().present()) {
-                targets.readOnly(QStringLiteral("Generalize"),
-                                 QString::fromStdString("#" + relation._CityObject()->id().get()));
+                targets.readOnly(QStringLiteral("Generalize"), QString::fromStdString("#" + relation._CityObject()->id().get()));
             }
         }
     }

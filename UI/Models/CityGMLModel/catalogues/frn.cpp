@@ -7,6 +7,7 @@
 
 namespace tolvik {
 
+// Called by no visit: city furniture does not show these.
 void GmlCorePropertyCreator::visit_cityFurniture_genericProperties(frn::CityFurnitureType* object)
 {
     for (xml_schema::type& element : object->_GenericApplicationPropertyOfCityFurniture()) {

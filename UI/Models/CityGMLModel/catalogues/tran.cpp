@@ -32,8 +32,7 @@ bool GmlCorePropertyCreator::visit_tran_TrafficAreaType(tran::TrafficAreaType* o
     return CityGMLPropertiesVisitor::visit_tran_TrafficAreaType(object);
 }
 
-void GmlCorePropertyCreator::visit_auxiliaryTrafficArea_genericProperties(
-    tran::AuxiliaryTrafficAreaType* object)
+void GmlCorePropertyCreator::visit_auxiliaryTrafficArea_genericProperties(tran::AuxiliaryTrafficAreaType* object)
 {
     for (xml_schema::type& element : object->_GenericApplicationPropertyOfAuxiliaryTrafficArea()) {
         const GenericRows rows(this, element);

@@ -53,10 +53,15 @@ private:
     class Rows;
     class GenericRows;
 
-    void visit_abstractBuilding_genericProperties(bldg::AbstractBuildingType* building);
-    void visit_auxiliaryTrafficArea_genericProperties(tran::AuxiliaryTrafficAreaType* area);
-    void visit_cityFurniture_genericProperties(frn::CityFurnitureType* furniture);
-    void visit_trafficArea_genericProperties(tran::TrafficAreaType* area);
+    void visit_abstractBuilding_genericProperties(bldg::AbstractBuildingType* object);
+    void visit_auxiliaryTrafficArea_genericProperties(tran::AuxiliaryTrafficAreaType* object);
+    void visit_cityFurniture_genericProperties(frn::CityFurnitureType* object);
+    void visit_layeredComponent_genericProperties(component::LayeredComponentTypeType* object);
+    void visit_openingComponent_genericProperties(component::OpeningComponentTypeType* object);
+    void visit_thermalBoundary_genericProperties(energy::ThermalBoundaryType* object);
+    void visit_thermalZone_genericProperties(energy::ThermalZoneType* object);
+    void visit_trafficArea_genericProperties(tran::TrafficAreaType* object);
+    void visit_usageZone_genericProperties(energy::UsageZoneType* object);
 
     CoreProperty* getOrCreateFieldPartProp();
     CoreProperty* getOrCreateRootADEPartProp(const QString& name);
