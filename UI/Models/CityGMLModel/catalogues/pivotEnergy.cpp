@@ -206,10 +206,8 @@ bool GmlCorePropertyCreator::visit_pivotEnergy_GenerationManagementType(pivotEne
 {
     const Rows<pivotEnergy::GenerationManagementType> rows(this, object, EXTENSION("pivotEnergy"));
     ENUM("priorityManagement", priorityManagement, optional<pivotEnergy::PriorityManagementEnumType>);
-    ENUM("genTemperatureProductionManagementHeat", genTemperatureProductionManagementHeat,
-         optional<pivotEnergy::TemperatureProductionManagementEnumType>);
-    ENUM("genTemperatureProductionManagementCold", genTemperatureProductionManagementCold,
-         optional<pivotEnergy::TemperatureProductionManagementEnumType>);
+    ENUM("genTemperatureProductionManagementHeat", genTemperatureProductionManagementHeat, optional<pivotEnergy::TemperatureProductionManagementEnumType>);
+    ENUM("genTemperatureProductionManagementCold", genTemperatureProductionManagementCold, optional<pivotEnergy::TemperatureProductionManagementEnumType>);
     return CityGMLPropertiesVisitor::visit_pivotEnergy_GenerationManagementType(object);
 }
 
