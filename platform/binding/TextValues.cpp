@@ -324,6 +324,43 @@ void formatNumber(bool value, std::string& text)
     text += value ? "true" : "false";
 }
 
+void parseNumbers(std::string_view text, std::vector<double>& values)
+{
+    values.clear();
+    const char* at = text.data();
+    const char* const end = at + text.size();
+    for (;;) {
+        while (at != end && isSpace(*at))
+            ++at;
+        if (at == end)
+            return;
+        double value = 0;
+        const auto result = std::from_chars(at, end, value);
+        const bool isPlain = result.ec == std::errc() && (result.ptr == end || isSpace(*result.ptr)) &&
+                             (*at == '-' || *at == '.' || (*at >= '0' && *at <= '9')) && std::isfinite(value);
+        if (isPlain) {
+            values.push_back(value);
+            at = result.ptr;
+            continue;
+        }
+        const char* word = at;
+        while (at != end && !isSpace(*at))
+            ++at;
+        values.push_back(parseReal<double>(std::string_view(word, static_cast<std::size_t>(at - word))));
+    }
+}
+
+void formatNumbers(const std::vector<double>& values, std::string& text)
+{
+    bool first = true;
+    for (const double value : values) {
+        if (!first)
+            text += ' ';
+        first = false;
+        formatReal(value, text);
+    }
+}
+
 std::string_view trimmed(std::string_view text)
 {
     while (!text.empty() && isSpace(text.front()))

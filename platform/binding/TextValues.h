@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 #include <type_traits>
+#include <vector>
 
 namespace citygml {
 namespace binding {
@@ -22,6 +23,10 @@ inline void formatNumber(int value, std::string& text)
 {
     formatNumber(static_cast<long long>(value), text);
 }
+
+/// Reads a list of numbers; throws ValueError.
+void parseNumbers(std::string_view text, std::vector<double>& values);
+void formatNumbers(const std::vector<double>& values, std::string& text);
 
 /// The text without white space at its ends.
 std::string_view trimmed(std::string_view text);
@@ -103,6 +108,8 @@ struct Text
             parseName(value, trimmed(text), scope);
         } else if constexpr (isTimeValue) {
             parseValue(value, trimmed(text));
+        } else if constexpr (std::is_base_of_v<std::vector<double>, T>) {
+            parseNumbers(text, value);
         } else {
             using Item = typename T::value_type;
             std::string_view word;
@@ -132,6 +139,8 @@ struct Text
             formatName(value, text, scope);
         } else if constexpr (isTimeValue) {
             formatValue(value, text);
+        } else if constexpr (std::is_base_of_v<std::vector<double>, T>) {
+            formatNumbers(value, text);
         } else {
             bool first = true;
             for (const auto& item : value) {

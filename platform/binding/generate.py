@@ -19,6 +19,7 @@ import xml.etree.ElementTree as ElementTree
 
 XS = "http://www.w3.org/2001/XMLSchema"
 JOINED_UNITS = 24
+TABLE_UNITS = 6
 
 # Prefix of the visit operations and of the class namespace, in the order of the visitor table.
 PREFIXES = (
@@ -332,10 +333,11 @@ def write_tables(output, classes, schema):
         builtins.add(name)
         return "builtin_%s" % name
 
-    for prefix in PREFIXES:
-        with open(os.path.join(output, "tables_%s.cxx" % prefix), "w") as f:
+    per_unit = -(-len(operations) // TABLE_UNITS)
+    for number in range(TABLE_UNITS):
+        with open(os.path.join(output, "tables_%d.cxx" % number), "w") as f:
             f.write('#include "tables.h"\n\nnamespace citygml {\nnamespace binding {\n\n')
-            for key in (k for k in operations if k[0] == prefix):
+            for key in operations[number * per_unit : (number + 1) * per_unit]:
                 write_type(f, classes, schema, key, key_of[key], record)
             f.write("} // namespace binding\n} // namespace citygml\n")
     for uri, name in schema.elements:
