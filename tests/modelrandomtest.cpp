@@ -849,7 +849,7 @@ private:
                 return QString("node %1 shows \"%2\" for \"%3\", or its state is wrong")
                     .arg(SignalRecorder::text(index), index.data().toString(), item->nodeName);
             }
-            const QString below = treeDifference(index, reference.childNodes(item), nodes);
+            QString below = treeDifference(index, reference.childNodes(item), nodes);
             if (!below.isEmpty()) {
                 return below;
             }

@@ -8,7 +8,6 @@
 #include <memory>
 #include <QtTest>
 
-using Fondo::RefPtr;
 using tolvik::TreeNode;
 using tolvik::TreeNodeGML;
 

@@ -266,8 +266,8 @@ bool CityGMLProxyModel::deleteTreeNode(TreeNode* node)
     if (position == nodes.end()) {
         return false;
     }
-    for (std::size_t i = 0, count = children.size(); i < count; ++i) {
-        deleteTreeNode(children[i].get());
+    for (const auto& child : children) {
+        deleteTreeNode(child.get());
     }
     nodes.erase(position);
     if (!nodes.empty()) {
@@ -299,6 +299,8 @@ gml::AbstractFeatureType* CityGMLProxyModel::getFeature(const QModelIndex& index
     return featureOf(treeNode(index));
 }
 
+// Hosts override the virtual in this form.
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
 gml::AbstractFeatureType* CityGMLProxyModel::getFeatureParent(std::string id) const
 {
     return getFeatureParent(document()->getFeature(id));
