@@ -1,0 +1,252 @@
+#include "LoadDocument.h"
+#include "PropertiesCommand.h"
+#include "RowsCommand.h"
+#include "SaveDocument.h"
+#include "SetCommand.h"
+#include "TerminalProgress.h"
+#include "TreeCommand.h"
+#include "UI/Models/CityGMLModel/CityGMLModel.h"
+
+#include <clocale>
+#include <exception>
+#include <iostream>
+#include <log4cplus/consoleappender.h>
+#include <log4cplus/initializer.h>
+#include <log4cplus/layout.h>
+#include <log4cplus/logger.h>
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QLocale>
+#include <QTextCodec>
+#include <stdexcept>
+#include <string>
+
+namespace {
+
+using namespace tolvik;
+using namespace tolvik::inspect;
+
+constexpr int failure = 1;
+constexpr int wrongUsage = 2;
+
+const char usage[] =
+    R"(Usage: tolvik-inspect COMMAND FILE [ARGUMENTS]
+
+FILE is a CityGML 2.0 document; `-` reads one from standard input.
+
+  rows FILE [--json]     list the features: number, type, gml:id and name, with tabs between them
+  tree FILE [--json] [--all]
+                         show the features as a tree; --all keeps appearances
+  properties FILE (--id ID | --row N | --every) [--absent] [--json]
+                         show the attributes of the features; --absent adds those that
+                         they could have and have not
+  set FILE --id ID PATH VALUE OUT
+                         set one attribute and save as OUT. PATH is made of the labels that
+                         `properties` shows, with `/` between them; `[2]` behind a label
+                         takes the second of equal ones
+  save FILE OUT          load FILE and save it as OUT
+  --help                 show this text
+  --version              show the version
+
+Output is UTF-8. Exit code: 0 done, 1 a document could not be loaded or saved, 2 wrong usage.
+An argument that begins with `-` and is no option stands behind a `--`.
+)";
+
+/// The command line makes no sense; what() says why.
+struct UsageError : std::runtime_error
+{
+    using std::runtime_error::runtime_error;
+};
+
+/// The arguments behind a command: the named positional ones and nothing besides the options.
+class Arguments
+{
+public:
+    /// \param options what may be given; those that take a value end in `=`
+    Arguments(const QStringList& given, const QStringList& names, const QStringList& options)
+        : positionalNames(names)
+    {
+        for (const QString& option : options) {
+            const bool takesValue = option.endsWith('=');
+            parser.addOption(takesValue ? QCommandLineOption(option.chopped(1), QString(), option)
+                                        : QCommandLineOption(option));
+        }
+        // The first argument is taken for the program's name.
+        if (!parser.parse(given)) {
+            throw UsageError(parser.errorText().toStdString());
+        }
+        const int count = parser.positionalArguments().size();
+        if (count < names.size()) {
+            throw UsageError(QStringLiteral("%1 is missing").arg(names.at(count)).toStdString());
+        }
+        if (count > names.size()) {
+            throw UsageError(QStringLiteral("too much: %1")
+                                 .arg(parser.positionalArguments().at(names.size()))
+                                 .toStdString());
+        }
+    }
+
+    QString at(const QString& name) const
+    {
+        return parser.positionalArguments().at(positionalNames.indexOf(name));
+    }
+    bool has(const QString& option) const { return parser.isSet(option); }
+    QString value(const QString& option) const { return parser.value(option); }
+
+private:
+    QCommandLineParser parser;
+    QStringList positionalNames;
+};
+
+int rows(const QStringList& given)
+{
+    const Arguments arguments(given, {"FILE"}, {"json"});
+    CityGMLModel model(nullptr, nullptr);
+    if (!loadDocument(model, arguments.at("FILE"), std::cerr)) {
+        return failure;
+    }
+    return runRows(model, arguments.has("json"), std::cout);
+}
+
+int tree(const QStringList& given)
+{
+    const Arguments arguments(given, {"FILE"}, {"json", "all"});
+    CityGMLModel model(nullptr, nullptr);
+    if (!loadDocument(model, arguments.at("FILE"), std::cerr)) {
+        return failure;
+    }
+    return runTree(model, arguments.has("json"), arguments.has("all"), std::cout);
+}
+
+PropertiesOptions propertiesOptions(const Arguments& arguments)
+{
+    if (arguments.has("id") + arguments.has("row") + arguments.has("every") != 1) {
+        throw UsageError("one of --id, --row and --every is needed");
+    }
+    PropertiesOptions options;
+    if (arguments.has("id")) {
+        options.id = arguments.value("id").toStdString();
+    }
+    if (arguments.has("row")) {
+        bool isNumber = false;
+        options.row = arguments.value("row").toInt(&isNumber);
+        if (!isNumber) {
+            throw UsageError("not the number of a row: " + arguments.value("row").toStdString());
+        }
+    }
+    options.every = arguments.has("every");
+    options.absent = arguments.has("absent");
+    options.json = arguments.has("json");
+    return options;
+}
+
+int properties(const QStringList& given)
+{
+    const Arguments arguments(given, {"FILE"}, {"id=", "row=", "every", "absent", "json"});
+    const PropertiesOptions options = propertiesOptions(arguments);
+    CityGMLModel model(nullptr, nullptr);
+    if (!loadDocument(model, arguments.at("FILE"), std::cerr)) {
+        return failure;
+    }
+    return runProperties(model, options, std::cout, std::cerr);
+}
+
+int set(const QStringList& given)
+{
+    const Arguments arguments(given, {"FILE", "PATH", "VALUE", "OUT"}, {"id="});
+    if (!arguments.has("id")) {
+        throw UsageError("--id is missing");
+    }
+    const SetOptions options{arguments.value("id").toStdString(), arguments.at("PATH"), arguments.at("VALUE"),
+                             arguments.at("OUT")};
+    CityGMLModel model(nullptr, nullptr);
+    if (!loadDocument(model, arguments.at("FILE"), std::cerr)) {
+        return failure;
+    }
+    return runSet(model, options, std::cerr);
+}
+
+int save(const QStringList& given)
+{
+    const Arguments arguments(given, {"FILE", "OUT"}, {});
+    CityGMLModel model(nullptr, nullptr);
+    const bool done = loadDocument(model, arguments.at("FILE"), std::cerr) &&
+                      saveDocument(model, arguments.at("OUT"), std::cerr);
+    return done ? 0 : failure;
+}
+
+struct Command
+{
+    const char* name;
+    int (*run)(const QStringList& arguments);
+};
+
+const Command commands[] = {
+    {"rows", rows}, {"tree", tree}, {"properties", properties}, {"save", save}, {"set", set},
+};
+
+int run(const QStringList& arguments)
+{
+    const QString name = arguments.value(0);
+    if (name == QLatin1String("--help") || name == QLatin1String("-h")) {
+        std::cout << usage;
+        return 0;
+    }
+    if (name == QLatin1String("--version")) {
+        std::cout << "tolvik-inspect " << TOLVIK_VERSION << '\n';
+        return 0;
+    }
+    for (const Command& command : commands) {
+        if (name == QLatin1String(command.name)) {
+            return command.run(arguments);
+        }
+    }
+    throw UsageError(name.isEmpty() ? "a command is missing" : "no such command: " + name.toStdString());
+}
+
+/// The same text and numbers go in and out whatever the user's locale is.
+void leaveLocale()
+{
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+    QLocale::setDefault(QLocale::c());
+    std::setlocale(LC_ALL, "C");
+}
+
+void logToStandardError()
+{
+    log4cplus::SharedAppenderPtr appender(new log4cplus::ConsoleAppender(true, true));
+    appender->setLayout(std::make_unique<log4cplus::PatternLayout>("%p %c: %m%n"));
+    log4cplus::Logger::getRoot().addAppender(appender);
+    log4cplus::Logger::getRoot().setLogLevel(log4cplus::INFO_LOG_LEVEL);
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    // No display is needed: nothing that the tool shows is painted.
+    QCoreApplication application(argc, argv);
+    leaveLocale();
+    const log4cplus::Initializer logging;
+    logToStandardError();
+    const TerminalProgress progress;
+
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i) {
+        arguments.append(QString::fromUtf8(argv[i]));
+    }
+    try {
+        const int code = run(arguments);
+        if (!std::cout.flush()) {
+            std::cerr << "tolvik-inspect: the output could not be written\n";
+            return failure;
+        }
+        return code;
+    } catch (const UsageError& error) {
+        std::cerr << "tolvik-inspect: " << error.what() << "\nTry `tolvik-inspect --help`.\n";
+        return wrongUsage;
+    } catch (const std::exception& error) {
+        std::cerr << "tolvik-inspect: " << error.what() << '\n';
+        return failure;
+    }
+}
