@@ -15,6 +15,7 @@
 #endif
 #include <expat.h>
 
+#include <algorithm>
 #include <array>
 #include <cstring>
 #include <exception>
@@ -331,11 +332,19 @@ private:
         return prefix.empty() ? name.name : prefix + ':' + name.name;
     }
 
+    /// The open elements; of a long path its two ends.
     std::string path() const
     {
+        constexpr std::size_t shown = 8;
         std::string text;
-        for (const Frame& frame : m_frames)
-            text += '/' + nameOf(frame.name);
+        for (std::size_t i = 0; i < m_frames.size(); ++i) {
+            if (i >= shown && i + shown < m_frames.size()) {
+                text += "/...";
+                i = m_frames.size() - shown - 1;
+            } else {
+                text += '/' + nameOf(m_frames[i].name);
+            }
+        }
         if (m_rawDepth != 0)
             text += "/...";
         return text;

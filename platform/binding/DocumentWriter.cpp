@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <map>
+#include <memory>
 #include <ostream>
 
 namespace citygml {
@@ -207,6 +208,8 @@ private:
         m_text.clear();
         if (type.hasText())
             type.record()->text->format(object, m_text, m_declared);
+        if (isUnsetNil(object, type, kept))
+            m_text.clear();
         if (type.hasText() && (kept == nullptr || kept->nodes.empty())) {
             if (m_text.empty()) {
                 m_out += "/>";
@@ -358,12 +361,27 @@ private:
         m_out.append("</").append(tag).append(1, '>');
     }
 
+    static bool isNilAttribute(const KeptContent::Attribute& attribute)
+    {
+        return attribute.uri == xsiUri && attribute.name == "nil";
+    }
+
     static bool isNil(const KeptContent* kept)
     {
-        return kept != nullptr && std::any_of(kept->attributes.begin(), kept->attributes.end(),
-                                              [](const KeptContent::Attribute& a) {
-                                                  return a.uri == xsiUri && a.name == "nil";
-                                              });
+        return kept != nullptr &&
+               std::any_of(kept->attributes.begin(), kept->attributes.end(), &isNilAttribute);
+    }
+
+    /// Whether a value that the document left nil has not been set since.
+    bool isUnsetNil(const xml_schema::type& object, const TypeIndex& type, const KeptContent* kept) const
+    {
+        if (!isNil(kept) || !type.hasText())
+            return false;
+        const std::unique_ptr<xml_schema::type> fresh(type.record()->create());
+        std::string text, unset;
+        type.record()->text->format(object, text, m_declared);
+        type.record()->text->format(*fresh, unset, m_declared);
+        return text == unset;
     }
 
     void writeDocumentAttributes(const KeptContent::Document& document)
@@ -418,6 +436,8 @@ private:
         bool tellsType = false;
         if (kept != nullptr) {
             for (const KeptContent::Attribute& attribute : kept->attributes) {
+                if (isNilAttribute(attribute) && type.hasText() && !isUnsetNil(object, type, kept))
+                    continue;
                 const bool isType = attribute.uri == xsiUri && attribute.name == "type";
                 tellsType = tellsType || isType;
                 writeKeptAttribute(attribute);

@@ -1,0 +1,72 @@
+#include "citygml/CityGMLPlugin.h"
+#include "UI/Models/CityGMLModel/CityGMLModel.h"
+
+#include <QtTest>
+
+#include <log4cplus/initializer.h>
+#include <sstream>
+
+/// Where a document lies, as the embedded platform tells it.
+class CityGMLPluginTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void withoutADocumentThereIsNoPlace()
+    {
+        tolvik::CityGMLModel model(&m_plugin, nullptr);
+        QVERIFY(model.footprint().isEmpty());
+    }
+
+    void aDocumentLiesInItsEnvelope_data()
+    {
+        QTest::addColumn<QByteArray>("corners");
+        QTest::newRow("corners") << QByteArray("<gml:lowerCorner>1 2 3</gml:lowerCorner>"
+                                               "<gml:upperCorner>5 8 9</gml:upperCorner>");
+        QTest::newRow("the wrong way round") << QByteArray("<gml:lowerCorner>5 2 9</gml:lowerCorner>"
+                                                           "<gml:upperCorner>1 8 3</gml:upperCorner>");
+        QTest::newRow("positions") << QByteArray("<gml:pos>1 2 3</gml:pos><gml:pos>5 8 9</gml:pos>");
+    }
+    void aDocumentLiesInItsEnvelope()
+    {
+        QFETCH(QByteArray, corners);
+        tolvik::CityGMLModel model(&m_plugin, nullptr);
+        load(model, "<gml:boundedBy><gml:Envelope>" + corners + "</gml:Envelope></gml:boundedBy>");
+        const tolvik::CoreModel::_geoPoint anchor = model.anchor();
+        QCOMPARE(anchor.x, 3.0);
+        QCOMPARE(anchor.y, 5.0);
+        QCOMPARE(anchor.z, 3.0);
+        const auto footprint = model.footprint();
+        QCOMPARE(footprint.size(), 1);
+        QCOMPARE(footprint.first().size(), 4);
+    }
+
+    void aDocumentWithoutAnEnvelopeHasNoPlace()
+    {
+        tolvik::CityGMLModel model(&m_plugin, nullptr);
+        load(model, "");
+        QVERIFY(model.footprint().isEmpty());
+        load(model, "<gml:boundedBy><gml:Null>unknown</gml:Null></gml:boundedBy>");
+        QVERIFY(model.footprint().isEmpty());
+        load(model, "<gml:boundedBy><gml:Envelope><gml:lowerCorner>1</gml:lowerCorner><gml:upperCorner>2</"
+                    "gml:upperCorner>"
+                    "</gml:Envelope></gml:boundedBy>");
+        QVERIFY(model.footprint().isEmpty());
+    }
+
+private:
+    static void load(tolvik::CityGMLModel& model, const QByteArray& content)
+    {
+        std::istringstream stream("<core:CityModel xmlns:core='http://www.opengis.net/citygml/2.0'"
+                                  " xmlns:gml='http://www.opengis.net/gml'>" +
+                                  content.toStdString() + "</core:CityModel>");
+        model.load(stream);
+        QVERIFY(model.cityGML() != nullptr);
+    }
+
+    log4cplus::Initializer m_logging;
+    tolvik::CityGMLPlugin m_plugin;
+};
+
+QTEST_GUILESS_MAIN(CityGMLPluginTest)
+#include "citygmlplugintest.moc"
