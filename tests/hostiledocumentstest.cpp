@@ -134,6 +134,7 @@ private slots:
             QCOMPARE(lines.size(), 1);
             QVERIFY2(lines[0].startsWith("40000 Exception caught: "), qPrintable(lines[0]));
             QVERIFY2(!lines[0].trimmed().contains('\n'), qPrintable(lines[0]));
+            QVERIFY2(lines[0].size() < 1000, qPrintable(lines[0]));
             QVERIFY2(lines[0].contains(reason), qPrintable(lines[0]));
         };
 
