@@ -1,3 +1,4 @@
+#include "SchemaTables.h"
 #include "XmlTree.h"
 
 #include "citygml/CityGMLFeaturesFillVisitor.h"
@@ -11,6 +12,7 @@
 #include "gml/FeaturePropertyType.hxx"
 
 #include <QDirIterator>
+#include <QSet>
 #include <QtTest>
 
 #include <clocale>
@@ -242,6 +244,25 @@ private slots:
         QCOMPARE(actual, expected);
     }
 
+    void everyFeatureTypeIsInAnExample()
+    {
+        QSet<QString> found;
+        for (const QString& path : documents()) {
+            if (path.startsWith(TOLVIK_EXAMPLES))
+                collectTypes(*read(contentOf(path)), found);
+        }
+        QStringList missing;
+        for (const auto* record : schematables::types()) {
+            bool isFeature = false;
+            for (const auto* base = record; base != nullptr; base = base->base)
+                isFeature = isFeature || *base->info == typeid(gml::AbstractFeatureType);
+            const QString name = schematables::className(*record);
+            if (isFeature && !record->isAbstract && !found.contains(name))
+                missing << name;
+        }
+        QCOMPARE(missing, QStringList());
+    }
+
     void numbersComeBackToTheBit()
     {
         const QByteArray numbers =
@@ -445,6 +466,19 @@ private slots:
     }
 
 private:
+    static void collectTypes(const xml_schema::type& object, QSet<QString>& found)
+    {
+        const auto* record = citygml::binding::recordOf(object);
+        found.insert(schematables::className(*record));
+        for (; record != nullptr; record = record->base) {
+            for (std::size_t i = 0; i < record->memberCount; ++i) {
+                const auto& member = record->members[i];
+                for (std::size_t j = 0; member.type != nullptr && j < member.ops->count(object); ++j)
+                    collectTypes(member.ops->at(object, j), found);
+            }
+        }
+    }
+
     static void countFeatures(const XmlNode& node, QMap<QString, int>& counts)
     {
         static const QStringList features =
