@@ -21,6 +21,7 @@
       <ladmfr:uNameSpace>clairval.baunits</ladmfr:uNameSpace>
       <ladmfr:rrr>
         <ladmfr:FR_Droit gml:id="right-ownership">
+          <gml:description>Full ownership since the sale of 2019</gml:description>
           <gml:name>Ownership of AB 212</gml:name>
           <ladmfr:rID>R-1</ladmfr:rID>
           <ladmfr:share>1</ladmfr:share>
@@ -36,7 +37,7 @@
               <ladmfr:role>citizen</ladmfr:role>
               <ladmfr:role>employer</ladmfr:role>
               <ladmfr:type>natural person</ladmfr:type>
-              <ladmfr:pNameSpace>clairval.points</ladmfr:pNameSpace>
+              <ladmfr:pNameSpace>clairval.parties</ladmfr:pNameSpace>
               <ladmfr:extPNameSpace>clairval.register</ladmfr:extPNameSpace>
               <ladmfr:rrr xlink:href="#right-ownership"/>
               <ladmfr:groupParty>
@@ -96,6 +97,7 @@
       </ladmfr:rrr>
       <ladmfr:rrr>
         <ladmfr:FR_Servitude gml:id="easement-passage">
+          <gml:description>On foot, along the northern wall</gml:description>
           <gml:name>Right of way to the beach</gml:name>
           <ladmfr:rID>R-2</ladmfr:rID>
           <ladmfr:share>0.5</ladmfr:share>
@@ -111,7 +113,7 @@
               <ladmfr:role>citizen</ladmfr:role>
               <ladmfr:role>employer</ladmfr:role>
               <ladmfr:type>non-natural person</ladmfr:type>
-              <ladmfr:pNameSpace>clairval.points</ladmfr:pNameSpace>
+              <ladmfr:pNameSpace>clairval.parties</ladmfr:pNameSpace>
               <ladmfr:extPNameSpace>clairval.register</ladmfr:extPNameSpace>
               <ladmfr:rrr xlink:href="#easement-passage"/>
               <ladmfr:groupParty xlink:href="#group-owners"/>
@@ -182,10 +184,16 @@
           <ladmfr:volume uom="m3">2100</ladmfr:volume>
           <ladmfr:suNameSpace>clairval.units</ladmfr:suNameSpace>
           <ladmfr:pID>RP-212</ladmfr:pID>
-          <ladmfr:pNameSpace>clairval.parties</ladmfr:pNameSpace>
+          <ladmfr:pNameSpace>clairval.points</ladmfr:pNameSpace>
           <ladmfr:pointType>boundary</ladmfr:pointType>
           <ladmfr:geometry>
-            <gml:LineString><gml:posList>1216.5 904 2.4 1225 907 2.4</gml:posList></gml:LineString>
+            <gml:Polygon>
+              <gml:exterior>
+                <gml:LinearRing>
+                  <gml:posList>1216.5 904 2.4 1248.5 904 2.4 1248.5 924 2.4 1216.5 924 2.4 1216.5 904 2.4</gml:posList>
+                </gml:LinearRing>
+              </gml:exterior>
+            </gml:Polygon>
           </ladmfr:geometry>
           <ladmfr:level>
             <ladmfr:LA_Level gml:id="level-parcels">
@@ -354,7 +362,7 @@
               <ladmfr:pointType>boundary</ladmfr:pointType>
               <ladmfr:productionMethod>digitised plan</ladmfr:productionMethod>
               <ladmfr:transAndResultFormula>x' = x + 2.5; y' = y - 1.1</ladmfr:transAndResultFormula>
-              <ladmfr:pNameSpace>clairval.parties</ladmfr:pNameSpace>
+              <ladmfr:pNameSpace>clairval.points</ladmfr:pNameSpace>
               <ladmfr:estimatedAccuracy>urn:clairval:accuracy:5cm</ladmfr:estimatedAccuracy>
               <ladmfr:transformedGeometry>1206.5 879.4</ladmfr:transformedGeometry>
               <ladmfr:transformationName>local grid to national grid</ladmfr:transformationName>
@@ -449,10 +457,16 @@
                   <ladmfr:volume uom="m3">2100</ladmfr:volume>
                   <ladmfr:suNameSpace>clairval.units</ladmfr:suNameSpace>
                   <ladmfr:pID>RP-14</ladmfr:pID>
-                  <ladmfr:pNameSpace>clairval.parties</ladmfr:pNameSpace>
+                  <ladmfr:pNameSpace>clairval.points</ladmfr:pNameSpace>
                   <ladmfr:pointType>boundary</ladmfr:pointType>
                   <ladmfr:geometry>
-                    <gml:LineString><gml:posList>1276.5 874.5 4.5 1285 877.5 4.5</gml:posList></gml:LineString>
+                    <gml:Polygon>
+                      <gml:exterior>
+                        <gml:LinearRing>
+                          <gml:posList>1276.5 874.5 4.5 1308.5 874.5 4.5 1308.5 894.5 4.5 1276.5 894.5 4.5 1276.5 874.5 4.5</gml:posList>
+                        </gml:LinearRing>
+                      </gml:exterior>
+                    </gml:Polygon>
                   </ladmfr:geometry>
                   <ladmfr:level xlink:href="#level-parcels"/>
                   <ladmfr:spatialUnitGroup xlink:href="#section-ab"/>
@@ -502,7 +516,7 @@
               <ladmfr:role>surveyor</ladmfr:role>
               <ladmfr:role>notary</ladmfr:role>
               <ladmfr:type>natural person</ladmfr:type>
-              <ladmfr:pNameSpace>clairval.points</ladmfr:pNameSpace>
+              <ladmfr:pNameSpace>clairval.parties</ladmfr:pNameSpace>
               <ladmfr:extPNameSpace>clairval.register</ladmfr:extPNameSpace>
               <ladmfr:rrr xlink:href="#right-garden"/>
               <ladmfr:groupParty xlink:href="#group-owners"/>
@@ -601,10 +615,16 @@
           <ladmfr:volume uom="m3">2100</ladmfr:volume>
           <ladmfr:suNameSpace>clairval.units</ladmfr:suNameSpace>
           <ladmfr:pID>RP-77</ladmfr:pID>
-          <ladmfr:pNameSpace>clairval.parties</ladmfr:pNameSpace>
+          <ladmfr:pNameSpace>clairval.points</ladmfr:pNameSpace>
           <ladmfr:pointType>reference</ladmfr:pointType>
           <ladmfr:geometry>
-            <gml:LineString><gml:posList>1257 864 2.4 1265.5 867 2.4</gml:posList></gml:LineString>
+            <gml:Polygon>
+              <gml:exterior>
+                <gml:LinearRing>
+                  <gml:posList>1257 864 2.4 1289 864 2.4 1289 884 2.4 1257 884 2.4 1257 864 2.4</gml:posList>
+                </gml:LinearRing>
+              </gml:exterior>
+            </gml:Polygon>
           </ladmfr:geometry>
           <ladmfr:level xlink:href="#level-parcels"/>
           <ladmfr:spatialUnitGroup xlink:href="#section-ab"/>
@@ -632,6 +652,7 @@
       <ladmfr:uNameSpace>clairval.baunits</ladmfr:uNameSpace>
       <ladmfr:rrr>
         <ladmfr:LA_RRR gml:id="rrr-mooring">
+          <gml:description>From April to October</gml:description>
           <gml:name>Mooring during the season</gml:name>
           <ladmfr:rID>R-2</ladmfr:rID>
           <ladmfr:share>1</ladmfr:share>
@@ -663,7 +684,13 @@
           <ladmfr:pNameSpace>clairval.points</ladmfr:pNameSpace>
           <ladmfr:pointType>boundary</ladmfr:pointType>
           <ladmfr:geometry>
-            <gml:LineString><gml:posList>1266 885.75 1.8 1274.5 888.75 1.8</gml:posList></gml:LineString>
+            <gml:Polygon>
+              <gml:exterior>
+                <gml:LinearRing>
+                  <gml:posList>1266 885.75 1.8 1298 885.75 1.8 1298 905.75 1.8 1266 905.75 1.8 1266 885.75 1.8</gml:posList>
+                </gml:LinearRing>
+              </gml:exterior>
+            </gml:Polygon>
           </ladmfr:geometry>
           <ladmfr:level xlink:href="#level-parcels"/>
           <ladmfr:spatialUnitGroup xlink:href="#section-ab"/>
