@@ -1,0 +1,155 @@
+// Reading, loading, listing and writing a document, beside a bare expat pass over the same bytes.
+
+#include "citygml/CityGMLFeaturesFillVisitor.h"
+#include "citygml/CityGmlUtils.h"
+#include "citygml/CityModel.h"
+#include "Measure.h"
+#include "Subject.h"
+#include "UI/Models/CityGMLModel/CityGMLProxyModel.h"
+
+#include <algorithm>
+#include <memory>
+#include <ostream>
+#include <streambuf>
+
+using namespace tolvik;
+
+namespace {
+
+/// Counts what is written, and forgets it.
+class CountingBuffer : public std::streambuf
+{
+public:
+    double bytes = 0;
+
+protected:
+    int_type overflow(int_type character) override
+    {
+        ++bytes;
+        return traits_type::not_eof(character);
+    }
+
+    std::streamsize xsputn(const char*, std::streamsize count) override
+    {
+        bytes += static_cast<double>(count);
+        return count;
+    }
+};
+
+/// MB/s, the time as a multiple of the expat pass, and the peak of memory.
+void report(benchmark::State& state, Measure& measure, double peak = 0)
+{
+    Subject& subject = Subject::current();
+    measure.setBytes(subject.bytes());
+    measure.setRatio("times_expat", subject.expatSeconds());
+    if (peak > 0) {
+        state.counters["peak_MB"] = peak / 1e6;
+        state.counters["peak_bytes_per_byte"] = peak / subject.bytes();
+    }
+}
+
+void expatPass(benchmark::State& state)
+{
+    const Subject& subject = Subject::current();
+    Measure measure(state);
+    for (auto _ : state) {
+        measure.iteration([&] { subject.passExpat(); });
+    }
+    report(state, measure);
+}
+
+void readObjects(benchmark::State& state)
+{
+    const Subject& subject = Subject::current();
+    Measure measure(state);
+    double peak = 0;
+    for (auto _ : state) {
+        const MemoryPeak memory;
+        std::unique_ptr<core::CityModelType> document;
+        measure.iteration([&] { document = subject.read(); });
+        peak = std::max(peak, memory.bytes());
+    }
+    report(state, measure, peak);
+}
+
+/// Rows and property trees come with a load.
+void loadModel(benchmark::State& state)
+{
+    Subject& subject = Subject::current();
+    Measure measure(state);
+    double peak = 0;
+    int rows = 0;
+    for (auto _ : state) {
+        const MemoryPeak memory;
+        CityGMLModel model(nullptr, nullptr);
+        measure.iteration([&] { model.load(subject.path()); });
+        peak = std::max(peak, memory.bytes());
+        rows = model.rowCount();
+    }
+    report(state, measure, peak);
+    state.counters["rows"] = rows;
+    measure.setRatio("times_read", subject.readSeconds());
+}
+
+/// The same with a tree over the model.
+void loadModelAndTree(benchmark::State& state)
+{
+    const Subject& subject = Subject::current();
+    Measure measure(state);
+    double peak = 0;
+    for (auto _ : state) {
+        const MemoryPeak memory;
+        CityGMLModel model(nullptr, nullptr);
+        CityGMLProxyModel tree;
+        tree.setSourceModel(&model);
+        measure.iteration([&] { model.load(subject.path()); });
+        peak = std::max(peak, memory.bytes());
+    }
+    report(state, measure, peak);
+}
+
+void listFeatures(benchmark::State& state)
+{
+    const std::unique_ptr<core::CityModelType> document = Subject::current().read();
+    Measure measure(state);
+    std::size_t features = 0;
+    for (auto _ : state) {
+        CityGMLFeaturesFillVisitor visitor;
+        measure.iteration([&] { document->accept(&visitor); });
+        features = visitor.getModelFeatures().size();
+    }
+    report(state, measure);
+    state.counters["ns_per_feature"] = measure.seconds() * 1e9 / static_cast<double>(features);
+}
+
+/// To a stream that keeps nothing. MB/s are those of what is written.
+void writeObjects(benchmark::State& state)
+{
+    Subject& subject = Subject::current();
+    const std::unique_ptr<core::CityModelType> document = subject.read();
+    xsd::cxx::xml::dom::namespace_infomap<char> namespaces;
+    for (const NamespacesMap& entry : CityGmlUtils::getNamespaces()) {
+        namespaces[entry.prefix].name = entry.name;
+        namespaces[entry.prefix].schema = entry.schemaLocation;
+    }
+    Measure measure(state);
+    double written = 0;
+    for (auto _ : state) {
+        CountingBuffer buffer;
+        std::ostream stream(&buffer);
+        measure.iteration([&] { core::CityModel(stream, *document, namespaces); });
+        written = buffer.bytes;
+    }
+    report(state, measure);
+    measure.setBytes(written);
+    measure.setRatio("times_read", subject.readSeconds());
+}
+
+} // namespace
+
+BENCHMARK(expatPass)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(readObjects)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(loadModel)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(loadModelAndTree)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(listFeatures)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(writeObjects)->UseManualTime()->Unit(benchmark::kMillisecond);
