@@ -20,7 +20,7 @@
         <component:Component gml:id="component-wall">
           <gml:description>Wall towards the quay, as built</gml:description>
           <gml:name>Facade of the quay</gml:name>
-          <gml:name codeSpace="urn:clairval:names">Facade of the quay (2)</gml:name>
+          <gml:name codeSpace="urn:clairval:register">PC-COMPONENT-WALL</gml:name>
           <core:creationDate>2019-03-12</core:creationDate>
           <core:terminationDate>2095-12-31</core:terminationDate>
           <core:externalReference>
@@ -109,6 +109,27 @@
                   </component:part>
                 </component:OpeningComponentType>
               </component:opening>
+              <component:opening>
+                <component:OpeningComponentType gml:id="door-type">
+                  <gml:name>Door to the quay</gml:name>
+                  <component:lifeExpectancy unit="year">50</component:lifeExpectancy>
+                  <component:constructionPackage>fittings</component:constructionPackage>
+                  <component:typeOfComponent>door</component:typeOfComponent>
+                  <component:componentReference xlink:href="#reference-window"/>
+                  <component:width uom="m">0.9</component:width>
+                  <component:height uom="m">2.15</component:height>
+                  <component:dateOfRefurbishment>2020</component:dateOfRefurbishment>
+                  <component:solarFactor uom="1">0.48</component:solarFactor>
+                  <component:openableRatio uom="1">0.5</component:openableRatio>
+                  <component:openingType>Door</component:openingType>
+                  <component:openingPosition>OnTheInsideOfTheWall</component:openingPosition>
+                  <component:openingManagement>AutomaticManagement</component:openingManagement>
+                  <component:closeShadingType>Framing</component:closeShadingType>
+                  <component:airIntakeModule uom="m3/h">45</component:airIntakeModule>
+                  <component:depth uom="m">0.09</component:depth>
+                  <component:part xlink:href="#handle-type"/>
+                </component:OpeningComponentType>
+              </component:opening>
             </component:WallComponentType>
           </component:componentType>
         </component:Component>
@@ -143,8 +164,8 @@
       <component:componentType>
         <component:FloorComponentType gml:id="floor-type">
           <gml:name>Ribbed concrete slab</gml:name>
-          <component:lifeExpectancy unit="year">50</component:lifeExpectancy>
-          <component:constructionPackage>fittings</component:constructionPackage>
+          <component:lifeExpectancy unit="year">30</component:lifeExpectancy>
+          <component:constructionPackage>shell</component:constructionPackage>
           <component:typeOfComponent>floor</component:typeOfComponent>
           <component:componentReference xlink:href="#reference-window"/>
           <component:mainMaterial>oak</component:mainMaterial>
@@ -152,8 +173,8 @@
           <component:layer>
             <component:LayeredComponentType gml:id="layer-floor">
               <gml:name>Oak boards</gml:name>
-              <component:lifeExpectancy unit="year">30</component:lifeExpectancy>
-              <component:constructionPackage>shell</component:constructionPackage>
+              <component:lifeExpectancy unit="year">25</component:lifeExpectancy>
+              <component:constructionPackage>envelope</component:constructionPackage>
               <component:typeOfComponent>finish</component:typeOfComponent>
               <component:componentReference xlink:href="#reference-brick"/>
               <component:thickness uom="m">0.14</component:thickness>
@@ -176,8 +197,8 @@
       <component:componentType>
         <component:RoofComponentType gml:id="roof-type">
           <gml:name>Rafter roof with tiles</gml:name>
-          <component:lifeExpectancy unit="year">25</component:lifeExpectancy>
-          <component:constructionPackage>envelope</component:constructionPackage>
+          <component:lifeExpectancy unit="year">80</component:lifeExpectancy>
+          <component:constructionPackage>fittings</component:constructionPackage>
           <component:typeOfComponent>roof</component:typeOfComponent>
           <component:componentReference xlink:href="#reference-window"/>
           <component:mainMaterial>concrete</component:mainMaterial>
@@ -185,8 +206,8 @@
           <component:layer>
             <component:LayeredComponentType gml:id="layer-roof">
               <gml:name>Clay tiles</gml:name>
-              <component:lifeExpectancy unit="year">80</component:lifeExpectancy>
-              <component:constructionPackage>fittings</component:constructionPackage>
+              <component:lifeExpectancy unit="year">50</component:lifeExpectancy>
+              <component:constructionPackage>shell</component:constructionPackage>
               <component:typeOfComponent>finish</component:typeOfComponent>
               <component:componentReference xlink:href="#reference-brick"/>
               <component:thickness uom="m">0.02</component:thickness>
@@ -209,8 +230,8 @@
       <component:componentType>
         <component:FoundationComponentType gml:id="foundation-type">
           <gml:name>Strip footing</gml:name>
-          <component:lifeExpectancy unit="year">50</component:lifeExpectancy>
-          <component:constructionPackage>shell</component:constructionPackage>
+          <component:lifeExpectancy unit="year">30</component:lifeExpectancy>
+          <component:constructionPackage>envelope</component:constructionPackage>
           <component:typeOfComponent>foundation</component:typeOfComponent>
           <component:componentReference xlink:href="#reference-window"/>
           <component:constructiveSystem>strip footing</component:constructiveSystem>

@@ -28,7 +28,7 @@
           </utility:potentialSupply>
           <utility:currentSupply>
             <utility:Supply>
-              <utility:flowRate uom="m3/h">1.8</utility:flowRate>
+              <utility:flowRate uom="m3/h">1.6</utility:flowRate>
               <utility:status>outOfService</utility:status>
             </utility:Supply>
           </utility:currentSupply>
@@ -37,8 +37,17 @@
               <utility:type>tank</utility:type>
               <utility:maxCapacity uom="m3">500</utility:maxCapacity>
               <utility:fillLevel>0.65</utility:fillLevel>
-              <utility:inflowRate uom="m3/h">12</utility:inflowRate>
-              <utility:outflowRate uom="m3/h">10</utility:outflowRate>
+              <utility:inflowRate uom="m3/h">6.4</utility:inflowRate>
+              <utility:outflowRate uom="m3/h">3.2</utility:outflowRate>
+            </utility:Storage>
+          </utility:storages>
+          <utility:storages>
+            <utility:Storage>
+              <utility:type>buffer tank</utility:type>
+              <utility:maxCapacity uom="m3">500</utility:maxCapacity>
+              <utility:fillLevel>0.4</utility:fillLevel>
+              <utility:inflowRate uom="m3/h">6.4</utility:inflowRate>
+              <utility:outflowRate uom="m3/h">3.2</utility:outflowRate>
             </utility:Storage>
           </utility:storages>
           <utility:type>drinking water</utility:type>
@@ -49,23 +58,23 @@
           <gml:name>Gas of the house</gml:name>
           <utility:potentialSupply>
             <utility:Supply>
-              <utility:flowRate uom="m3/h">3.2</utility:flowRate>
+              <utility:flowRate uom="m3/h">4.5</utility:flowRate>
               <utility:status>destroyed</utility:status>
             </utility:Supply>
           </utility:potentialSupply>
           <utility:currentSupply>
             <utility:Supply>
-              <utility:flowRate uom="m3/h">1.8</utility:flowRate>
+              <utility:flowRate uom="m3/h">2.25</utility:flowRate>
               <utility:status>unknown</utility:status>
             </utility:Supply>
           </utility:currentSupply>
           <utility:storages>
             <utility:Storage>
-              <utility:type>battery</utility:type>
+              <utility:type>tank</utility:type>
               <utility:maxCapacity uom="m3">30</utility:maxCapacity>
-              <utility:fillLevel>0.4</utility:fillLevel>
-              <utility:inflowRate uom="m3/h">4</utility:inflowRate>
-              <utility:outflowRate uom="m3/h">3.5</utility:outflowRate>
+              <utility:fillLevel>0.65</utility:fillLevel>
+              <utility:inflowRate uom="m3/h">9</utility:inflowRate>
+              <utility:outflowRate uom="m3/h">4.5</utility:outflowRate>
             </utility:Storage>
           </utility:storages>
           <utility:type>natural gas</utility:type>
@@ -76,23 +85,23 @@
           <gml:name>Power of the house</gml:name>
           <utility:potentialSupply>
             <utility:Supply>
-              <utility:flowRate uom="m3/h">3.2</utility:flowRate>
+              <utility:flowRate uom="kW">36</utility:flowRate>
               <utility:status>inUse</utility:status>
             </utility:Supply>
           </utility:potentialSupply>
           <utility:currentSupply>
             <utility:Supply>
-              <utility:flowRate uom="m3/h">1.8</utility:flowRate>
+              <utility:flowRate uom="kW">18</utility:flowRate>
               <utility:status>tempOutOfService</utility:status>
             </utility:Supply>
           </utility:currentSupply>
           <utility:storages>
             <utility:Storage>
-              <utility:type>tank</utility:type>
-              <utility:maxCapacity uom="m3">500</utility:maxCapacity>
+              <utility:type>battery</utility:type>
+              <utility:maxCapacity uom="kWh">13.5</utility:maxCapacity>
               <utility:fillLevel>0.65</utility:fillLevel>
-              <utility:inflowRate uom="m3/h">12</utility:inflowRate>
-              <utility:outflowRate uom="m3/h">10</utility:outflowRate>
+              <utility:inflowRate uom="kW">72</utility:inflowRate>
+              <utility:outflowRate uom="kW">36</utility:outflowRate>
             </utility:Storage>
           </utility:storages>
           <utility:type>directCurrent</utility:type>
@@ -103,23 +112,23 @@
           <gml:name>Fibre of the house</gml:name>
           <utility:potentialSupply>
             <utility:Supply>
-              <utility:flowRate uom="m3/h">3.2</utility:flowRate>
+              <utility:flowRate uom="Gbit/s">2</utility:flowRate>
               <utility:status>outOfService</utility:status>
             </utility:Supply>
           </utility:potentialSupply>
           <utility:currentSupply>
             <utility:Supply>
-              <utility:flowRate uom="m3/h">1.8</utility:flowRate>
+              <utility:flowRate uom="Gbit/s">1</utility:flowRate>
               <utility:status>destroyed</utility:status>
             </utility:Supply>
           </utility:currentSupply>
           <utility:storages>
             <utility:Storage>
-              <utility:type>battery</utility:type>
-              <utility:maxCapacity uom="m3">30</utility:maxCapacity>
-              <utility:fillLevel>0.4</utility:fillLevel>
-              <utility:inflowRate uom="m3/h">4</utility:inflowRate>
-              <utility:outflowRate uom="m3/h">3.5</utility:outflowRate>
+              <utility:type>buffer</utility:type>
+              <utility:maxCapacity uom="Gbit">8</utility:maxCapacity>
+              <utility:fillLevel>0.65</utility:fillLevel>
+              <utility:inflowRate uom="Gbit/s">4</utility:inflowRate>
+              <utility:outflowRate uom="Gbit/s">2</utility:outflowRate>
             </utility:Storage>
           </utility:storages>
           <utility:type>light</utility:type>
@@ -130,23 +139,23 @@
           <gml:name>Pellets of the house</gml:name>
           <utility:potentialSupply>
             <utility:Supply>
-              <utility:flowRate uom="m3/h">3.2</utility:flowRate>
+              <utility:flowRate uom="kg/h">6</utility:flowRate>
               <utility:status>unknown</utility:status>
             </utility:Supply>
           </utility:potentialSupply>
           <utility:currentSupply>
             <utility:Supply>
-              <utility:flowRate uom="m3/h">1.8</utility:flowRate>
+              <utility:flowRate uom="kg/h">3</utility:flowRate>
               <utility:status>inUse</utility:status>
             </utility:Supply>
           </utility:currentSupply>
           <utility:storages>
             <utility:Storage>
-              <utility:type>tank</utility:type>
-              <utility:maxCapacity uom="m3">500</utility:maxCapacity>
+              <utility:type>silo</utility:type>
+              <utility:maxCapacity uom="kg">1200</utility:maxCapacity>
               <utility:fillLevel>0.65</utility:fillLevel>
-              <utility:inflowRate uom="m3/h">12</utility:inflowRate>
-              <utility:outflowRate uom="m3/h">10</utility:outflowRate>
+              <utility:inflowRate uom="kg/h">12</utility:inflowRate>
+              <utility:outflowRate uom="kg/h">6</utility:outflowRate>
             </utility:Storage>
           </utility:storages>
           <utility:type>wood pellets</utility:type>
@@ -163,7 +172,7 @@
     <utility:Network gml:id="water">
       <gml:description>Drinking water network of the port</gml:description>
       <gml:name>Drinking water</gml:name>
-      <gml:name codeSpace="urn:clairval:names">Drinking water (2)</gml:name>
+      <gml:name codeSpace="urn:clairval:register">PC-WATER</gml:name>
       <core:creationDate>2019-03-12</core:creationDate>
       <core:terminationDate>2095-12-31</core:terminationDate>
       <core:externalReference>
@@ -177,9 +186,8 @@
       <utility:function>protection</utility:function>
       <utility:usage>town</utility:usage>
       <utility:usage>port</utility:usage>
-      <utility:networkClass>MediumVoltageNetwork</utility:networkClass>
-      <utility:functionAndUsage>disposal</utility:functionAndUsage>
-      <utility:functionAndUsage>communication</utility:functionAndUsage>
+      <utility:networkClass>MediumPressureNetwork</utility:networkClass>
+      <utility:functionAndUsage>supply</utility:functionAndUsage>
       <utility:transportedMedium>
         <utility:LiquidMedium gml:id="medium-water">
           <gml:name>Drinking water</gml:name>
@@ -187,65 +195,66 @@
           <utility:isClassifiedBy>
             <utility:ChemicalClassifier gml:id="class-hypochlorite">
               <gml:name>Hypochlorite in the water</gml:name>
-              <utility:molFormula>Cl2</utility:molFormula>
-              <utility:physicalForm>gas</utility:physicalForm>
-              <utility:molecularWeight uom="g/mol">18.02</utility:molecularWeight>
+              <utility:molFormula>NaClO</utility:molFormula>
+              <utility:physicalForm>solution</utility:physicalForm>
+              <utility:molecularWeight uom="g/mol">74.44</utility:molecularWeight>
               <utility:signalWord>nonHazardous</utility:signalWord>
-              <utility:isChemicalComplex>true</utility:isChemicalComplex>
+              <utility:isChemicalComplex>false</utility:isChemicalComplex>
               <utility:hazardClass>
                 <utility:HazardClass>
-                  <utility:hazardClass>gas under pressure</utility:hazardClass>
-                  <utility:categoryCode>Press. Gas</utility:categoryCode>
-                  <utility:statementCode>H280</utility:statementCode>
-                  <utility:pictogramCode>GHS04</utility:pictogramCode>
-                  <utility:pictogramURI>https://chemicals.example/pictograms/ghs04.svg</utility:pictogramURI>
+                  <utility:hazardClass>skin corrosion</utility:hazardClass>
+                  <utility:categoryCode>Skin Corr. 1B</utility:categoryCode>
+                  <utility:statementCode>H314</utility:statementCode>
+                  <utility:pictogramCode>GHS05</utility:pictogramCode>
+                  <utility:pictogramURI>https://chemicals.example/pictograms/ghs05.svg</utility:pictogramURI>
                 </utility:HazardClass>
               </utility:hazardClass>
               <utility:composedOf>
                 <utility:GenericClassifier gml:id="class-chlorine">
+                  <gml:description>Residue of the disinfection</gml:description>
                   <gml:name>Chlorine compound</gml:name>
-                  <utility:molFormula>H2O</utility:molFormula>
-                  <utility:physicalForm>liquid</utility:physicalForm>
-                  <utility:molecularWeight uom="g/mol">70.9</utility:molecularWeight>
+                  <utility:molFormula>HClO</utility:molFormula>
+                  <utility:physicalForm>solution</utility:physicalForm>
+                  <utility:molecularWeight uom="g/mol">52.46</utility:molecularWeight>
                   <utility:signalWord>attention</utility:signalWord>
                   <utility:isChemicalComplex>true</utility:isChemicalComplex>
                   <utility:hazardClass>
                     <utility:HazardClass>
-                      <utility:hazardClass>gas under pressure</utility:hazardClass>
-                      <utility:categoryCode>Press. Gas</utility:categoryCode>
-                      <utility:statementCode>H280</utility:statementCode>
-                      <utility:pictogramCode>GHS04</utility:pictogramCode>
-                      <utility:pictogramURI>https://chemicals.example/pictograms/ghs04.svg</utility:pictogramURI>
+                      <utility:hazardClass>hazardous to the aquatic environment</utility:hazardClass>
+                      <utility:categoryCode>Aquatic Acute 1</utility:categoryCode>
+                      <utility:statementCode>H400</utility:statementCode>
+                      <utility:pictogramCode>GHS09</utility:pictogramCode>
+                      <utility:pictogramURI>https://chemicals.example/pictograms/ghs09.svg</utility:pictogramURI>
                     </utility:HazardClass>
                   </utility:hazardClass>
                   <utility:composedOf xlink:href="#class-water"/>
                 </utility:GenericClassifier>
               </utility:composedOf>
-              <utility:ECNo>231-959-5</utility:ECNo>
-              <utility:CasNo>7782-50-5</utility:CasNo>
-              <utility:IUCLIDChemicalDataSheet>https://chemicals.example/sheets/7782-50-5</utility:IUCLIDChemicalDataSheet>
+              <utility:ECNo>231-668-3</utility:ECNo>
+              <utility:CasNo>7681-52-9</utility:CasNo>
+              <utility:IUCLIDChemicalDataSheet>https://chemicals.example/sheets/7681-52-9</utility:IUCLIDChemicalDataSheet>
             </utility:ChemicalClassifier>
           </utility:isClassifiedBy>
           <utility:isClassifiedBy>
             <utility:GHSClassifier gml:id="class-water">
               <gml:name>Water</gml:name>
-              <utility:molFormula>CH4</utility:molFormula>
-              <utility:physicalForm>gas</utility:physicalForm>
+              <utility:molFormula>H2O</utility:molFormula>
+              <utility:physicalForm>liquid</utility:physicalForm>
               <utility:molecularWeight uom="g/mol">18.02</utility:molecularWeight>
-              <utility:signalWord>hazardous</utility:signalWord>
+              <utility:signalWord>nonHazardous</utility:signalWord>
               <utility:isChemicalComplex>false</utility:isChemicalComplex>
               <utility:hazardClass>
                 <utility:HazardClass>
-                  <utility:hazardClass>gas under pressure</utility:hazardClass>
-                  <utility:categoryCode>Press. Gas</utility:categoryCode>
-                  <utility:statementCode>H280</utility:statementCode>
-                  <utility:pictogramCode>GHS04</utility:pictogramCode>
-                  <utility:pictogramURI>https://chemicals.example/pictograms/ghs04.svg</utility:pictogramURI>
+                  <utility:hazardClass>skin corrosion</utility:hazardClass>
+                  <utility:categoryCode>Skin Corr. 1B</utility:categoryCode>
+                  <utility:statementCode>H314</utility:statementCode>
+                  <utility:pictogramCode>GHS05</utility:pictogramCode>
+                  <utility:pictogramURI>https://chemicals.example/pictograms/ghs05.svg</utility:pictogramURI>
                 </utility:HazardClass>
               </utility:hazardClass>
               <utility:composedOf xlink:href="#class-chlorine"/>
-              <utility:ECNo>231-791-2</utility:ECNo>
-              <utility:CasNo>7732-18-5</utility:CasNo>
+              <utility:ECNo>231-959-5</utility:ECNo>
+              <utility:CasNo>7782-50-5</utility:CasNo>
             </utility:GHSClassifier>
           </utility:isClassifiedBy>
           <utility:type>drinking water</utility:type>
@@ -263,7 +272,7 @@
         <utility:RoundPipe gml:id="pipe-main">
           <gml:description>Ductile iron main, with material, role, hollow space and graph</gml:description>
           <gml:name>Main under the quay</gml:name>
-          <gml:name codeSpace="urn:clairval:names">Main under the quay (2)</gml:name>
+          <gml:name codeSpace="urn:clairval:register">PC-PIPE-MAIN</gml:name>
           <core:creationDate>2020-06-01</core:creationDate>
           <core:terminationDate>2095-12-31</core:terminationDate>
           <core:externalReference>
@@ -343,7 +352,7 @@
                   <utility:type>exterior</utility:type>
                   <utility:connectionSignature xlink:href="urn:clairval:signature"/>
                   <utility:linkControl xlink:href="urn:clairval:link-control"/>
-                  <utility:realization><gml:Point><gml:pos>1225.5 865.75 1.8</gml:pos></gml:Point></utility:realization>
+                  <utility:realization><gml:Point><gml:pos>1230 860 2.4</gml:pos></gml:Point></utility:realization>
                 </utility:Node>
               </utility:nodeMember>
               <utility:nodeMember>
@@ -352,7 +361,7 @@
                   <utility:type>exterior</utility:type>
                   <utility:connectionSignature xlink:href="urn:clairval:signature"/>
                   <utility:linkControl xlink:href="urn:clairval:link-control"/>
-                  <utility:realization><gml:Point><gml:pos>1209 911.25 3</gml:pos></gml:Point></utility:realization>
+                  <utility:realization><gml:Point><gml:pos>1215 906.5 4.5</gml:pos></gml:Point></utility:realization>
                 </utility:Node>
               </utility:nodeMember>
               <utility:linkMember>
@@ -363,21 +372,21 @@
                   <utility:end xlink:href="#node-main-end"/>
                   <utility:linkControl xlink:href="urn:clairval:link-control"/>
                   <utility:realization>
-                    <gml:LineString><gml:posList>1284 897.75 1.8 1292.5 900.75 1.8</gml:posList></gml:LineString>
+                    <gml:LineString><gml:posList>1288.5 892 2.4 1297 895 2.4</gml:posList></gml:LineString>
                   </utility:realization>
                 </utility:InteriorFeatureLink>
               </utility:linkMember>
             </utility:FeatureGraph>
           </utility:topoGraph>
-          <utility:lod1Geometry><gml:Point><gml:pos>1230 860 2.4</gml:pos></gml:Point></utility:lod1Geometry>
+          <utility:lod1Geometry><gml:Point><gml:pos>1236 915.25 3</gml:pos></gml:Point></utility:lod1Geometry>
           <utility:lod2Geometry>
-            <gml:LineString><gml:posList>1267.5 883.25 3 1276 886.25 3</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1272 878.5 4.5 1280.5 881.5 4.5</gml:posList></gml:LineString>
           </utility:lod2Geometry>
           <utility:lod3Geometry>
-            <gml:LineString><gml:posList>1215 906.5 4.5 1223.5 909.5 4.5</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1219.5 901.75 1.8 1228 904.75 1.8</gml:posList></gml:LineString>
           </utility:lod3Geometry>
           <utility:lod4Geometry>
-            <gml:LineString><gml:posList>1251 869.75 1.8 1259.5 872.75 1.8</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1257 864 2.4 1265.5 867 2.4</gml:posList></gml:LineString>
           </utility:lod4Geometry>
           <utility:class>transport</utility:class>
           <utility:functionOfLine>main line</utility:functionOfLine>
@@ -417,20 +426,20 @@
               </utility:nodeMember>
             </utility:FeatureGraph>
           </utility:topoGraph>
-          <utility:lod1Geometry><gml:Point><gml:pos>1213.5 877.75 1.8</gml:pos></gml:Point></utility:lod1Geometry>
+          <utility:lod1Geometry><gml:Point><gml:pos>1218 872 2.4</gml:pos></gml:Point></utility:lod1Geometry>
           <utility:lod2Geometry>
-            <gml:LineString><gml:posList>1251 900 2.4 1259.5 903 2.4</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1255.5 895.25 3 1264 898.25 3</gml:posList></gml:LineString>
           </utility:lod2Geometry>
           <utility:lod3Geometry>
-            <gml:LineString><gml:posList>1287 863.25 3 1295.5 866.25 3</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1203 918.5 4.5 1211.5 921.5 4.5</gml:posList></gml:LineString>
           </utility:lod3Geometry>
           <utility:lod4Geometry>
-            <gml:LineString><gml:posList>1234.5 886.5 4.5 1243 889.5 4.5</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1239 881.75 1.8 1247.5 884.75 1.8</gml:posList></gml:LineString>
           </utility:lod4Geometry>
           <utility:class>connection</utility:class>
           <utility:functionOfLine>main line</utility:functionOfLine>
           <utility:profileName>egg-shaped 400/600</utility:profileName>
-          <utility:slope uom="%">0.5 2</utility:slope>
+          <utility:slope uom="percent">0.5 2</utility:slope>
           <utility:isGravity>true</utility:isGravity>
           <utility:exteriorWidth uom="m">0.28</utility:exteriorWidth>
           <utility:exteriorHeight uom="m">0.25</utility:exteriorHeight>
@@ -466,20 +475,20 @@
               </utility:nodeMember>
             </utility:FeatureGraph>
           </utility:topoGraph>
-          <utility:lod1Geometry><gml:Point><gml:pos>1233 917.75 1.8</gml:pos></gml:Point></utility:lod1Geometry>
+          <utility:lod1Geometry><gml:Point><gml:pos>1239 912 2.4</gml:pos></gml:Point></utility:lod1Geometry>
           <utility:lod2Geometry>
-            <gml:LineString><gml:posList>1270.5 880 2.4 1279 883 2.4</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1275 875.25 3 1283.5 878.25 3</gml:posList></gml:LineString>
           </utility:lod2Geometry>
           <utility:lod3Geometry>
-            <gml:LineString><gml:posList>1218 903.25 3 1226.5 906.25 3</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1222.5 898.5 4.5 1231 901.5 4.5</gml:posList></gml:LineString>
           </utility:lod3Geometry>
           <utility:lod4Geometry>
-            <gml:LineString><gml:posList>1254 866.5 4.5 1262.5 869.5 4.5</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1260 861.75 1.8 1268.5 864.75 1.8</gml:posList></gml:LineString>
           </utility:lod4Geometry>
           <utility:class>transport</utility:class>
           <utility:functionOfLine>house connection</utility:functionOfLine>
           <utility:profileName>trapezoid</utility:profileName>
-          <utility:slope uom="%">0.5 2</utility:slope>
+          <utility:slope uom="percent">0.5 2</utility:slope>
           <utility:isGravity>false</utility:isGravity>
           <utility:exteriorWidth uom="m">0.4</utility:exteriorWidth>
           <utility:exteriorHeight uom="m">0.3</utility:exteriorHeight>
@@ -515,20 +524,20 @@
               </utility:nodeMember>
             </utility:FeatureGraph>
           </utility:topoGraph>
-          <utility:lod1Geometry><gml:Point><gml:pos>1254 897.75 1.8</gml:pos></gml:Point></utility:lod1Geometry>
+          <utility:lod1Geometry><gml:Point><gml:pos>1258.5 892 2.4</gml:pos></gml:Point></utility:lod1Geometry>
           <utility:lod2Geometry>
-            <gml:LineString><gml:posList>1200 860 2.4 1208.5 863 2.4</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1206 915.25 3 1214.5 918.25 3</gml:posList></gml:LineString>
           </utility:lod2Geometry>
           <utility:lod3Geometry>
-            <gml:LineString><gml:posList>1237.5 883.25 3 1246 886.25 3</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1242 878.5 4.5 1250.5 881.5 4.5</gml:posList></gml:LineString>
           </utility:lod3Geometry>
           <utility:lod4Geometry>
-            <gml:LineString><gml:posList>1275 906.5 4.5 1283.5 909.5 4.5</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1279.5 901.75 1.8 1288 904.75 1.8</gml:posList></gml:LineString>
           </utility:lod4Geometry>
           <utility:class>distribution</utility:class>
           <utility:functionOfLine>main line</utility:functionOfLine>
           <utility:profileName>egg-shaped 400/600</utility:profileName>
-          <utility:slope uom="%">0.5 2</utility:slope>
+          <utility:slope uom="percent">0.5 2</utility:slope>
           <utility:isGravity>true</utility:isGravity>
           <utility:exteriorWidth uom="m">0.28</utility:exteriorWidth>
           <utility:exteriorHeight uom="m">0.25</utility:exteriorHeight>
@@ -564,23 +573,29 @@
               </utility:nodeMember>
             </utility:FeatureGraph>
           </utility:topoGraph>
-          <utility:lod1Geometry><gml:Point><gml:pos>1273.5 877.75 1.8</gml:pos></gml:Point></utility:lod1Geometry>
+          <utility:lod1Geometry><gml:Point><gml:pos>1278 872 2.4</gml:pos></gml:Point></utility:lod1Geometry>
           <utility:lod2Geometry>
-            <gml:LineString><gml:posList>1221 900 2.4 1229.5 903 2.4</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1225.5 895.25 3 1234 898.25 3</gml:posList></gml:LineString>
           </utility:lod2Geometry>
           <utility:lod3Geometry>
-            <gml:LineString><gml:posList>1257 863.25 3 1265.5 866.25 3</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1263 918.5 4.5 1271.5 921.5 4.5</gml:posList></gml:LineString>
           </utility:lod3Geometry>
           <utility:lod4Geometry>
-            <gml:LineString><gml:posList>1204.5 886.5 4.5 1213 889.5 4.5</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1209 881.75 1.8 1217.5 884.75 1.8</gml:posList></gml:LineString>
           </utility:lod4Geometry>
           <utility:protects xlink:href="#pipe-main"/>
-          <utility:fillingMaterial xlink:href="#sand"/>
+          <utility:fillingMaterial>
+            <utility:FillingMaterial gml:id="sand">
+              <gml:name>Washed sand</gml:name>
+              <utility:type>sand</utility:type>
+            </utility:FillingMaterial>
+          </utility:fillingMaterial>
           <utility:width uom="m">0.8</utility:width>
         </utility:Bedding>
       </utility:component>
       <utility:component>
         <utility:StorageDevice gml:id="tank">
+          <gml:description>Tower on the hill of the lighthouse</gml:description>
           <gml:name>Water tower</gml:name>
           <core:creationDate>2022-02-08</core:creationDate>
           <utility:function>protection</utility:function>
@@ -608,15 +623,15 @@
               </utility:nodeMember>
             </utility:FeatureGraph>
           </utility:topoGraph>
-          <utility:lod1Geometry><gml:Point><gml:pos>1215 876 2.4</gml:pos></gml:Point></utility:lod1Geometry>
+          <utility:lod1Geometry><gml:Point><gml:pos>1257 894.5 4.5</gml:pos></gml:Point></utility:lod1Geometry>
           <utility:lod2Geometry>
-            <gml:LineString><gml:posList>1251 899.25 3 1259.5 902.25 3</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1203 917.75 1.8 1211.5 920.75 1.8</gml:posList></gml:LineString>
           </utility:lod2Geometry>
           <utility:lod3Geometry>
-            <gml:LineString><gml:posList>1288.5 862.5 4.5 1297 865.5 4.5</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1240.5 880 2.4 1249 883 2.4</gml:posList></gml:LineString>
           </utility:lod3Geometry>
           <utility:lod4Geometry>
-            <gml:LineString><gml:posList>1236 885.75 1.8 1244.5 888.75 1.8</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1278 903.25 3 1286.5 906.25 3</gml:posList></gml:LineString>
           </utility:lod4Geometry>
           <utility:class>water tower</utility:class>
         </utility:StorageDevice>
@@ -650,15 +665,15 @@
               </utility:nodeMember>
             </utility:FeatureGraph>
           </utility:topoGraph>
-          <utility:lod1Geometry><gml:Point><gml:pos>1245 875.25 3</gml:pos></gml:Point></utility:lod1Geometry>
+          <utility:lod1Geometry><gml:Point><gml:pos>1287 893.75 1.8</gml:pos></gml:Point></utility:lod1Geometry>
           <utility:lod2Geometry>
-            <gml:LineString><gml:posList>1282.5 898.5 4.5 1291 901.5 4.5</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1234.5 916 2.4 1243 919 2.4</gml:posList></gml:LineString>
           </utility:lod2Geometry>
           <utility:lod3Geometry>
-            <gml:LineString><gml:posList>1230 861.75 1.8 1238.5 864.75 1.8</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1272 879.25 3 1280.5 882.25 3</gml:posList></gml:LineString>
           </utility:lod3Geometry>
           <utility:lod4Geometry>
-            <gml:LineString><gml:posList>1266 884 2.4 1274.5 887 2.4</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1218 902.5 4.5 1226.5 905.5 4.5</gml:posList></gml:LineString>
           </utility:lod4Geometry>
           <utility:class>flow meter</utility:class>
         </utility:MeasurementDevice>
@@ -692,15 +707,15 @@
               </utility:nodeMember>
             </utility:FeatureGraph>
           </utility:topoGraph>
-          <utility:lod1Geometry><gml:Point><gml:pos>1276.5 874.5 4.5</gml:pos></gml:Point></utility:lod1Geometry>
+          <utility:lod1Geometry><gml:Point><gml:pos>1228.5 892 2.4</gml:pos></gml:Point></utility:lod1Geometry>
           <utility:lod2Geometry>
-            <gml:LineString><gml:posList>1224 897.75 1.8 1232.5 900.75 1.8</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1266 915.25 3 1274.5 918.25 3</gml:posList></gml:LineString>
           </utility:lod2Geometry>
           <utility:lod3Geometry>
-            <gml:LineString><gml:posList>1260 860 2.4 1268.5 863 2.4</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1212 878.5 4.5 1220.5 881.5 4.5</gml:posList></gml:LineString>
           </utility:lod3Geometry>
           <utility:lod4Geometry>
-            <gml:LineString><gml:posList>1207.5 883.25 3 1216 886.25 3</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1249.5 901.75 1.8 1258 904.75 1.8</gml:posList></gml:LineString>
           </utility:lod4Geometry>
           <utility:class>valve</utility:class>
         </utility:ControllerDevice>
@@ -734,15 +749,15 @@
               </utility:nodeMember>
             </utility:FeatureGraph>
           </utility:topoGraph>
-          <utility:lod1Geometry><gml:Point><gml:pos>1218 873.75 1.8</gml:pos></gml:Point></utility:lod1Geometry>
+          <utility:lod1Geometry><gml:Point><gml:pos>1260 891.25 3</gml:pos></gml:Point></utility:lod1Geometry>
           <utility:lod2Geometry>
-            <gml:LineString><gml:posList>1254 896 2.4 1262.5 899 2.4</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1206 914.5 4.5 1214.5 917.5 4.5</gml:posList></gml:LineString>
           </utility:lod2Geometry>
           <utility:lod3Geometry>
-            <gml:LineString><gml:posList>1201.5 919.25 3 1210 922.25 3</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1243.5 877.75 1.8 1252 880.75 1.8</gml:posList></gml:LineString>
           </utility:lod3Geometry>
           <utility:lod4Geometry>
-            <gml:LineString><gml:posList>1239 882.5 4.5 1247.5 885.5 4.5</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1281 900 2.4 1289.5 903 2.4</gml:posList></gml:LineString>
           </utility:lod4Geometry>
           <utility:class>hydrant</utility:class>
         </utility:TerminalElement>
@@ -776,15 +791,15 @@
               </utility:nodeMember>
             </utility:FeatureGraph>
           </utility:topoGraph>
-          <utility:lod1Geometry><gml:Point><gml:pos>1248 872 2.4</gml:pos></gml:Point></utility:lod1Geometry>
+          <utility:lod1Geometry><gml:Point><gml:pos>1200 890.5 4.5</gml:pos></gml:Point></utility:lod1Geometry>
           <utility:lod2Geometry>
-            <gml:LineString><gml:posList>1285.5 895.25 3 1294 898.25 3</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1237.5 913.75 1.8 1246 916.75 1.8</gml:posList></gml:LineString>
           </utility:lod2Geometry>
           <utility:lod3Geometry>
-            <gml:LineString><gml:posList>1233 918.5 4.5 1241.5 921.5 4.5</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1275 876 2.4 1283.5 879 2.4</gml:posList></gml:LineString>
           </utility:lod3Geometry>
           <utility:lod4Geometry>
-            <gml:LineString><gml:posList>1269 881.75 1.8 1277.5 884.75 1.8</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1221 899.25 3 1229.5 902.25 3</gml:posList></gml:LineString>
           </utility:lod4Geometry>
           <utility:class>pumping station</utility:class>
         </utility:ComplexFunctionalElement>
@@ -818,15 +833,15 @@
               </utility:nodeMember>
             </utility:FeatureGraph>
           </utility:topoGraph>
-          <utility:lod1Geometry><gml:Point><gml:pos>1279.5 871.25 3</gml:pos></gml:Point></utility:lod1Geometry>
+          <utility:lod1Geometry><gml:Point><gml:pos>1231.5 889.75 1.8</gml:pos></gml:Point></utility:lod1Geometry>
           <utility:lod2Geometry>
-            <gml:LineString><gml:posList>1227 894.5 4.5 1235.5 897.5 4.5</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1269 912 2.4 1277.5 915 2.4</gml:posList></gml:LineString>
           </utility:lod2Geometry>
           <utility:lod3Geometry>
-            <gml:LineString><gml:posList>1263 917.75 1.8 1271.5 920.75 1.8</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1215 875.25 3 1223.5 878.25 3</gml:posList></gml:LineString>
           </utility:lod3Geometry>
           <utility:lod4Geometry>
-            <gml:LineString><gml:posList>1210.5 880 2.4 1219 883 2.4</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1252.5 898.5 4.5 1261 901.5 4.5</gml:posList></gml:LineString>
           </utility:lod4Geometry>
           <utility:protects xlink:href="#pipe-main"/>
           <utility:fillingMaterial xlink:href="#sand"/>
@@ -849,7 +864,7 @@
               <utility:end xlink:href="#node-meter"/>
               <utility:linkControl xlink:href="urn:clairval:link-control"/>
               <utility:realization>
-                <gml:LineString><gml:posList>1252.5 898.5 4.5 1261 901.5 4.5</gml:posList></gml:LineString>
+                <gml:LineString><gml:posList>1204.5 916 2.4 1213 919 2.4</gml:posList></gml:LineString>
               </utility:realization>
               <utility:type>contains</utility:type>
             </utility:InterFeatureLink>
@@ -862,7 +877,7 @@
               <utility:end xlink:href="#node-pumping-station"/>
               <utility:linkControl xlink:href="urn:clairval:link-control"/>
               <utility:realization>
-                <gml:LineString><gml:posList>1273.5 907.25 3 1282 910.25 3</gml:posList></gml:LineString>
+                <gml:LineString><gml:posList>1225.5 865.75 1.8 1234 868.75 1.8</gml:posList></gml:LineString>
               </utility:realization>
             </utility:NetworkLink>
           </utility:networkLinkMember>
@@ -885,7 +900,7 @@
                 <gml:Polygon>
                   <gml:exterior>
                     <gml:LinearRing>
-                      <gml:posList>1221 870.5 4.5 1227 870.5 4.5 1227 870.5 7.3 1221 870.5 7.3 1221 870.5 4.5</gml:posList>
+                      <gml:posList>1263 888 2.4 1269 888 2.4 1269 888 5.2 1263 888 5.2 1263 888 2.4</gml:posList>
                     </gml:LinearRing>
                   </gml:exterior>
                 </gml:Polygon>
@@ -907,7 +922,6 @@
       <utility:usage>port</utility:usage>
       <utility:networkClass>LowVoltageNetwork</utility:networkClass>
       <utility:functionAndUsage>supply</utility:functionAndUsage>
-      <utility:functionAndUsage>disposal</utility:functionAndUsage>
       <utility:transportedMedium>
         <utility:ElectricalMedium gml:id="medium-power">
           <gml:name>Alternating current</gml:name>
@@ -948,15 +962,15 @@
               </utility:nodeMember>
             </utility:FeatureGraph>
           </utility:topoGraph>
-          <utility:lod1Geometry><gml:Point><gml:pos>1203 887.25 3</gml:pos></gml:Point></utility:lod1Geometry>
+          <utility:lod1Geometry><gml:Point><gml:pos>1245 905.75 1.8</gml:pos></gml:Point></utility:lod1Geometry>
           <utility:lod2Geometry>
-            <gml:LineString><gml:posList>1240.5 910.5 4.5 1249 913.5 4.5</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1282.5 868 2.4 1291 871 2.4</gml:posList></gml:LineString>
           </utility:lod2Geometry>
           <utility:lod3Geometry>
-            <gml:LineString><gml:posList>1278 873.75 1.8 1286.5 876.75 1.8</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1230 891.25 3 1238.5 894.25 3</gml:posList></gml:LineString>
           </utility:lod3Geometry>
           <utility:lod4Geometry>
-            <gml:LineString><gml:posList>1224 896 2.4 1232.5 899 2.4</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1266 914.5 4.5 1274.5 917.5 4.5</gml:posList></gml:LineString>
           </utility:lod4Geometry>
           <utility:class>transport</utility:class>
           <utility:functionOfLine>house connection</utility:functionOfLine>
@@ -994,15 +1008,15 @@
               </utility:nodeMember>
             </utility:FeatureGraph>
           </utility:topoGraph>
-          <utility:lod1Geometry><gml:Point><gml:pos>1203 918.5 4.5</gml:pos></gml:Point></utility:lod1Geometry>
+          <utility:lod1Geometry><gml:Point><gml:pos>1245 876 2.4</gml:pos></gml:Point></utility:lod1Geometry>
           <utility:lod2Geometry>
-            <gml:LineString><gml:posList>1239 881.75 1.8 1247.5 884.75 1.8</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1281 899.25 3 1289.5 902.25 3</gml:posList></gml:LineString>
           </utility:lod2Geometry>
           <utility:lod3Geometry>
-            <gml:LineString><gml:posList>1276.5 904 2.4 1285 907 2.4</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1228.5 862.5 4.5 1237 865.5 4.5</gml:posList></gml:LineString>
           </utility:lod3Geometry>
           <utility:lod4Geometry>
-            <gml:LineString><gml:posList>1224 867.25 3 1232.5 870.25 3</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1266 885.75 1.8 1274.5 888.75 1.8</gml:posList></gml:LineString>
           </utility:lod4Geometry>
           <utility:protects xlink:href="#pipe-main"/>
           <utility:fillingMaterial xlink:href="#sand"/>
@@ -1042,15 +1056,15 @@
               </utility:nodeMember>
             </utility:FeatureGraph>
           </utility:topoGraph>
-          <utility:lod1Geometry><gml:Point><gml:pos>1201.5 889.75 1.8</gml:pos></gml:Point></utility:lod1Geometry>
+          <utility:lod1Geometry><gml:Point><gml:pos>1243.5 907.25 3</gml:pos></gml:Point></utility:lod1Geometry>
           <utility:lod2Geometry>
-            <gml:LineString><gml:posList>1239 912 2.4 1247.5 915 2.4</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1281 870.5 4.5 1289.5 873.5 4.5</gml:posList></gml:LineString>
           </utility:lod2Geometry>
           <utility:lod3Geometry>
-            <gml:LineString><gml:posList>1275 875.25 3 1283.5 878.25 3</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1227 893.75 1.8 1235.5 896.75 1.8</gml:posList></gml:LineString>
           </utility:lod3Geometry>
           <utility:lod4Geometry>
-            <gml:LineString><gml:posList>1222.5 898.5 4.5 1231 901.5 4.5</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1264.5 916 2.4 1273 919 2.4</gml:posList></gml:LineString>
           </utility:lod4Geometry>
           <utility:class>transformer</utility:class>
         </utility:TechDevice>
@@ -1084,15 +1098,15 @@
               </utility:nodeMember>
             </utility:FeatureGraph>
           </utility:topoGraph>
-          <utility:lod1Geometry><gml:Point><gml:pos>1233 888 2.4</gml:pos></gml:Point></utility:lod1Geometry>
+          <utility:lod1Geometry><gml:Point><gml:pos>1275 906.5 4.5</gml:pos></gml:Point></utility:lod1Geometry>
           <utility:lod2Geometry>
-            <gml:LineString><gml:posList>1269 911.25 3 1277.5 914.25 3</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1221 869.75 1.8 1229.5 872.75 1.8</gml:posList></gml:LineString>
           </utility:lod2Geometry>
           <utility:lod3Geometry>
-            <gml:LineString><gml:posList>1216.5 874.5 4.5 1225 877.5 4.5</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1258.5 892 2.4 1267 895 2.4</gml:posList></gml:LineString>
           </utility:lod3Geometry>
           <utility:lod4Geometry>
-            <gml:LineString><gml:posList>1254 897.75 1.8 1262.5 900.75 1.8</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1206 915.25 3 1214.5 918.25 3</gml:posList></gml:LineString>
           </utility:lod4Geometry>
           <utility:class>cabinet</utility:class>
         </utility:SimpleFunctionalElement>
@@ -1112,8 +1126,7 @@
       <utility:function>control</utility:function>
       <utility:usage>town</utility:usage>
       <utility:usage>port</utility:usage>
-      <utility:networkClass>HighPressureNetwork</utility:networkClass>
-      <utility:functionAndUsage>communication</utility:functionAndUsage>
+      <utility:networkClass>LowPressureNetwork</utility:networkClass>
       <utility:functionAndUsage>supply</utility:functionAndUsage>
       <utility:transportedMedium>
         <utility:GaseousMedium gml:id="medium-gas">
@@ -1157,15 +1170,15 @@
               </utility:nodeMember>
             </utility:FeatureGraph>
           </utility:topoGraph>
-          <utility:lod1Geometry><gml:Point><gml:pos>1257 863.25 3</gml:pos></gml:Point></utility:lod1Geometry>
+          <utility:lod1Geometry><gml:Point><gml:pos>1209 881.75 1.8</gml:pos></gml:Point></utility:lod1Geometry>
           <utility:lod2Geometry>
-            <gml:LineString><gml:posList>1204.5 886.5 4.5 1213 889.5 4.5</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1246.5 904 2.4 1255 907 2.4</gml:posList></gml:LineString>
           </utility:lod2Geometry>
           <utility:lod3Geometry>
-            <gml:LineString><gml:posList>1242 909.75 1.8 1250.5 912.75 1.8</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1284 867.25 3 1292.5 870.25 3</gml:posList></gml:LineString>
           </utility:lod3Geometry>
           <utility:lod4Geometry>
-            <gml:LineString><gml:posList>1278 872 2.4 1286.5 875 2.4</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1230 890.5 4.5 1238.5 893.5 4.5</gml:posList></gml:LineString>
           </utility:lod4Geometry>
           <utility:class>connection</utility:class>
           <utility:functionOfLine>main line</utility:functionOfLine>
@@ -1204,15 +1217,15 @@
               </utility:nodeMember>
             </utility:FeatureGraph>
           </utility:topoGraph>
-          <utility:lod1Geometry><gml:Point><gml:pos>1203 917.75 1.8</gml:pos></gml:Point></utility:lod1Geometry>
+          <utility:lod1Geometry><gml:Point><gml:pos>1245 875.25 3</gml:pos></gml:Point></utility:lod1Geometry>
           <utility:lod2Geometry>
-            <gml:LineString><gml:posList>1240.5 880 2.4 1249 883 2.4</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1282.5 898.5 4.5 1291 901.5 4.5</gml:posList></gml:LineString>
           </utility:lod2Geometry>
           <utility:lod3Geometry>
-            <gml:LineString><gml:posList>1278 903.25 3 1286.5 906.25 3</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1230 861.75 1.8 1238.5 864.75 1.8</gml:posList></gml:LineString>
           </utility:lod3Geometry>
           <utility:lod4Geometry>
-            <gml:LineString><gml:posList>1224 866.5 4.5 1232.5 869.5 4.5</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1266 884 2.4 1274.5 887 2.4</gml:posList></gml:LineString>
           </utility:lod4Geometry>
           <utility:protects xlink:href="#pipe-main"/>
           <utility:fillingMaterial xlink:href="#sand"/>
@@ -1236,9 +1249,8 @@
       <utility:function>supply</utility:function>
       <utility:usage>town</utility:usage>
       <utility:usage>port</utility:usage>
-      <utility:networkClass>MediumPressureNetwork</utility:networkClass>
+      <utility:networkClass>HighPressureNetwork</utility:networkClass>
       <utility:functionAndUsage>disposal</utility:functionAndUsage>
-      <utility:functionAndUsage>communication</utility:functionAndUsage>
       <utility:transportedMedium>
         <utility:SolidMedium gml:id="medium-waste">
           <gml:name>Household waste</gml:name>
@@ -1281,15 +1293,15 @@
               </utility:nodeMember>
             </utility:FeatureGraph>
           </utility:topoGraph>
-          <utility:lod1Geometry><gml:Point><gml:pos>1212 878.5 4.5</gml:pos></gml:Point></utility:lod1Geometry>
+          <utility:lod1Geometry><gml:Point><gml:pos>1254 896 2.4</gml:pos></gml:Point></utility:lod1Geometry>
           <utility:lod2Geometry>
-            <gml:LineString><gml:posList>1249.5 901.75 1.8 1258 904.75 1.8</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1201.5 919.25 3 1210 922.25 3</gml:posList></gml:LineString>
           </utility:lod2Geometry>
           <utility:lod3Geometry>
-            <gml:LineString><gml:posList>1287 864 2.4 1295.5 867 2.4</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1239 882.5 4.5 1247.5 885.5 4.5</gml:posList></gml:LineString>
           </utility:lod3Geometry>
           <utility:lod4Geometry>
-            <gml:LineString><gml:posList>1233 887.25 3 1241.5 890.25 3</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1275 905.75 1.8 1283.5 908.75 1.8</gml:posList></gml:LineString>
           </utility:lod4Geometry>
           <utility:class>distribution</utility:class>
           <utility:functionOfLine>house connection</utility:functionOfLine>
@@ -1330,15 +1342,15 @@
               </utility:nodeMember>
             </utility:FeatureGraph>
           </utility:topoGraph>
-          <utility:lod1Geometry><gml:Point><gml:pos>1233 918.5 4.5</gml:pos></gml:Point></utility:lod1Geometry>
+          <utility:lod1Geometry><gml:Point><gml:pos>1275 876 2.4</gml:pos></gml:Point></utility:lod1Geometry>
           <utility:lod2Geometry>
-            <gml:LineString><gml:posList>1269 881.75 1.8 1277.5 884.75 1.8</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1221 899.25 3 1229.5 902.25 3</gml:posList></gml:LineString>
           </utility:lod2Geometry>
           <utility:lod3Geometry>
-            <gml:LineString><gml:posList>1216.5 904 2.4 1225 907 2.4</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1258.5 862.5 4.5 1267 865.5 4.5</gml:posList></gml:LineString>
           </utility:lod3Geometry>
           <utility:lod4Geometry>
-            <gml:LineString><gml:posList>1254 867.25 3 1262.5 870.25 3</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1206 885.75 1.8 1214.5 888.75 1.8</gml:posList></gml:LineString>
           </utility:lod4Geometry>
           <utility:class>waste inlet</utility:class>
         </utility:AnyDevice>
@@ -1358,9 +1370,9 @@
       <utility:function>protection</utility:function>
       <utility:usage>town</utility:usage>
       <utility:usage>port</utility:usage>
-      <utility:networkClass>LowPressureNetwork</utility:networkClass>
+      <utility:networkClass>LowVoltageNetwork</utility:networkClass>
+      <utility:functionAndUsage>communication</utility:functionAndUsage>
       <utility:functionAndUsage>supply</utility:functionAndUsage>
-      <utility:functionAndUsage>disposal</utility:functionAndUsage>
       <utility:transportedMedium>
         <utility:OpticalMedium gml:id="medium-light">
           <gml:name>Light</gml:name>
@@ -1402,15 +1414,15 @@
               </utility:nodeMember>
             </utility:FeatureGraph>
           </utility:topoGraph>
-          <utility:lod1Geometry><gml:Point><gml:pos>1221 870.5 4.5</gml:pos></gml:Point></utility:lod1Geometry>
+          <utility:lod1Geometry><gml:Point><gml:pos>1263 888 2.4</gml:pos></gml:Point></utility:lod1Geometry>
           <utility:lod2Geometry>
-            <gml:LineString><gml:posList>1257 893.75 1.8 1265.5 896.75 1.8</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1209 911.25 3 1217.5 914.25 3</gml:posList></gml:LineString>
           </utility:lod2Geometry>
           <utility:lod3Geometry>
-            <gml:LineString><gml:posList>1204.5 916 2.4 1213 919 2.4</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1246.5 874.5 4.5 1255 877.5 4.5</gml:posList></gml:LineString>
           </utility:lod3Geometry>
           <utility:lod4Geometry>
-            <gml:LineString><gml:posList>1242 879.25 3 1250.5 882.25 3</gml:posList></gml:LineString>
+            <gml:LineString><gml:posList>1284 897.75 1.8 1292.5 900.75 1.8</gml:posList></gml:LineString>
           </utility:lod4Geometry>
           <utility:protects xlink:href="#cable"/>
           <utility:fillingMaterial xlink:href="#sand"/>
