@@ -15,7 +15,7 @@
           <gml:validTime><gml:TimeInstant><gml:timePosition>2021-06-01T09:30:00Z</gml:timePosition></gml:TimeInstant></gml:validTime>
           <gml:using xlink:href="https://marrowby.example/instruments/staff-gauge"/>
           <gml:target><gml:Point><gml:pos>50 20 0</gml:pos></gml:Point></gml:target>
-          <gml:resultOf><gml:CompositeValue><gml:valueComponent><gml:Quantity uom="m">1.42</gml:Quantity></gml:valueComponent></gml:CompositeValue></gml:resultOf>
+          <gml:resultOf><gml:Point><gml:pos>50 20 1.42</gml:pos></gml:Point></gml:resultOf>
         </gml:Observation>
       </gml:featureMember>
       <gml:featureMember>
@@ -35,7 +35,7 @@
               <gml:endPosition>2021-06-01T10:45:00Z</gml:endPosition>
             </gml:TimePeriod>
           </gml:validTime>
-          <gml:resultOf><gml:CompositeValue><gml:valueComponent><gml:Quantity uom="m">2.9</gml:Quantity></gml:valueComponent></gml:CompositeValue></gml:resultOf>
+          <gml:resultOf><gml:Point><gml:pos>59 21 0.3</gml:pos></gml:Point></gml:resultOf>
           <gml:direction>
             <gml:DirectionVector>
               <gml:horizontalAngle uom="deg">85</gml:horizontalAngle>
