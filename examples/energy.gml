@@ -67,8 +67,8 @@
               <energy:yearOfManufacture>2017</energy:yearOfManufacture>
               <energy:serviceLife>
                 <energy:ServiceLife>
-                  <energy:startOfLife>1998-05-12</energy:startOfLife>
-                  <energy:lifeExpectancy unit="year">80</energy:lifeExpectancy>
+                  <energy:startOfLife>2017-09-04</energy:startOfLife>
+                  <energy:lifeExpectancy unit="year">20</energy:lifeExpectancy>
                   <energy:mainMaintenanceInterval unit="year">10</energy:mainMaintenanceInterval>
                 </energy:ServiceLife>
               </energy:serviceLife>
@@ -171,14 +171,20 @@
                           <energy:value>14.2</energy:value>
                         </energy:MeasurementPoint>
                       </energy:contains>
+                      <energy:contains>
+                        <energy:MeasurementPoint>
+                          <energy:time>2023-01-15T06:00:00</energy:time>
+                          <energy:value>15.8</energy:value>
+                        </energy:MeasurementPoint>
+                      </energy:contains>
                     </energy:IrregularTimeSeries>
                   </energy:energyAmount>
                   <energy:energyCarrier>
                     <energy:EnergyCarrier>
-                      <energy:co2EmissionFactor uom="kg/kWh">0.064</energy:co2EmissionFactor>
-                      <energy:energyDensity uom="kWh/m3">4800</energy:energyDensity>
-                      <energy:primaryEnergyFactor uom="1">2.3</energy:primaryEnergyFactor>
-                      <energy:type>electricity</energy:type>
+                      <energy:co2EmissionFactor uom="kg/kWh">0.214</energy:co2EmissionFactor>
+                      <energy:energyDensity uom="kWh/m3">35</energy:energyDensity>
+                      <energy:primaryEnergyFactor uom="1">1.17</energy:primaryEnergyFactor>
+                      <energy:type>hotWater</energy:type>
                     </energy:EnergyCarrier>
                   </energy:energyCarrier>
                   <energy:isProducedBy xlink:href="#boiler"/>
@@ -204,8 +210,8 @@
               <energy:yearOfManufacture>2021</energy:yearOfManufacture>
               <energy:serviceLife>
                 <energy:ServiceLife>
-                  <energy:startOfLife>2011-09</energy:startOfLife>
-                  <energy:lifeExpectancy unit="year">50</energy:lifeExpectancy>
+                  <energy:startOfLife>2021-04</energy:startOfLife>
+                  <energy:lifeExpectancy unit="year">15</energy:lifeExpectancy>
                   <energy:mainMaintenanceInterval unit="year">5</energy:mainMaintenanceInterval>
                 </energy:ServiceLife>
               </energy:serviceLife>
@@ -234,8 +240,8 @@
               <energy:yearOfManufacture>2014</energy:yearOfManufacture>
               <energy:serviceLife>
                 <energy:ServiceLife>
-                  <energy:startOfLife>2019-03-01</energy:startOfLife>
-                  <energy:lifeExpectancy unit="year">30</energy:lifeExpectancy>
+                  <energy:startOfLife>2014-11-20</energy:startOfLife>
+                  <energy:lifeExpectancy unit="year">25</energy:lifeExpectancy>
                   <energy:mainMaintenanceInterval unit="year">2</energy:mainMaintenanceInterval>
                 </energy:ServiceLife>
               </energy:serviceLife>
@@ -264,8 +270,8 @@
               <energy:yearOfManufacture>2019</energy:yearOfManufacture>
               <energy:serviceLife>
                 <energy:ServiceLife>
-                  <energy:startOfLife>1974</energy:startOfLife>
-                  <energy:lifeExpectancy unit="year">25</energy:lifeExpectancy>
+                  <energy:startOfLife>2019</energy:startOfLife>
+                  <energy:lifeExpectancy unit="year">20</energy:lifeExpectancy>
                   <energy:mainMaintenanceInterval unit="year">10</energy:mainMaintenanceInterval>
                 </energy:ServiceLife>
               </energy:serviceLife>
@@ -294,8 +300,8 @@
               <energy:yearOfManufacture>2017</energy:yearOfManufacture>
               <energy:serviceLife>
                 <energy:ServiceLife>
-                  <energy:startOfLife>1998-05-12</energy:startOfLife>
-                  <energy:lifeExpectancy unit="year">80</energy:lifeExpectancy>
+                  <energy:startOfLife>2017-09-04</energy:startOfLife>
+                  <energy:lifeExpectancy unit="year">15</energy:lifeExpectancy>
                   <energy:mainMaintenanceInterval unit="year">5</energy:mainMaintenanceInterval>
                 </energy:ServiceLife>
               </energy:serviceLife>
@@ -312,8 +318,8 @@
               <energy:distributionPerimeter>Dwelling</energy:distributionPerimeter>
               <energy:serviceLife>
                 <energy:ServiceLife>
-                  <energy:startOfLife>2011-09</energy:startOfLife>
-                  <energy:lifeExpectancy unit="year">50</energy:lifeExpectancy>
+                  <energy:startOfLife>2021-04</energy:startOfLife>
+                  <energy:lifeExpectancy unit="year">25</energy:lifeExpectancy>
                   <energy:mainMaintenanceInterval unit="year">2</energy:mainMaintenanceInterval>
                 </energy:ServiceLife>
               </energy:serviceLife>
@@ -331,8 +337,8 @@
               <core:creationDate>2020-06-01</core:creationDate>
               <energy:serviceLife>
                 <energy:ServiceLife>
-                  <energy:startOfLife>2019-03-01</energy:startOfLife>
-                  <energy:lifeExpectancy unit="year">30</energy:lifeExpectancy>
+                  <energy:startOfLife>2014-11-20</energy:startOfLife>
+                  <energy:lifeExpectancy unit="year">20</energy:lifeExpectancy>
                   <energy:mainMaintenanceInterval unit="year">10</energy:mainMaintenanceInterval>
                 </energy:ServiceLife>
               </energy:serviceLife>
@@ -377,8 +383,14 @@
               <energy:uom uom="kWh"/>
               <energy:contains>
                 <energy:MeasurementPoint>
-                  <energy:time>2023-01-15T06:00:00</energy:time>
-                  <energy:value>15.8</energy:value>
+                  <energy:time>2023-01-15T12:00:00</energy:time>
+                  <energy:value>13.1</energy:value>
+                </energy:MeasurementPoint>
+              </energy:contains>
+              <energy:contains>
+                <energy:MeasurementPoint>
+                  <energy:time>2023-01-15T00:00:00</energy:time>
+                  <energy:value>14.2</energy:value>
                 </energy:MeasurementPoint>
               </energy:contains>
             </energy:IrregularTimeSeries>
@@ -401,8 +413,8 @@
               <energy:yearOfManufacture>2021</energy:yearOfManufacture>
               <energy:serviceLife>
                 <energy:ServiceLife>
-                  <energy:startOfLife>1974</energy:startOfLife>
-                  <energy:lifeExpectancy unit="year">25</energy:lifeExpectancy>
+                  <energy:startOfLife>2019</energy:startOfLife>
+                  <energy:lifeExpectancy unit="year">15</energy:lifeExpectancy>
                   <energy:mainMaintenanceInterval unit="year">5</energy:mainMaintenanceInterval>
                 </energy:ServiceLife>
               </energy:serviceLife>
@@ -431,8 +443,8 @@
               <energy:yearOfManufacture>2014</energy:yearOfManufacture>
               <energy:serviceLife>
                 <energy:ServiceLife>
-                  <energy:startOfLife>1998-05-12</energy:startOfLife>
-                  <energy:lifeExpectancy unit="year">80</energy:lifeExpectancy>
+                  <energy:startOfLife>2017-09-04</energy:startOfLife>
+                  <energy:lifeExpectancy unit="year">25</energy:lifeExpectancy>
                   <energy:mainMaintenanceInterval unit="year">2</energy:mainMaintenanceInterval>
                 </energy:ServiceLife>
               </energy:serviceLife>
@@ -460,8 +472,8 @@
               <energy:yearOfManufacture>2019</energy:yearOfManufacture>
               <energy:serviceLife>
                 <energy:ServiceLife>
-                  <energy:startOfLife>2011-09</energy:startOfLife>
-                  <energy:lifeExpectancy unit="year">50</energy:lifeExpectancy>
+                  <energy:startOfLife>2021-04</energy:startOfLife>
+                  <energy:lifeExpectancy unit="year">20</energy:lifeExpectancy>
                   <energy:mainMaintenanceInterval unit="year">10</energy:mainMaintenanceInterval>
                 </energy:ServiceLife>
               </energy:serviceLife>
@@ -480,8 +492,8 @@
               <energy:distributionPerimeter>GroupOfBuildings</energy:distributionPerimeter>
               <energy:serviceLife>
                 <energy:ServiceLife>
-                  <energy:startOfLife>2019-03-01</energy:startOfLife>
-                  <energy:lifeExpectancy unit="year">30</energy:lifeExpectancy>
+                  <energy:startOfLife>2014-11-20</energy:startOfLife>
+                  <energy:lifeExpectancy unit="year">15</energy:lifeExpectancy>
                   <energy:mainMaintenanceInterval unit="year">5</energy:mainMaintenanceInterval>
                 </energy:ServiceLife>
               </energy:serviceLife>
@@ -538,7 +550,7 @@
               <energy:yearOfManufacture>2017</energy:yearOfManufacture>
               <energy:serviceLife>
                 <energy:ServiceLife>
-                  <energy:startOfLife>1974</energy:startOfLife>
+                  <energy:startOfLife>2019</energy:startOfLife>
                   <energy:lifeExpectancy unit="year">25</energy:lifeExpectancy>
                   <energy:mainMaintenanceInterval unit="year">2</energy:mainMaintenanceInterval>
                 </energy:ServiceLife>
@@ -554,7 +566,7 @@
                     <gml:Polygon>
                       <gml:exterior>
                         <gml:LinearRing>
-                          <gml:posList>1267.5 913.75 1.8 1273.5 913.75 1.8 1273.5 913.75 4.6 1267.5 913.75 4.6 1267.5 913.75 1.8</gml:posList>
+                          <gml:posList>1236 885.75 1.8 1242 885.75 1.8 1242 885.75 4.6 1236 885.75 4.6 1236 885.75 1.8</gml:posList>
                         </gml:LinearRing>
                       </gml:exterior>
                     </gml:Polygon>
@@ -585,8 +597,8 @@
               <energy:yearOfManufacture>2021</energy:yearOfManufacture>
               <energy:serviceLife>
                 <energy:ServiceLife>
-                  <energy:startOfLife>1998-05-12</energy:startOfLife>
-                  <energy:lifeExpectancy unit="year">80</energy:lifeExpectancy>
+                  <energy:startOfLife>2017-09-04</energy:startOfLife>
+                  <energy:lifeExpectancy unit="year">20</energy:lifeExpectancy>
                   <energy:mainMaintenanceInterval unit="year">10</energy:mainMaintenanceInterval>
                 </energy:ServiceLife>
               </energy:serviceLife>
@@ -601,7 +613,7 @@
                     <gml:Polygon>
                       <gml:exterior>
                         <gml:LinearRing>
-                          <gml:posList>1230 861.75 1.8 1232.4 861.75 1.8 1232.4 861.75 3.25 1230 861.75 3.25 1230 861.75 1.8</gml:posList>
+                          <gml:posList>1287 893.75 1.8 1289.4 893.75 1.8 1289.4 893.75 3.25 1287 893.75 3.25 1287 893.75 1.8</gml:posList>
                         </gml:LinearRing>
                       </gml:exterior>
                     </gml:Polygon>
@@ -664,8 +676,8 @@
               <energy:yearOfManufacture>2014</energy:yearOfManufacture>
               <energy:serviceLife>
                 <energy:ServiceLife>
-                  <energy:startOfLife>2011-09</energy:startOfLife>
-                  <energy:lifeExpectancy unit="year">50</energy:lifeExpectancy>
+                  <energy:startOfLife>2021-04</energy:startOfLife>
+                  <energy:lifeExpectancy unit="year">15</energy:lifeExpectancy>
                   <energy:mainMaintenanceInterval unit="year">5</energy:mainMaintenanceInterval>
                 </energy:ServiceLife>
               </energy:serviceLife>
@@ -680,7 +692,7 @@
                     <gml:Polygon>
                       <gml:exterior>
                         <gml:LinearRing>
-                          <gml:posList>1243.5 877.75 1.8 1252.5 877.75 1.8 1252.5 877.75 5.8 1243.5 877.75 5.8 1243.5 877.75 1.8</gml:posList>
+                          <gml:posList>1212 909.75 1.8 1221 909.75 1.8 1221 909.75 5.8 1212 909.75 5.8 1212 909.75 1.8</gml:posList>
                         </gml:LinearRing>
                       </gml:exterior>
                     </gml:Polygon>
@@ -708,8 +720,8 @@
               <energy:yearOfManufacture>2019</energy:yearOfManufacture>
               <energy:serviceLife>
                 <energy:ServiceLife>
-                  <energy:startOfLife>2019-03-01</energy:startOfLife>
-                  <energy:lifeExpectancy unit="year">30</energy:lifeExpectancy>
+                  <energy:startOfLife>2014-11-20</energy:startOfLife>
+                  <energy:lifeExpectancy unit="year">25</energy:lifeExpectancy>
                   <energy:mainMaintenanceInterval unit="year">2</energy:mainMaintenanceInterval>
                 </energy:ServiceLife>
               </energy:serviceLife>
@@ -726,8 +738,8 @@
               <energy:distributionPerimeter>Room</energy:distributionPerimeter>
               <energy:serviceLife>
                 <energy:ServiceLife>
-                  <energy:startOfLife>1974</energy:startOfLife>
-                  <energy:lifeExpectancy unit="year">25</energy:lifeExpectancy>
+                  <energy:startOfLife>2019</energy:startOfLife>
+                  <energy:lifeExpectancy unit="year">20</energy:lifeExpectancy>
                   <energy:mainMaintenanceInterval unit="year">10</energy:mainMaintenanceInterval>
                 </energy:ServiceLife>
               </energy:serviceLife>
@@ -741,8 +753,8 @@
               <core:creationDate>2021-11-23</core:creationDate>
               <energy:serviceLife>
                 <energy:ServiceLife>
-                  <energy:startOfLife>1998-05-12</energy:startOfLife>
-                  <energy:lifeExpectancy unit="year">80</energy:lifeExpectancy>
+                  <energy:startOfLife>2017-09-04</energy:startOfLife>
+                  <energy:lifeExpectancy unit="year">15</energy:lifeExpectancy>
                   <energy:mainMaintenanceInterval unit="year">5</energy:mainMaintenanceInterval>
                 </energy:ServiceLife>
               </energy:serviceLife>
@@ -772,7 +784,7 @@
               <energy:fieldSeparator>;</energy:fieldSeparator>
             </energy:IrregularTimeSeriesFile>
           </energy:values>
-          <energy:position><gml:Point><gml:pos>1257 893.75 1.8</gml:pos></gml:Point></energy:position>
+          <energy:position><gml:Point><gml:pos>1225.5 865.75 1.8</gml:pos></gml:Point></energy:position>
         </energy:WeatherData>
       </energy:weatherData>
       <bldg:class>habitation</bldg:class>
@@ -811,7 +823,7 @@
         </energy:HeightAboveGround>
       </energy:heightAboveGround>
       <energy:isLandmarked>true</energy:isLandmarked>
-      <energy:referencePoint><gml:Point><gml:pos>1267.5 883.25 3</gml:pos></gml:Point></energy:referencePoint>
+      <energy:referencePoint><gml:Point><gml:pos>1236 915.25 3</gml:pos></gml:Point></energy:referencePoint>
       <energy:refurbishmentMeasure>
         <energy:RefurbishmentMeasure>
           <energy:dateOfRefurbishment>
@@ -860,7 +872,7 @@
                     <gml:Polygon>
                       <gml:exterior>
                         <gml:LinearRing>
-                          <gml:posList>1282.5 868 2.4 1282.5 877 2.4 1296.5 877 2.4 1296.5 868 2.4 1282.5 868 2.4</gml:posList>
+                          <gml:posList>1251 900 2.4 1251 909 2.4 1265 909 2.4 1265 900 2.4 1251 900 2.4</gml:posList>
                         </gml:LinearRing>
                       </gml:exterior>
                     </gml:Polygon>
@@ -869,7 +881,7 @@
                     <gml:Polygon>
                       <gml:exterior>
                         <gml:LinearRing>
-                          <gml:posList>1282.5 868 8.4 1296.5 868 8.4 1296.5 877 8.4 1282.5 877 8.4 1282.5 868 8.4</gml:posList>
+                          <gml:posList>1251 900 8.4 1265 900 8.4 1265 909 8.4 1251 909 8.4 1251 900 8.4</gml:posList>
                         </gml:LinearRing>
                       </gml:exterior>
                     </gml:Polygon>
@@ -878,7 +890,7 @@
                     <gml:Polygon>
                       <gml:exterior>
                         <gml:LinearRing>
-                          <gml:posList>1282.5 868 2.4 1296.5 868 2.4 1296.5 868 8.4 1282.5 868 8.4 1282.5 868 2.4</gml:posList>
+                          <gml:posList>1251 900 2.4 1265 900 2.4 1265 900 8.4 1251 900 8.4 1251 900 2.4</gml:posList>
                         </gml:LinearRing>
                       </gml:exterior>
                     </gml:Polygon>
@@ -887,7 +899,7 @@
                     <gml:Polygon>
                       <gml:exterior>
                         <gml:LinearRing>
-                          <gml:posList>1296.5 868 2.4 1296.5 877 2.4 1296.5 877 8.4 1296.5 868 8.4 1296.5 868 2.4</gml:posList>
+                          <gml:posList>1265 900 2.4 1265 909 2.4 1265 909 8.4 1265 900 8.4 1265 900 2.4</gml:posList>
                         </gml:LinearRing>
                       </gml:exterior>
                     </gml:Polygon>
@@ -896,7 +908,7 @@
                     <gml:Polygon>
                       <gml:exterior>
                         <gml:LinearRing>
-                          <gml:posList>1296.5 877 2.4 1282.5 877 2.4 1282.5 877 8.4 1296.5 877 8.4 1296.5 877 2.4</gml:posList>
+                          <gml:posList>1265 909 2.4 1251 909 2.4 1251 909 8.4 1265 909 8.4 1265 909 2.4</gml:posList>
                         </gml:LinearRing>
                       </gml:exterior>
                     </gml:Polygon>
@@ -905,7 +917,7 @@
                     <gml:Polygon>
                       <gml:exterior>
                         <gml:LinearRing>
-                          <gml:posList>1282.5 877 2.4 1282.5 868 2.4 1282.5 868 8.4 1282.5 877 8.4 1282.5 877 2.4</gml:posList>
+                          <gml:posList>1251 909 2.4 1251 900 2.4 1251 900 8.4 1251 909 8.4 1251 909 2.4</gml:posList>
                         </gml:LinearRing>
                       </gml:exterior>
                     </gml:Polygon>
@@ -937,7 +949,7 @@
                     <gml:Polygon>
                       <gml:exterior>
                         <gml:LinearRing>
-                          <gml:posList>1287 863.25 3 1293 863.25 3 1293 863.25 5.8 1287 863.25 5.8 1287 863.25 3</gml:posList>
+                          <gml:posList>1255.5 895.25 3 1261.5 895.25 3 1261.5 895.25 5.8 1255.5 895.25 5.8 1255.5 895.25 3</gml:posList>
                         </gml:LinearRing>
                       </gml:exterior>
                     </gml:Polygon>
@@ -999,8 +1011,8 @@
                   </energy:opticalProperties>
                   <energy:serviceLife>
                     <energy:ServiceLife>
-                      <energy:startOfLife>2011-09</energy:startOfLife>
-                      <energy:lifeExpectancy unit="year">50</energy:lifeExpectancy>
+                      <energy:startOfLife>2021-04</energy:startOfLife>
+                      <energy:lifeExpectancy unit="year">25</energy:lifeExpectancy>
                       <energy:mainMaintenanceInterval unit="year">2</energy:mainMaintenanceInterval>
                     </energy:ServiceLife>
                   </energy:serviceLife>
@@ -1014,8 +1026,8 @@
                           <energy:thickness uom="m">0.36</energy:thickness>
                           <energy:serviceLife>
                             <energy:ServiceLife>
-                              <energy:startOfLife>2019-03-01</energy:startOfLife>
-                              <energy:lifeExpectancy unit="year">30</energy:lifeExpectancy>
+                              <energy:startOfLife>2014-11-20</energy:startOfLife>
+                              <energy:lifeExpectancy unit="year">20</energy:lifeExpectancy>
                               <energy:mainMaintenanceInterval unit="year">10</energy:mainMaintenanceInterval>
                             </energy:ServiceLife>
                           </energy:serviceLife>
@@ -1053,8 +1065,8 @@
                           <energy:thickness uom="m">0.14</energy:thickness>
                           <energy:serviceLife>
                             <energy:ServiceLife>
-                              <energy:startOfLife>1974</energy:startOfLife>
-                              <energy:lifeExpectancy unit="year">25</energy:lifeExpectancy>
+                              <energy:startOfLife>2019</energy:startOfLife>
+                              <energy:lifeExpectancy unit="year">15</energy:lifeExpectancy>
                               <energy:mainMaintenanceInterval unit="year">5</energy:mainMaintenanceInterval>
                             </energy:ServiceLife>
                           </energy:serviceLife>
@@ -1080,8 +1092,8 @@
                           <energy:thickness uom="m">0.14</energy:thickness>
                           <energy:serviceLife>
                             <energy:ServiceLife>
-                              <energy:startOfLife>1998-05-12</energy:startOfLife>
-                              <energy:lifeExpectancy unit="year">80</energy:lifeExpectancy>
+                              <energy:startOfLife>2017-09-04</energy:startOfLife>
+                              <energy:lifeExpectancy unit="year">25</energy:lifeExpectancy>
                               <energy:mainMaintenanceInterval unit="year">2</energy:mainMaintenanceInterval>
                             </energy:ServiceLife>
                           </energy:serviceLife>
@@ -1142,7 +1154,7 @@
                         <gml:Polygon>
                           <gml:exterior>
                             <gml:LinearRing>
-                              <gml:posList>1209 881.75 1.8 1211.4 881.75 1.8 1211.4 881.75 3.25 1209 881.75 3.25 1209 881.75 1.8</gml:posList>
+                              <gml:posList>1267.5 913.75 1.8 1269.9 913.75 1.8 1269.9 913.75 3.25 1267.5 913.75 3.25 1267.5 913.75 1.8</gml:posList>
                             </gml:LinearRing>
                           </gml:exterior>
                         </gml:Polygon>
@@ -1260,7 +1272,7 @@
                         <gml:Polygon>
                           <gml:exterior>
                             <gml:LinearRing>
-                              <gml:posList>1203 888 2.4 1203 897 2.4 1217 897 2.4 1217 888 2.4 1203 888 2.4</gml:posList>
+                              <gml:posList>1260 860 2.4 1260 869 2.4 1274 869 2.4 1274 860 2.4 1260 860 2.4</gml:posList>
                             </gml:LinearRing>
                           </gml:exterior>
                         </gml:Polygon>
@@ -1269,7 +1281,7 @@
                         <gml:Polygon>
                           <gml:exterior>
                             <gml:LinearRing>
-                              <gml:posList>1203 888 8.4 1217 888 8.4 1217 897 8.4 1203 897 8.4 1203 888 8.4</gml:posList>
+                              <gml:posList>1260 860 8.4 1274 860 8.4 1274 869 8.4 1260 869 8.4 1260 860 8.4</gml:posList>
                             </gml:LinearRing>
                           </gml:exterior>
                         </gml:Polygon>
@@ -1278,7 +1290,7 @@
                         <gml:Polygon>
                           <gml:exterior>
                             <gml:LinearRing>
-                              <gml:posList>1203 888 2.4 1217 888 2.4 1217 888 8.4 1203 888 8.4 1203 888 2.4</gml:posList>
+                              <gml:posList>1260 860 2.4 1274 860 2.4 1274 860 8.4 1260 860 8.4 1260 860 2.4</gml:posList>
                             </gml:LinearRing>
                           </gml:exterior>
                         </gml:Polygon>
@@ -1287,7 +1299,7 @@
                         <gml:Polygon>
                           <gml:exterior>
                             <gml:LinearRing>
-                              <gml:posList>1217 888 2.4 1217 897 2.4 1217 897 8.4 1217 888 8.4 1217 888 2.4</gml:posList>
+                              <gml:posList>1274 860 2.4 1274 869 2.4 1274 869 8.4 1274 860 8.4 1274 860 2.4</gml:posList>
                             </gml:LinearRing>
                           </gml:exterior>
                         </gml:Polygon>
@@ -1296,7 +1308,7 @@
                         <gml:Polygon>
                           <gml:exterior>
                             <gml:LinearRing>
-                              <gml:posList>1217 897 2.4 1203 897 2.4 1203 897 8.4 1217 897 8.4 1217 897 2.4</gml:posList>
+                              <gml:posList>1274 869 2.4 1260 869 2.4 1260 869 8.4 1274 869 8.4 1274 869 2.4</gml:posList>
                             </gml:LinearRing>
                           </gml:exterior>
                         </gml:Polygon>
@@ -1305,7 +1317,7 @@
                         <gml:Polygon>
                           <gml:exterior>
                             <gml:LinearRing>
-                              <gml:posList>1203 897 2.4 1203 888 2.4 1203 888 8.4 1203 897 8.4 1203 897 2.4</gml:posList>
+                              <gml:posList>1260 869 2.4 1260 860 2.4 1260 860 8.4 1260 869 8.4 1260 869 2.4</gml:posList>
                             </gml:LinearRing>
                           </gml:exterior>
                         </gml:Polygon>
@@ -1570,7 +1582,7 @@
                     <gml:Polygon>
                       <gml:exterior>
                         <gml:LinearRing>
-                          <gml:posList>1203 918.5 4.5 1203 927.5 4.5 1217 927.5 4.5 1217 918.5 4.5 1203 918.5 4.5</gml:posList>
+                          <gml:posList>1260 890.5 4.5 1260 899.5 4.5 1274 899.5 4.5 1274 890.5 4.5 1260 890.5 4.5</gml:posList>
                         </gml:LinearRing>
                       </gml:exterior>
                     </gml:Polygon>
@@ -1579,7 +1591,7 @@
                     <gml:Polygon>
                       <gml:exterior>
                         <gml:LinearRing>
-                          <gml:posList>1203 918.5 10.5 1217 918.5 10.5 1217 927.5 10.5 1203 927.5 10.5 1203 918.5 10.5</gml:posList>
+                          <gml:posList>1260 890.5 10.5 1274 890.5 10.5 1274 899.5 10.5 1260 899.5 10.5 1260 890.5 10.5</gml:posList>
                         </gml:LinearRing>
                       </gml:exterior>
                     </gml:Polygon>
@@ -1588,7 +1600,7 @@
                     <gml:Polygon>
                       <gml:exterior>
                         <gml:LinearRing>
-                          <gml:posList>1203 918.5 4.5 1217 918.5 4.5 1217 918.5 10.5 1203 918.5 10.5 1203 918.5 4.5</gml:posList>
+                          <gml:posList>1260 890.5 4.5 1274 890.5 4.5 1274 890.5 10.5 1260 890.5 10.5 1260 890.5 4.5</gml:posList>
                         </gml:LinearRing>
                       </gml:exterior>
                     </gml:Polygon>
@@ -1597,7 +1609,7 @@
                     <gml:Polygon>
                       <gml:exterior>
                         <gml:LinearRing>
-                          <gml:posList>1217 918.5 4.5 1217 927.5 4.5 1217 927.5 10.5 1217 918.5 10.5 1217 918.5 4.5</gml:posList>
+                          <gml:posList>1274 890.5 4.5 1274 899.5 4.5 1274 899.5 10.5 1274 890.5 10.5 1274 890.5 4.5</gml:posList>
                         </gml:LinearRing>
                       </gml:exterior>
                     </gml:Polygon>
@@ -1606,7 +1618,7 @@
                     <gml:Polygon>
                       <gml:exterior>
                         <gml:LinearRing>
-                          <gml:posList>1217 927.5 4.5 1203 927.5 4.5 1203 927.5 10.5 1217 927.5 10.5 1217 927.5 4.5</gml:posList>
+                          <gml:posList>1274 899.5 4.5 1260 899.5 4.5 1260 899.5 10.5 1274 899.5 10.5 1274 899.5 4.5</gml:posList>
                         </gml:LinearRing>
                       </gml:exterior>
                     </gml:Polygon>
@@ -1615,7 +1627,7 @@
                     <gml:Polygon>
                       <gml:exterior>
                         <gml:LinearRing>
-                          <gml:posList>1203 927.5 4.5 1203 918.5 4.5 1203 918.5 10.5 1203 927.5 10.5 1203 927.5 4.5</gml:posList>
+                          <gml:posList>1260 899.5 4.5 1260 890.5 4.5 1260 890.5 10.5 1260 899.5 10.5 1260 899.5 4.5</gml:posList>
                         </gml:LinearRing>
                       </gml:exterior>
                     </gml:Polygon>
