@@ -159,7 +159,8 @@ public:
     Building(Xml& target, int building, int perRow) : xml(target), number(building), dice(building)
     {
         const double west = originEast + (building % perRow) * plot;
-        const double south = originNorth + (building / perRow) * plot;
+        const int street = building / perRow;
+        const double south = originNorth + street * plot;
         house = {west,
                  south,
                  ground,
