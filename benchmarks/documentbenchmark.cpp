@@ -52,7 +52,7 @@ void expatPass(benchmark::State& state)
 {
     const Subject& subject = Subject::current();
     Measure measure(state);
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         measure.iteration([&] { subject.passExpat(); });
     }
     report(state, measure);
@@ -63,7 +63,7 @@ void readObjects(benchmark::State& state)
     const Subject& subject = Subject::current();
     Measure measure(state);
     double peak = 0;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         const MemoryPeak memory;
         std::unique_ptr<core::CityModelType> document;
         measure.iteration([&] { document = subject.read(); });
@@ -79,7 +79,7 @@ void loadModel(benchmark::State& state)
     Measure measure(state);
     double peak = 0;
     int rows = 0;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         const MemoryPeak memory;
         CityGMLModel model(nullptr, nullptr);
         measure.iteration([&] { model.load(subject.path()); });
@@ -97,7 +97,7 @@ void loadModelAndTree(benchmark::State& state)
     const Subject& subject = Subject::current();
     Measure measure(state);
     double peak = 0;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         const MemoryPeak memory;
         CityGMLModel model(nullptr, nullptr);
         CityGMLProxyModel tree;
@@ -113,7 +113,7 @@ void listFeatures(benchmark::State& state)
     const std::unique_ptr<core::CityModelType> document = Subject::current().read();
     Measure measure(state);
     std::size_t features = 0;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         CityGMLFeaturesFillVisitor visitor;
         measure.iteration([&] { document->accept(&visitor); });
         features = visitor.getModelFeatures().size();
@@ -134,7 +134,7 @@ void writeObjects(benchmark::State& state)
     }
     Measure measure(state);
     double written = 0;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         CountingBuffer buffer;
         std::ostream stream(&buffer);
         measure.iteration([&] { core::CityModel(stream, *document, namespaces); });

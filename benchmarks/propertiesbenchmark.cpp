@@ -58,7 +58,7 @@ void buildProperties(benchmark::State& state)
     Measure measure(state);
     double bytes = 0;
     std::size_t properties = 0;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         Trees trees;
         trees.reserve(features.size());
         const double before = allocatedBytes();
@@ -96,7 +96,7 @@ void valueOfNumber(benchmark::State& state)
         state.SkipWithError("The document has no property that is a number");
         return;
     }
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         QVariant value = number->value();
         benchmark::DoNotOptimize(value);
     }

@@ -47,7 +47,7 @@ void buildTree(benchmark::State& state)
     Measure measure(state);
     double bytes = 0;
     int nodes = 0;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         const double before = allocatedBytes();
         CityGMLProxyModel tree;
         measure.iteration([&] { tree.setSourceModel(&model); });
@@ -68,7 +68,7 @@ void mapOneIndex(benchmark::State& state)
     tree.setSourceModel(&model);
     const std::vector<QModelIndex> rows = sampleRows(model, tree);
     std::size_t next = 0;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         QModelIndex index = tree.mapFromSource(rows[next++ % sampleSize]);
         benchmark::DoNotOptimize(index);
     }
@@ -86,7 +86,7 @@ void dataOfOneIndex(benchmark::State& state)
     }
     const int role = static_cast<int>(state.range(0));
     std::size_t next = 0;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         QVariant value = tree.data(nodes[next++ % sampleSize], role);
         benchmark::DoNotOptimize(value);
     }
@@ -99,7 +99,7 @@ void hideAll(benchmark::State& state)
     CityGMLProxyModel tree;
     tree.setSourceModel(&model);
     Measure measure(state);
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         model.showAll();
         measure.iteration([&] { model.hideAll(); });
     }
@@ -117,7 +117,7 @@ void insertFeature(benchmark::State& state)
     bldg::BuildingType building;
     building.id(gml::AbstractGMLType::id_type("inserted"));
     Measure measure(state);
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         members.push_back(gml::FeaturePropertyType());
         members.back()._Feature(building);
         gml::AbstractFeatureType* const feature = &members.back()._Feature().get();
