@@ -201,7 +201,8 @@ private slots:
         const QByteArray original = contentOf(path);
         const Document first = read(original);
         const QByteArray saved = write(*first);
-        QCOMPARE(XmlNode::differences(XmlNode::parse(original), XmlNode::parse(saved)), QStringList());
+        const QStringList differences = XmlNode::differences(XmlNode::parse(original), XmlNode::parse(saved));
+        QVERIFY2(differences.isEmpty(), qPrintable(differences.mid(0, 5).join('\n')));
         const Document second = read(saved);
         QCOMPARE(listOf(*second), listOf(*first));
         QCOMPARE(write(*second), saved);
@@ -225,7 +226,8 @@ private slots:
         QCOMPARE(error, QString());
         const Document document = read(noisy);
         QCOMPARE(listOf(*document), features);
-        QCOMPARE(XmlNode::differences(original, XmlNode::parse(write(*document))), QStringList());
+        const QStringList differences = XmlNode::differences(original, XmlNode::parse(write(*document)));
+        QVERIFY2(differences.isEmpty(), qPrintable(differences.mid(0, 5).join('\n')));
     }
 
     // Counted from the XML alone: what has the name of a feature, unless it stands where the walk does not
@@ -251,16 +253,22 @@ private slots:
             if (path.startsWith(TOLVIK_EXAMPLES))
                 collectTypes(*read(contentOf(path)), found);
         }
+        // A type without an element of its own has no place in a document.
+        QSet<const schematables::TypeRecord*> elements;
+        for (std::size_t i = 0; i < citygml::binding::allElementsCount; ++i) {
+            if (!citygml::binding::allElements[i].isAbstract)
+                elements.insert(citygml::binding::allElements[i].type);
+        }
         QStringList missing;
         for (const auto* record : schematables::types()) {
             bool isFeature = false;
             for (const auto* base = record; base != nullptr; base = base->base)
                 isFeature = isFeature || *base->info == typeid(gml::AbstractFeatureType);
             const QString name = schematables::className(*record);
-            if (isFeature && !record->isAbstract && !found.contains(name))
+            if (isFeature && !record->isAbstract && elements.contains(record) && !found.contains(name))
                 missing << name;
         }
-        QCOMPARE(missing, QStringList());
+        QCOMPARE(missing.join(' '), QString());
     }
 
     void numbersComeBackToTheBit()

@@ -650,7 +650,11 @@ private:
     void keepNilValue(const Frame& frame)
     {
         KeptContent& kept = KeptContent::of(*frame.object);
-        std::string xml = '<' + nameOf(frame.name);
+        const char* none = nullptr;
+        m_raw = '<' + nameOf(frame.name);
+        declareLocalNamespaces(&none, 0);
+        std::string xml;
+        xml.swap(m_raw);
         const TypeIndex& type = m_index.typeOf(*frame.object);
         const std::size_t index =
             type.members()[static_cast<std::size_t>(frame.member)].member->ops->count(*frame.object);
@@ -753,7 +757,7 @@ private:
     {
         m_raw.append(1, '<').append(name);
         if (m_rawDepth == 0)
-            declareLocalNamespaces(attributes);
+            declareLocalNamespaces(attributes, m_frames.size() + 1);
         for (const char** a = attributes; *a != nullptr; a += 2) {
             m_raw.append(1, ' ').append(*a).append("=\"");
             appendEscapedAttribute(a[1], m_raw);
@@ -765,10 +769,10 @@ private:
 
     /// Declarations in scope that are not the root's go with the element, since only the root's are written
     /// back.
-    void declareLocalNamespaces(const char** attributes)
+    /// \param depth those of that depth are among the attributes.
+    void declareLocalNamespaces(const char** attributes, std::size_t depth)
     {
         const auto& bindings = m_scopes.bindings();
-        const std::size_t depth = m_frames.size() + 1;
         for (std::size_t i = 0; i < bindings.size(); ++i) {
             const Scopes::Binding& binding = bindings[i];
             if (binding.depth <= 1 || binding.depth == depth || m_scopes.find(binding.prefix) != &binding.uri)

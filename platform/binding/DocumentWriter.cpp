@@ -37,13 +37,22 @@ public:
     {
         if (uri.empty() || m_qualifier.count(uri) != 0)
             return;
-        std::string free = prefix.empty() ? "ns" : prefix;
-        for (int i = 1; !m_byPrefix.emplace(free, uri).second; ++i)
-            free = (prefix.empty() ? "ns" : prefix) + std::to_string(i);
-        add(free, uri);
+        add(reserve(prefix, uri), uri);
+    }
+    /// A prefix that nothing else uses, for a namespace that only single elements declare.
+    const std::string& localPrefix(const std::string& wanted, const std::string& uri)
+    {
+        std::string& prefix = m_local[uri];
+        if (prefix.empty())
+            prefix = reserve(wanted, uri);
+        return prefix;
     }
 
     const std::vector<Binding>& list() const { return m_list; }
+    bool declares(const std::string& prefix, const std::string& uri) const
+    {
+        return uri == xmlUri || std::find(m_list.begin(), m_list.end(), Binding(prefix, uri)) != m_list.end();
+    }
 
     /// Prefix of elements of the namespace; the empty prefix for the default namespace.
     std::string prefixOf(const std::string& uri) const override
@@ -64,6 +73,15 @@ public:
     }
 
 private:
+    std::string reserve(const std::string& wanted, const std::string& uri)
+    {
+        const std::string stem = wanted.empty() ? "ns" : wanted;
+        std::string prefix = stem;
+        for (int i = 1; !m_byPrefix.emplace(prefix, uri).second; ++i)
+            prefix = stem + std::to_string(i);
+        return prefix;
+    }
+
     void add(const std::string& prefix, const std::string& uri)
     {
         m_list.emplace_back(prefix, uri);
@@ -76,6 +94,7 @@ private:
     std::map<std::string, std::string> m_byPrefix;
     std::map<std::string, std::string> m_prefix;
     std::map<std::string, std::string> m_qualifier;
+    std::map<std::string, std::string> m_local;
 };
 
 class Writer
@@ -350,10 +369,11 @@ private:
     {
         const std::string& tag = valueTag(member);
         m_out.append(1, '<').append(tag);
+        std::vector<std::string> declared;
         if (content.kept != nullptr) {
             for (const KeptContent::ValueAttribute& value : content.kept->valueAttributes) {
                 if (value.member == number && value.index == index)
-                    writeKeptAttribute(value.attribute);
+                    writeKeptAttribute(value.attribute, declared);
             }
         }
         m_out += '>';
@@ -434,13 +454,14 @@ private:
             addAttribute(attribute, m_text);
         }
         bool tellsType = false;
+        std::vector<std::string> declared;
         if (kept != nullptr) {
             for (const KeptContent::Attribute& attribute : kept->attributes) {
                 if (isNilAttribute(attribute) && type.hasText() && !isUnsetNil(object, type, kept))
                     continue;
                 const bool isType = attribute.uri == xsiUri && attribute.name == "type";
                 tellsType = tellsType || isType;
-                writeKeptAttribute(attribute);
+                writeKeptAttribute(attribute, declared);
             }
         }
         if (tag.typeToTell != nullptr && !tellsType) {
@@ -449,21 +470,24 @@ private:
         }
     }
 
-    void writeKeptAttribute(const KeptContent::Attribute& attribute)
+    /// \param declared prefixes that the element itself has declared so far.
+    void writeKeptAttribute(const KeptContent::Attribute& attribute, std::vector<std::string>& declared)
     {
         if (attribute.uri.empty()) {
             addAttribute(attribute.name, attribute.value);
             return;
         }
-        // The document's own prefix where the root declares it so, else a declared one, else one of its own.
-        if (m_declared.namespaceOf(attribute.prefix) == attribute.uri) {
-            addAttribute(attribute.prefix + ':' + attribute.name, attribute.value);
-            return;
-        }
-        std::string prefix = m_declared.qualifierOf(attribute.uri);
+        // The document's own prefix where the root declares it so, else a declared one, else one that means
+        // nothing.
+        std::string prefix = attribute.prefix;
+        if (!m_declared.declares(prefix, attribute.uri))
+            prefix = m_declared.qualifierOf(attribute.uri);
         if (prefix.empty()) {
-            prefix = attribute.prefix;
-            addAttribute("xmlns:" + prefix, attribute.uri);
+            prefix = m_declared.localPrefix(attribute.prefix, attribute.uri);
+            if (std::find(declared.begin(), declared.end(), prefix) == declared.end()) {
+                addAttribute("xmlns:" + prefix, attribute.uri);
+                declared.push_back(prefix);
+            }
         }
         addAttribute(prefix + ':' + attribute.name, attribute.value);
     }
