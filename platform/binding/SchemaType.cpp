@@ -2,7 +2,9 @@
 #include "platform/binding/KeptContent.h"
 #include "platform/binding/Tables.h"
 
+#include <array>
 #include <cstddef>
+#include <cstdint>
 #include <typeindex>
 #include <unordered_map>
 
@@ -11,7 +13,7 @@ namespace binding {
 
 namespace {
 
-std::unordered_map<std::type_index, const TypeRecord*>& records()
+const std::unordered_map<std::type_index, const TypeRecord*>& records()
 {
     static auto* map = [] {
         auto* result = new std::unordered_map<std::type_index, const TypeRecord*>;
@@ -47,14 +49,24 @@ const TypeRecord* nearestBase(const xml_schema::type& object)
 
 const TypeRecord* recordOf(const xml_schema::type& object)
 {
-    auto& map = records();
-    const std::type_index index(typeid(object));
-    const auto found = map.find(index);
-    if (found != map.end())
-        return found->second;
-    const TypeRecord* nearest = nearestBase(object);
-    map.emplace(index, nearest);
-    return nearest;
+    // Nearly all objects of a document are of a few hundred types, which a look at the record's address
+    // finds.
+    struct Slot
+    {
+        const std::type_info* info;
+        const TypeRecord* record;
+    };
+    static thread_local std::array<Slot, 1024> slots{};
+    const std::type_info& info = typeid(object);
+    const auto address = reinterpret_cast<std::uintptr_t>(&info);
+    Slot& slot = slots[(address >> 4 ^ address >> 14) % slots.size()];
+    if (slot.info != &info) {
+        const auto& map = records();
+        const auto found = map.find(info);
+        slot.record = found != map.end() ? found->second : nearestBase(object);
+        slot.info = &info;
+    }
+    return slot.record;
 }
 
 KeptContent& KeptContent::of(xml_schema::type& object)
