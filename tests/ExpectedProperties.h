@@ -218,6 +218,8 @@ struct Node
     bool editable = false;
     QVariantList literals;
     QVariant defaultValue;
+    /// Class of the property with its parameters; empty for a plain one.
+    QString propertyClass;
     std::vector<std::unique_ptr<Node>> children;
 
     /// Null unless the property reads and writes the document.
@@ -459,7 +461,7 @@ private:
         const QString kind = row.value("kind");
         const QString text = label(object, record, row.value("label"));
         if (kind == "attr" || kind == "enum") {
-            return makeAttribute(row, text, object, member, group());
+            return makeAttribute(name, row, text, object, member, group());
         }
         if (kind == "read-only") {
             return makeReadOnly(row, record, object, group);
@@ -509,7 +511,7 @@ private:
         return external != nullptr ? &objectAt(element, external, 0) : heldObject(element);
     }
 
-    Node* makeAttribute(const Row& row, const QString& text, xml_schema::type& object, const Member* member, Node* group)
+    Node* makeAttribute(const QString& name, const Row& row, const QString& text, xml_schema::type& object, const Member* member, Node* group)
     {
         const ValueType type(row.value("value_type"));
         Node* const made = group->add(text);
@@ -517,6 +519,9 @@ private:
         made->member = member;
         made->valueType = row.value("value_type");
         made->editable = true;
+        const QString owner = name == "gml::AbstractFeatureType" ? QString("gml::AbstractGMLType") : name;
+        made->propertyClass = QString(row.value("kind") == "enum" ? "GmlEnumAttributeProperty<" : "GmlAttributeProperty<") +
+                              owner + ", " + row.value("value_type") + '>';
         made->defaultValue = type.defaultValue();
         made->value = type.fromTexts(valueTexts(object, member, type));
         if (row.value("kind") == "enum") {
@@ -650,6 +655,8 @@ private:
         made->valueType = row.value("value_type");
         made->value = type.fromText(textOf(element));
         made->defaultValue = type.defaultValue();
+        made->propertyClass = QString(kind == "generic enum" ? "GmlEnum" : "Gml") + "GenericApplicationAttributeProperty<" +
+                              row.value("class_matched") + ", " + row.value("value_type") + '>';
         if (kind == "generic enum") {
             made->literals = ValueType::literals().value(type.base);
         }

@@ -3,6 +3,7 @@
 #include "framework/CoreProperty.h"
 #include "UI/Models/CityGMLModel/properties/GmlCorePropertyCreator.h"
 
+#include <QRegularExpression>
 #include <QtTest>
 #include <typeinfo>
 
@@ -34,10 +35,27 @@ QString dumpDefault(const QVariant& value)
     return isMoment ? QString::fromLatin1(value.typeName()) : dumpValue(value);
 }
 
-QString dumpLine(const QString& label, const QVariant& value, const QString& unit, bool editable, const QVariant& start,
+/// Name of the property's class as the tables spell types; a plain one has none.
+QString classOf(const CoreProperty& property)
+{
+    if (typeid(property) == typeid(CoreProperty)) {
+        return QString();
+    }
+    int status = 0;
+    const std::unique_ptr<char, void (*)(void*)> text(
+        abi::__cxa_demangle(typeid(property).name(), nullptr, nullptr, &status), &std::free);
+    QString name = QString::fromLatin1(text.get()).remove("tolvik::").remove("xsd::cxx::tree::");
+    name.replace(" >", ">").remove(", false>").remove(", true>").replace("simple_type<char, xml_schema::type>", "simple_type");
+    name.replace(QRegularExpression("\\b(string|uri|date|date_time|duration|gyear)<char, simple_type>"), "\\1");
+    // The parameter that was removed had one bracket with it.
+    return name + QString(">").repeated(name.count('<') - name.count('>'));
+}
+
+QString dumpLine(const QString& label, const QString& type, const QVariant& value, const QString& unit, bool editable, const QVariant& start,
                  const QVariantList& literals)
 {
     QString line = label + " = " + dumpValue(value);
+    line += type.isEmpty() ? QString() : " by " + type;
     line += unit.isEmpty() ? QString() : " unit " + unit;
     line += editable ? QString(" editable") : QString();
     line += start.isValid() ? " default " + dumpDefault(start) : QString();
@@ -47,7 +65,7 @@ QString dumpLine(const QString& label, const QVariant& value, const QString& uni
 QString dump(const Node& node, const QString& indent = QString())
 {
     QString text =
-        indent + dumpLine(node.label, node.value, node.unit, node.editable, node.defaultValue, node.literals);
+        indent + dumpLine(node.label, node.propertyClass, node.value, node.unit, node.editable, node.defaultValue, node.literals);
     for (const auto& child : node.children) {
         text += dump(*child, indent + "  ");
     }
@@ -56,7 +74,7 @@ QString dump(const Node& node, const QString& indent = QString())
 
 QString dump(CoreProperty& property, const QString& indent = QString())
 {
-    QString text = indent + dumpLine(property.name(), property.value(),
+    QString text = indent + dumpLine(property.name(), classOf(property), property.value(),
                                      property.unit() != nullptr ? property.unit()->name() : QString(),
                                      property.editable(), property.defaultValue(), property.potentialValues());
     for (const auto& child : property.properties()) {
@@ -129,6 +147,9 @@ bool losesEdits(const ValueType& type)
 QString editProperty(CoreProperty& property, const Node& node)
 {
     const ValueType type(node.valueType);
+    if (type.base == "simple_type" && textsOf(*node.owner, node.member) == QStringList{QString()}) {
+        return "another property has written here";
+    }
     for (const QVariant& value : editsOf(type)) {
         property.setValue(value);
         const QString now = dumpValue(property.value());
@@ -141,6 +162,9 @@ QString editProperty(CoreProperty& property, const Node& node)
                                 : property.value().toString() == value.toString();
         if (losesEdits(type) ? !isLost : !isSame) {
             return now + " instead of " + dumpValue(value);
+        }
+        if (type.base == "simple_type" && textsOf(*node.owner, node.member) != QStringList{QString()}) {
+            return "the document says " + textsOf(*node.owner, node.member).join(' ');
         }
         if (node.member != nullptr && type.isMeasure() &&
             Builder::uomOf(node.member->ops->at(*node.owner, 0)) != node.unit) {

@@ -41,6 +41,19 @@ std::string text(const QVariant& value)
     return value.toString().toStdString();
 }
 
+/// A number that an editor of 32-bit numbers can give; 0 for any other, where Qt would leave its low bits.
+int wholeNumber(const QVariant& value)
+{
+    const qlonglong number = value.toLongLong();
+    return static_cast<int>(number) == number ? static_cast<int>(number) : 0;
+}
+
+unsigned unsignedNumber(const QVariant& value)
+{
+    const qulonglong number = value.toULongLong();
+    return static_cast<unsigned>(number) == number ? static_cast<unsigned>(number) : 0;
+}
+
 /// Calendar fields and a time of day as a variant. Seconds lose their fraction, and a zone is not looked at.
 QVariant momentVariant(const QDate& day, int hours, int minutes, double seconds)
 {
@@ -78,7 +91,7 @@ template <>
 struct Conversion<int>
 {
     static QVariant show(int value) { return QVariant(value); }
-    static int read(const QVariant& value, const uri&) { return value.toInt(); }
+    static int read(const QVariant& value, const uri&) { return wholeNumber(value); }
     static QVariant start() { return QVariant(0); }
 };
 
@@ -87,7 +100,7 @@ template <>
 struct Conversion<long long>
 {
     static QVariant show(long long value) { return QVariant(value); }
-    static long long read(const QVariant& value, const uri&) { return value.toInt(); }
+    static long long read(const QVariant& value, const uri&) { return wholeNumber(value); }
     static QVariant start() { return QVariant(0); }
 };
 
@@ -95,7 +108,7 @@ template <>
 struct Conversion<unsigned long long>
 {
     static QVariant show(unsigned long long value) { return QVariant(value); }
-    static unsigned long long read(const QVariant& value, const uri&) { return value.toUInt(); }
+    static unsigned long long read(const QVariant& value, const uri&) { return unsignedNumber(value); }
     static QVariant start() { return QVariant(qulonglong(0)); }
 };
 
@@ -106,7 +119,7 @@ struct Conversion<core::integerBetween0and4>
     {
         return QVariant(static_cast<int>(static_cast<long long>(value)));
     }
-    static core::integerBetween0and4 read(const QVariant& value, const uri&) { return value.toInt(); }
+    static core::integerBetween0and4 read(const QVariant& value, const uri&) { return wholeNumber(value); }
     static QVariant start() { return QVariant(0); }
 };
 
@@ -191,7 +204,7 @@ template <>
 struct Conversion<gyear>
 {
     static QVariant show(const gyear& value) { return QVariant(value.year()); }
-    static gyear read(const QVariant& value, const uri&) { return gyear(value.toInt()); }
+    static gyear read(const QVariant& value, const uri&) { return gyear(wholeNumber(value)); }
     static QVariant start() { return QVariant(QDate::currentDate().year()); }
 };
 
@@ -338,7 +351,7 @@ struct Conversion<optional<gml::integerList>>
     {
         gml::integerList numbers;
         for (const QVariant& entry : value.toList()) {
-            numbers.push_back(entry.toInt());
+            numbers.push_back(wholeNumber(entry));
         }
         return optional<gml::integerList>(numbers);
     }
