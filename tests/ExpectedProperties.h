@@ -14,7 +14,8 @@
 #include <QVariant>
 #include <vector>
 
-/// The property trees that the tables under data/ ask for, made from schema objects without any code of the catalogues.
+/// The property trees that the tables under data/ ask for, made from schema objects without any code of the
+/// catalogues.
 namespace expectedproperties {
 
 using namespace schemaobjects;
@@ -82,7 +83,10 @@ struct ValueType
                                        "pivotEnergy::LifeCycleStageType"};
         return texts.contains(base);
     }
-    bool isNullableList() const { return base == "gml::MeasureOrNullListType" || base == "gml::QuantityExtentType"; }
+    bool isNullableList() const
+    {
+        return base == "gml::MeasureOrNullListType" || base == "gml::QuantityExtentType";
+    }
 
     static const QHash<QString, QVariantList>& literals()
     {
@@ -236,8 +240,8 @@ struct Node
     }
     Node* find(const QString& name) const
     {
-        const auto found =
-            std::find_if(children.begin(), children.end(), [&](const auto& child) { return child->label == name; });
+        const auto found = std::find_if(children.begin(), children.end(),
+                                        [&](const auto& child) { return child->label == name; });
         return found == children.end() ? nullptr : found->get();
     }
     Node* findOrAdd(const QString& name)
@@ -301,7 +305,8 @@ private:
     {
         const Member* const member = findMember(record, name);
         for (std::size_t i = 0; i < member->ops->count(owner); ++i) {
-            xml_schema::type* const object = held ? heldObject(objectAt(owner, member, i)) : &objectAt(owner, member, i);
+            xml_schema::type* const object =
+                held ? heldObject(objectAt(owner, member, i)) : &objectAt(owner, member, i);
             if (object != nullptr) {
                 enter(*object);
             }
@@ -328,9 +333,10 @@ private:
         makeGenericRows(name, record, object);
         enterNested(name, record, object);
         visit(baseWithRows(name, record), object);
-        static const QStringList ending{"core::xalAddressPropertyType",       "utility::ElectricalMediumSupplyType",
-                                        "utility::GaseousMediumSupplyType",   "utility::LiquidMediumSupplyType",
-                                        "utility::OpticalMediumSupplyType",   "utility::SolidMediumSupplyType"};
+        static const QStringList ending{
+            "core::xalAddressPropertyType",     "utility::ElectricalMediumSupplyType",
+            "utility::GaseousMediumSupplyType", "utility::LiquidMediumSupplyType",
+            "utility::OpticalMediumSupplyType", "utility::SolidMediumSupplyType"};
         if (ending.contains(name)) {
             current = nullptr;
         }
@@ -339,7 +345,8 @@ private:
     /// Two classes leave the rows of their base out.
     static const TypeRecord* baseWithRows(const QString& name, const TypeRecord* record)
     {
-        const bool skips = name == "energy::_SolarEnergySystemType" || name == "pivotEnergy::StandaloneEmitterType";
+        const bool skips =
+            name == "energy::_SolarEnergySystemType" || name == "pivotEnergy::StandaloneEmitterType";
         return skips ? record->base->base : record->base;
     }
 
@@ -360,9 +367,9 @@ private:
                 }
             }
             enterMatching(object, record,
-                          {"energy::EnergyPerformanceCertificationPropertyType", "energy::VolumeTypePropertyType",
-                           "energy::RefurbishmentMeasurePropertyType", "energy::FloorAreaPropertyType",
-                           "energy::HeightAboveGroundPropertyType"},
+                          {"energy::EnergyPerformanceCertificationPropertyType",
+                           "energy::VolumeTypePropertyType", "energy::RefurbishmentMeasurePropertyType",
+                           "energy::FloorAreaPropertyType", "energy::HeightAboveGroundPropertyType"},
                           true);
         } else if (name == "energy::BuildingUnitType") {
             enterAll(object, record, "energyPerformanceCertification", true);
@@ -390,7 +397,8 @@ private:
         return nullptr;
     }
 
-    void enterMatching(xml_schema::type& owner, const TypeRecord* record, const QStringList& classes, bool held)
+    void enterMatching(xml_schema::type& owner, const TypeRecord* record, const QStringList& classes,
+                       bool held)
     {
         const Member* const slot = slotOf(record);
         for (std::size_t i = 0; i < slot->ops->count(owner); ++i) {
@@ -439,7 +447,8 @@ private:
             const Member* const member = findAccessor(record, memberName(row));
             const std::size_t count = member == nullptr ? 0 : member->ops->count(object);
             const QString condition = row.value("cond");
-            const bool wanted = condition == "always" || count > 0 || (condition == "optional" && !existingOnly);
+            const bool wanted =
+                condition == "always" || count > 0 || (condition == "optional" && !existingOnly);
             if (!wanted) {
                 above = below ? above : nullptr;
                 continue;
@@ -486,7 +495,8 @@ private:
             if (kind == "reference") {
                 made = group()->add(text);
                 const QStringList target = textsOf(element, findMember(recordOf(element), "href"));
-                made->value = target.isEmpty() ? QVariant() : QVariant(QUrl(target.first(), QUrl::TolerantMode));
+                made->value =
+                    target.isEmpty() ? QVariant() : QVariant(QUrl(target.first(), QUrl::TolerantMode));
                 continue;
             }
             xml_schema::type* const nested = kind == "group+held" ? heldObject(element) : &element;
@@ -511,7 +521,8 @@ private:
         return external != nullptr ? &objectAt(element, external, 0) : heldObject(element);
     }
 
-    Node* makeAttribute(const QString& name, const Row& row, const QString& text, xml_schema::type& object, const Member* member, Node* group)
+    Node* makeAttribute(const QString& name, const Row& row, const QString& text, xml_schema::type& object,
+                        const Member* member, Node* group)
     {
         const ValueType type(row.value("value_type"));
         Node* const made = group->add(text);
@@ -520,8 +531,9 @@ private:
         made->valueType = row.value("value_type");
         made->editable = true;
         const QString owner = name == "gml::AbstractFeatureType" ? QString("gml::AbstractGMLType") : name;
-        made->propertyClass = QString(row.value("kind") == "enum" ? "GmlEnumAttributeProperty<" : "GmlAttributeProperty<") +
-                              owner + ", " + row.value("value_type") + '>';
+        made->propertyClass =
+            QString(row.value("kind") == "enum" ? "GmlEnumAttributeProperty<" : "GmlAttributeProperty<") +
+            owner + ", " + row.value("value_type") + '>';
         made->defaultValue = type.defaultValue();
         made->value = type.fromTexts(valueTexts(object, member, type));
         if (row.value("kind") == "enum") {
@@ -570,7 +582,8 @@ private:
         return made;
     }
 
-    Node* makeGroup(const QString& name, const QString& text, xml_schema::type& object, const Member* member, Node* group)
+    Node* makeGroup(const QString& name, const QString& text, xml_schema::type& object, const Member* member,
+                    Node* group)
     {
         Node* const made = group->add(text);
         if (name.endsWith("MediumSupplyType") && name != "utility::AbstractMediumSupplyType") {
@@ -655,8 +668,9 @@ private:
         made->valueType = row.value("value_type");
         made->value = type.fromText(textOf(element));
         made->defaultValue = type.defaultValue();
-        made->propertyClass = QString(kind == "generic enum" ? "GmlEnum" : "Gml") + "GenericApplicationAttributeProperty<" +
-                              row.value("class_matched") + ", " + row.value("value_type") + '>';
+        made->propertyClass = QString(kind == "generic enum" ? "GmlEnum" : "Gml") +
+                              "GenericApplicationAttributeProperty<" + row.value("class_matched") + ", " +
+                              row.value("value_type") + '>';
         if (kind == "generic enum") {
             made->literals = ValueType::literals().value(type.base);
         }

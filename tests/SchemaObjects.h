@@ -140,8 +140,8 @@ inline xml_schema::type* heldObject(const xml_schema::type& element)
     return nullptr;
 }
 
-/// Makes objects with everything that their types allow, or with nothing but what they require. Each value is another
-/// one, as far as the type has so many.
+/// Makes objects with everything that their types allow, or with nothing but what they require. Each value is
+/// another one, as far as the type has so many.
 class Filler
 {
 public:
@@ -218,7 +218,8 @@ private:
         for (std::size_t i = 0; i < allElementsCount; ++i) {
             const ElementRecord& element = allElements[i];
             for (const ElementRecord* head = element.head; head != nullptr; head = head->head) {
-                if (!element.isAbstract && element.type != nullptr && QLatin1String(head->name) == QLatin1String(member.name) &&
+                if (!element.isAbstract && element.type != nullptr &&
+                    QLatin1String(head->name) == QLatin1String(member.name) &&
                     QLatin1String(head->uri) == QLatin1String(member.uri)) {
                     types += element.type;
                 }
@@ -252,7 +253,8 @@ private:
                 reaches = next != nullptr && next->text == nullptr && reachesWanted(next, hops - 1);
             }
         }
-        if (type->isAbstract && !isFeature(type) && !isDerived(type, recordByClass("gml::AbstractGeometryType"))) {
+        if (type->isAbstract && !isFeature(type) &&
+            !isDerived(type, recordByClass("gml::AbstractGeometryType"))) {
             for (std::size_t i = 0; i < allTypesCount && !reaches; ++i) {
                 reaches = isDerived(allTypes[i], type) && wantedTypes().contains(className(allTypes[i]));
             }
@@ -270,9 +272,17 @@ private:
         }
         const QString number = QString::number(counter);
         const QString two = QString::number(10 + counter % 18);
-        samples += QStringList{"text é" + number, number + ".5 " + number + ".75", number + ".5", number + ' ' + two, number,
-                               counter % 2 == 0 ? "true" : "false", "20" + two + "-05-" + two,
-                               "20" + two + "-05-" + two + "T10:20:30", "19" + two, "P1Y2M3DT4H5M6S", "10:20:30"};
+        samples += QStringList{"text é" + number,
+                               number + ".5 " + number + ".75",
+                               number + ".5",
+                               number + ' ' + two,
+                               number,
+                               counter % 2 == 0 ? "true" : "false",
+                               "20" + two + "-05-" + two,
+                               "20" + two + "-05-" + two + "T10:20:30",
+                               "19" + two,
+                               "P1Y2M3DT4H5M6S",
+                               "10:20:30"};
         for (const QString& sample : samples) {
             try {
                 record->text->parse(object, sample.toStdString(), NoScope());
@@ -300,8 +310,8 @@ private:
     }
 
 public:
-    /// Names of the classes that objects are filled with, besides texts and what is required. Set before the first object
-    /// is made.
+    /// Names of the classes that objects are filled with, besides texts and what is required. Set before the
+    /// first object is made.
     static QStringList& wantedTypes()
     {
         static QStringList types;
