@@ -1,0 +1,230 @@
+#include "citygml/CityGMLFeaturesFillVisitor.h"
+#include "citygml/CityGmlUtils.h"
+#include "PropertyText.h"
+
+#include <QDirIterator>
+#include <QFile>
+#include <QtTest>
+#include <QXmlStreamReader>
+#include <typeinfo>
+
+using namespace tolvik;
+
+namespace {
+
+QStringList documents()
+{
+    QStringList result;
+    for (const QString& directory : {QString(TOLVIK_EXAMPLES), QString(TOLVIK_SHARED "/data")}) {
+        QDirIterator files(directory, {"*.gml"}, QDir::Files, QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            result += files.next();
+        }
+    }
+    result.sort();
+    return result;
+}
+
+QByteArray contentOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+std::unique_ptr<core::CityModelType> read(const QByteArray& xml)
+{
+    std::istringstream stream(xml.toStdString());
+    return std::unique_ptr<core::CityModelType>(core::CityModel(stream).release());
+}
+
+QStringList linesOf(const core::CityModelType& document)
+{
+    std::ostringstream stream;
+    core::CityModel(stream, document, xsd::cxx::xml::dom::namespace_infomap<char>());
+    return QString::fromStdString(stream.str()).split('\n');
+}
+
+std::list<gml::AbstractFeatureType*> featuresOf(core::CityModelType& document)
+{
+    CityGMLFeaturesFillVisitor visitor;
+    document.accept(&visitor);
+    return visitor.getModelFeatures();
+}
+
+/// Each value of a property with its label, and its unit if it has one; a list is several.
+void collect(CoreProperty& property, QStringList& values)
+{
+    const QVariant value = property.value();
+    const QVariantList entries =
+        value.userType() == QMetaType::QVariantList ? value.toList() : QVariantList{value};
+    for (const QVariant& entry : entries) {
+        if (entry.isValid()) {
+            values += property.name() + ": " + entry.toString() +
+                      (property.unit() == nullptr ? QString() : ' ' + property.unit()->name());
+        }
+    }
+    for (const auto& child : property.properties()) {
+        collect(*child, values);
+    }
+}
+
+/// Elements with rows of the thematic modules and of the generic attributes, as the rows that they must give.
+class ElementCollector
+{
+public:
+    explicit ElementCollector(const QByteArray& xml) : reader(xml)
+    {
+        for (const NamespacesMap& known : CityGmlUtils::getNamespaces()) {
+            namespaces += QString::fromStdString(known.name);
+        }
+    }
+
+    QStringList collect()
+    {
+        while (reader.readNextStartElement()) {
+            readElement(QString());
+        }
+        return rows;
+    }
+
+private:
+    void readElement(const QString& attributeName)
+    {
+        // What stands in an extension that is not known is kept, and is no object.
+        if (!namespaces.contains(reader.namespaceUri().toString())) {
+            reader.skipCurrentElement();
+            return;
+        }
+        static const QHash<QString, QString> labels{{"measuredHeight", "MeasuredHeight"},
+                                                    {"yearOfConstruction", "YearOfConstruction"},
+                                                    {"yearOfDemolition", "YearOfDemolition"},
+                                                    {"roofType", "RoofType"},
+                                                    {"creationDate", "CreationDate"},
+                                                    {"terminationDate", "TerminationDate"},
+                                                    {"storeysAboveGround", "StoreysAboveGround"},
+                                                    {"storeysBelowGround", "StoreysBelowGround"},
+                                                    {"relativeToTerrain", "RelativeToTerrain"},
+                                                    {"relativeToWater", "RelativeToWater"},
+                                                    {"species", "Species"},
+                                                    {"trunkDiameter", "TrunkDiameter"},
+                                                    {"crownDiameter", "CrownDiameter"},
+                                                    {"averageHeight", "AverageHeight"},
+                                                    {"isMovable", "IsMovable"},
+                                                    {"surfaceMaterial", "SurfaceMaterial"},
+                                                    {"waterLevel", "WaterLevel"}};
+        const QString name = reader.name().toString();
+        const QString uri = reader.namespaceUri().toString();
+        const bool isThematic = uri.startsWith("http://www.opengis.net/citygml/") && labels.contains(name);
+        const bool isGeneric = uri.endsWith("/generics/2.0") && name == "value";
+        if (isThematic || isGeneric) {
+            const QString unit = reader.attributes().value("uom").toString();
+            const QString text = reader.readElementText().trimmed();
+            rows += (isGeneric ? attributeName : labels.value(name)) + ": " + shown(text, !unit.isEmpty()) +
+                    (unit.isEmpty() ? QString() : ' ' + unit);
+            return;
+        }
+        const QString inner = reader.attributes().value("name").toString();
+        while (reader.readNextStartElement()) {
+            readElement(inner);
+        }
+    }
+
+    /// A number as a variant shows it; any other text as it is.
+    static QString shown(const QString& text, bool isMeasure)
+    {
+        bool isNumber = false;
+        const double number = text.toDouble(&isNumber);
+        return isMeasure && isNumber ? QVariant(number).toString() : text;
+    }
+
+    QXmlStreamReader reader;
+    QStringList namespaces;
+    QStringList rows;
+};
+
+/// Bound properties with a text or a number, in the order of the tree.
+QVector<CoreProperty*> simpleProperties(CoreProperty& property)
+{
+    QVector<CoreProperty*> found;
+    for (const auto& child : property.properties()) {
+        const int type = child->value().userType();
+        if (child->editable() && (type == QMetaType::QString || type == QMetaType::Double)) {
+            found += child.get();
+        }
+        found += simpleProperties(*child);
+    }
+    return found;
+}
+
+} // namespace
+
+/// Properties of whole documents, against what stands in their XML.
+class DocumentPropertiesTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    int allEdits = 0;
+
+private slots:
+    void valuesOfTheXml_data()
+    {
+        QTest::addColumn<QString>("path");
+        for (const QString& path : documents()) {
+            QTest::newRow(qPrintable(QFileInfo(path).fileName())) << path;
+        }
+    }
+
+    void valuesOfTheXml()
+    {
+        QFETCH(QString, path);
+        const auto document = read(contentOf(path));
+        QStringList values;
+        for (gml::AbstractFeatureType* const feature : featuresOf(*document)) {
+            collect(*Fondo::RefPtr<CoreProperty>(GmlCorePropertyCreator::createProperty(feature, true)),
+                    values);
+        }
+        for (const QString& row : ElementCollector(contentOf(path)).collect()) {
+            QVERIFY2(values.removeOne(row), qPrintable(row));
+        }
+    }
+
+    void anEditChangesOneValue_data() { valuesOfTheXml_data(); }
+
+    /// Of a saved document, with and without an edit, nothing differs but the value.
+    void anEditChangesOneValue()
+    {
+        QFETCH(QString, path);
+        const auto document = read(contentOf(path));
+        QStringList before = linesOf(*document);
+        int edits = 0;
+        for (gml::AbstractFeatureType* const feature : featuresOf(*document)) {
+            const Fondo::RefPtr<CoreProperty> root = GmlCorePropertyCreator::createProperty(feature, true);
+            for (CoreProperty* const property : simpleProperties(*root)) {
+                const bool isNumber = property->value().userType() == QMetaType::Double;
+                if (!property->potentialValues().isEmpty() || ++edits > 40) {
+                    continue;
+                }
+                const QVariant value =
+                    isNumber ? QVariant(edits + 1000.5) : QVariant("edit" + QString::number(edits));
+                property->setValue(value);
+                const QStringList after = linesOf(*document);
+                QCOMPARE(after.size(), before.size());
+                int changed = 0;
+                for (int i = 0; i < after.size(); ++i) {
+                    changed += after.at(i) != before.at(i) ? 1 : 0;
+                    QVERIFY2(after.at(i) == before.at(i) || after.at(i).contains(value.toString()),
+                             qPrintable(before.at(i) + " becomes " + after.at(i)));
+                }
+                QVERIFY2(changed == 1, qPrintable(property->name()));
+                before = after;
+            }
+        }
+        allEdits += edits;
+    }
+
+    void thereWereEdits() { QVERIFY(allEdits > 100); }
+};
+
+QTEST_GUILESS_MAIN(DocumentPropertiesTest)
+#include "documentpropertiestest.moc"
