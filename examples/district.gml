@@ -497,6 +497,12 @@
       <gml:description>Stone bridge with a chapel, widened with a movable span</gml:description>
       <gml:name>Heron Bridge</gml:name>
       <core:creationDate>2021-03-14</core:creationDate>
+      <core:generalizesTo>
+        <brid:Bridge gml:id="heron-bridge-outline">
+          <gml:name>Outline of Heron Bridge</gml:name>
+          <core:creationDate>2021-03-14</core:creationDate>
+        </brid:Bridge>
+      </core:generalizesTo>
       <core:relativeToTerrain>entirelyAboveTerrain</core:relativeToTerrain>
       <core:relativeToWater>substantiallyAboveWaterSurface</core:relativeToWater>
       <brid:class>1000</brid:class>

@@ -832,7 +832,8 @@
               <energy:period>
                 <gml:TimePeriod>
                   <gml:beginPosition>2022-10-15</gml:beginPosition>
-                  <gml:endPosition>2023-04-15</gml:endPosition>
+                  <gml:endPosition>2023-11-30</gml:endPosition>
+                  <gml:duration>P1Y1M15D</gml:duration>
                 </gml:TimePeriod>
               </energy:period>
             </energy:DateOfEvent>
@@ -965,8 +966,8 @@
                       </energy:instant>
                       <energy:period>
                         <gml:TimePeriod>
-                          <gml:beginPosition>2023-06-01</gml:beginPosition>
-                          <gml:endPosition>2023-09-15</gml:endPosition>
+                          <gml:beginPosition calendarEraName="Common Era">2023-06-01</gml:beginPosition>
+                          <gml:endPosition indeterminatePosition="before">2023-09-15</gml:endPosition>
                         </gml:TimePeriod>
                       </energy:period>
                     </energy:DateOfEvent>

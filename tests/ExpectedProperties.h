@@ -137,7 +137,8 @@ struct ValueType
             return QDateTime::fromString(text, Qt::ISODate);
         }
         if (base == "duration") {
-            static const QRegularExpression pattern("P(\\d+)Y(\\d+)M(\\d+)DT(\\d+)H(\\d+)M(\\d+)S");
+            static const QRegularExpression pattern(
+                "^P(?:(\\d+)Y)?(?:(\\d+)M)?(?:(\\d+)D)?(?:T(?:(\\d+)H)?(?:(\\d+)M)?(?:(\\d+)S)?)?$");
             const auto match = pattern.match(text);
             const auto field = [&](int i) { return match.captured(i).toInt(); };
             return QDateTime(QDate(field(1), field(2), field(3)), QTime(field(4), field(5), field(6)));
@@ -232,6 +233,10 @@ struct Node
     const Member* member = nullptr;
     QString valueType;
 
+    /// Row of the tables that makes the node, as `type order` or `operation order`; empty for a group that is
+    /// of no row.
+    QString row;
+
     Node* add(const QString& name)
     {
         children.push_back(std::make_unique<Node>());
@@ -323,7 +328,8 @@ private:
         Node* const outer = current;
         if (name == "gen::GenericAttributeSetType") {
             current = fields()->add(label(object, record, "(name())"));
-            madeRows() += name + " 1";
+            current->row = name + " 1";
+            madeRows() += current->row;
             enterAll(object, record, "_genericAttribute", false);
             visit(record->base, object);
             current = outer != nullptr ? outer : fields();
@@ -453,34 +459,38 @@ private:
                 above = below ? above : nullptr;
                 continue;
             }
-            const auto group = [&] { return below ? above : place(row.value("group")); };
-            Node* const made = makeRow(name, row, record, object, member, group);
-            if (made != nullptr) {
-                madeRows() += name + ' ' + row.value("order");
-            }
+            const auto add = [&](const QString& text) {
+                Node* const added = (below ? above : place(row.value("group")))->add(text);
+                added->row = name + ' ' + row.value("order");
+                madeRows() += added->row;
+                return added;
+            };
+            Node* const made = makeRow(name, row, record, object, member, add);
             above = below ? above : made;
         }
     }
 
     /// \return the last node that the row makes
-    template <class Group>
+    template <class Add>
     Node* makeRow(const QString& name, const Row& row, const TypeRecord* record, xml_schema::type& object,
-                  const Member* member, Group group)
+                  const Member* member, Add add)
     {
         const QString kind = row.value("kind");
         const QString text = label(object, record, row.value("label"));
         if (kind == "attr" || kind == "enum") {
-            return makeAttribute(name, row, text, object, member, group());
+            Node* const made = add(text);
+            bind(*made, name, row, object, member);
+            return made;
         }
         if (kind == "read-only") {
-            return makeReadOnly(row, record, object, group);
+            return makeReadOnly(row, record, object, add);
         }
         const std::size_t count = member == nullptr ? 0 : member->ops->count(object);
         if (kind == "group") {
-            return makeGroup(name, text, object, member, group());
+            return makeGroup(name, add(text));
         }
         if (kind == "group+children") {
-            Node* const children = group()->add(text);
+            Node* const children = add(text);
             Node* const outer = current;
             current = children;
             for (std::size_t i = 0; i < count; ++i) {
@@ -493,7 +503,7 @@ private:
         for (std::size_t i = 0; i < count; ++i) {
             xml_schema::type& element = objectAt(object, member, i);
             if (kind == "reference") {
-                made = group()->add(text);
+                made = add(text);
                 const QStringList target = textsOf(element, findMember(recordOf(element), "href"));
                 made->value =
                     target.isEmpty() ? QVariant() : QVariant(QUrl(target.first(), QUrl::TolerantMode));
@@ -503,7 +513,7 @@ private:
             if (nested == nullptr) {
                 continue;
             }
-            made = group()->add(text);
+            made = add(text);
             if (name == "core::xalAddressPropertyType") {
                 current = made;
                 enter(*nested);
@@ -521,32 +531,29 @@ private:
         return external != nullptr ? &objectAt(element, external, 0) : heldObject(element);
     }
 
-    Node* makeAttribute(const QString& name, const Row& row, const QString& text, xml_schema::type& object,
-                        const Member* member, Node* group)
+    void bind(Node& made, const QString& name, const Row& row, xml_schema::type& object, const Member* member)
     {
         const ValueType type(row.value("value_type"));
-        Node* const made = group->add(text);
-        made->owner = &object;
-        made->member = member;
-        made->valueType = row.value("value_type");
-        made->editable = true;
+        made.owner = &object;
+        made.member = member;
+        made.valueType = row.value("value_type");
+        made.editable = true;
         const QString owner = name == "gml::AbstractFeatureType" ? QString("gml::AbstractGMLType") : name;
-        made->propertyClass =
+        made.propertyClass =
             QString(row.value("kind") == "enum" ? "GmlEnumAttributeProperty<" : "GmlAttributeProperty<") +
             owner + ", " + row.value("value_type") + '>';
-        made->defaultValue = type.defaultValue();
-        made->value = type.fromTexts(valueTexts(object, member, type));
+        made.defaultValue = type.defaultValue();
+        made.value = type.fromTexts(valueTexts(object, member, type));
         if (row.value("kind") == "enum") {
-            made->literals = ValueType::literals().value(type.base);
+            made.literals = ValueType::literals().value(type.base);
         }
         if (row.value("uom").startsWith("stored") && member->ops->count(object) > 0) {
-            made->unit = uomOf(member->ops->at(object, 0));
+            made.unit = uomOf(member->ops->at(object, 0));
         }
-        return made;
     }
 
-    template <class Group>
-    Node* makeReadOnly(const Row& row, const TypeRecord* record, xml_schema::type& object, Group group)
+    template <class Add>
+    Node* makeReadOnly(const Row& row, const TypeRecord* record, xml_schema::type& object, Add add)
     {
         const QString name = row.value("label");
         if (name == "Generalize") {
@@ -557,7 +564,7 @@ private:
                 const QStringList id =
                     target == nullptr ? QStringList() : textsOf(*target, findMember(recordOf(*target), "id"));
                 if (!id.isEmpty()) {
-                    made = group()->add(name);
+                    made = add(name);
                     made->value = '#' + id.first();
                 }
             }
@@ -577,23 +584,19 @@ private:
         } else {
             value = textOf(object);
         }
-        Node* const made = group()->add(name);
+        Node* const made = add(name);
         made->value = value;
         return made;
     }
 
-    Node* makeGroup(const QString& name, const QString& text, xml_schema::type& object, const Member* member,
-                    Node* group)
+    /// Some groups stay the current one behind their object.
+    Node* makeGroup(const QString& name, Node* made)
     {
-        Node* const made = group->add(text);
-        if (name.endsWith("MediumSupplyType") && name != "utility::AbstractMediumSupplyType") {
+        const bool isSupply =
+            name.endsWith("MediumSupplyType") && name != "utility::AbstractMediumSupplyType";
+        if (isSupply || name == "energy::ThermalBoundaryType") {
             current = made;
         }
-        if (name == "energy::ThermalBoundaryType") {
-            current = made;
-        }
-        Q_UNUSED(object)
-        Q_UNUSED(member)
         return made;
     }
 
@@ -643,7 +646,6 @@ private:
             for (const Row& row : table.value(operation)) {
                 if (isDerived(recordOf(element), recordByClass(row.value("class_matched")))) {
                     makeGenericRow(row, element);
-                    madeRows() += operation + ' ' + row.value("order");
                 }
             }
         }
@@ -657,6 +659,8 @@ private:
             return;
         }
         Node* const made = extension(row.value("group"))->add(row.value("label"));
+        made->row = row.value("operation") + ' ' + row.value("order");
+        madeRows() += made->row;
         if (kind.startsWith("group")) {
             if (nested != nullptr) {
                 enterAs(made, *nested);
