@@ -187,19 +187,21 @@ private slots:
     /// The union of the dumps lacks no row of the tables but those that nothing reaches.
     void everyRowIsShown()
     {
-        QStringList missing;
+        QStringList rows;
         for (const auto& row : readTable("rows.tsv")) {
-            missing += row.value("type") + ' ' + row.value("order");
+            rows += row.value("type") + ' ' + row.value("order");
         }
         for (const auto& row : readTable("generic_rows.tsv")) {
-            missing += row.value("operation") + ' ' + row.value("order");
+            rows += row.value("operation") + ' ' + row.value("order");
         }
-        QCOMPARE(missing.size(), 925 + 37);
-        for (const QString& row : shownRows) {
-            missing.removeOne(row);
+        QCOMPARE(rows.size(), 925 + 37);
+        QStringList wrong;
+        for (const QString& row : rows) {
+            if (shownRows.contains(row) == unreachableRows().contains(row)) {
+                wrong += row + (shownRows.contains(row) ? " is shown" : " is missing");
+            }
         }
-        missing.sort();
-        QCOMPARE(missing.join('\n'), QStringList(unreachableRows().keys()).join('\n'));
+        QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join('\n')));
     }
 };
 

@@ -554,6 +554,7 @@ private slots:
         const auto root = propertiesOf(document);
         CoreProperty* const own = findProperty(root, {"Properties", extension, "description"});
         CoreProperty* const common = findProperty(root, {"Fields", "Description"});
+        QVERIFY(own != nullptr && common != nullptr);
         QCOMPARE(own->value(), QVariant("d"));
         QCOMPARE(common->value(), QVariant("d"));
         own->setValue("e");

@@ -7,24 +7,31 @@
 // lines of these forms. The type of the value says when there is a row (see Rows::attr()) and where its unit
 // comes from.
 //
-//     ATTR("MeasuredHeight", measuredHeight, optional<gml::LengthType>);         label, accessors, type of
-//     the value ENUM("RelativeToWater", relativeToWater, optional<core::RelativeToWaterType>);    the same,
-//     offering literals ATTR_BY_NAME(object->name(), value, gml::MeasureType);                     the same,
-//     labelled by the document CHILD("beginPosition", beginPosition);                                     a
-//     group for the object, and its rows HELD("serviceLife", serviceLife, ServiceLife);                 the
-//     same for the object inside a property element CHILDREN("storages", storages, Storage); one group for
-//     all the objects of a sequence REFERENCE("installedIn", installedIn); where a reference points to
+//     ATTR("MeasuredHeight", measuredHeight, optional<gml::LengthType>);
+//                                                  label, accessors, type of the value
+//     ENUM("RelativeToWater", relativeToWater, optional<core::RelativeToWaterType>);
+//                                                  the same, offering literals
+//     ATTR_BY_NAME(object->name(), value, gml::MeasureType);
+//                                                  the same, labelled by the document
+//     CHILD("beginPosition", beginPosition);       a group for the object, with its rows
+//     HELD("serviceLife", serviceLife, ServiceLife);
+//                                                  the same for the object inside a property element
+//     CHILDREN("storages", storages, Storage);     one group for all the objects of a sequence
+//     REFERENCE("installedIn", installedIn);       where a reference points to
 //
 // The attributes that extensions hang on a type are objects of their own; each of them is tried against lines
 // such as
 //
 //     GENERIC("footprintArea", pivotEnergy::poly_footprintArea, gml::AreaType, "pivotEnergy");
-//                                                                 label, class, type as which it shows,
-//                                                                 extension
+//                                                  label, class, type as which it shows, extension
 //     GENERIC_ENUM("constructionWeight", energy::ConstructionWeightValue, "Energy");
+//                                                  the same, offering literals
 //     GENERIC_CHILD("durationOfConstruction", pivotEnergy::poly_durationOfConstruction, "pivotEnergy");
+//                                                  a group with the rows of the object itself
 //     GENERIC_HELD("referencePoint", energy::poly_referencePoint, Point, "Energy");
+//                                                  a group with those of the object that it holds, if any
 //     GENERIC_GROUP("shading", pivotEnergy::ShadingTypePropertyType, ShadingType, "pivotEnergy");
+//                                                  the same, empty for an object that holds none
 //
 // The properties that ATTR, ENUM, GENERIC and GENERIC_ENUM bind are instantiated for what stands in the line:
 // a build step reads them from the file.
