@@ -1,12 +1,8 @@
+#include "RoundTrip.h"
 #include "SchemaTables.h"
 #include "XmlTree.h"
 
-#include "citygml/CityGMLFeaturesFillVisitor.h"
-#include "citygml/CityGmlUtils.h"
-#include "citygml/CityModel.h"
-#include "core/CityModelType.hxx"
 #include "gml/BoundingShapeType.hxx"
-#include "gml/CodeType.hxx"
 #include "gml/DirectPositionType.hxx"
 #include "gml/EnvelopeType.hxx"
 #include "gml/FeaturePropertyType.hxx"
@@ -17,48 +13,11 @@
 
 #include <clocale>
 #include <log4cplus/initializer.h>
-#include <memory>
 #include <random>
-#include <sstream>
 
 namespace {
 
-using Document = std::unique_ptr<core::CityModelType>;
-
-Document read(const QByteArray& xml)
-{
-    std::istringstream stream(xml.toStdString());
-    return Document(core::CityModel(stream, 0x400).release());
-}
-
-QByteArray write(const core::CityModelType& document)
-{
-    xsd::cxx::xml::dom::namespace_infomap<char> map;
-    for (const tolvik::NamespacesMap& entry : tolvik::CityGmlUtils::getNamespaces()) {
-        map[entry.prefix].name = entry.name;
-        map[entry.prefix].schema = entry.schemaLocation;
-    }
-    std::ostringstream stream;
-    core::CityModel(stream, document, map);
-    return QByteArray::fromStdString(stream.str());
-}
-
-/// Type, identifier and first name of each feature, in the order of the walk.
-QStringList listOf(core::CityModelType& document)
-{
-    tolvik::CityGMLFeaturesFillVisitor visitor;
-    document.accept(&visitor);
-    QStringList result;
-    for (const gml::AbstractFeatureType* feature : visitor.getModelFeatures()) {
-        QString line = QString::fromStdString(feature->typeLabel);
-        if (feature->id().present())
-            line += " #" + QString::fromStdString(*feature->id());
-        if (!feature->name().empty())
-            line += " '" + QString::fromStdString(feature->name().front()) + '\'';
-        result << line;
-    }
-    return result;
-}
+using namespace roundtrip;
 
 QStringList documents()
 {
@@ -70,12 +29,6 @@ QStringList documents()
     }
     result.sort();
     return result;
-}
-
-QByteArray contentOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 /// A document with the given members of the root.
@@ -96,23 +49,6 @@ QByteArray building(const QByteArray& content)
 {
     return cityModel("<core:cityObjectMember><bldg:Building gml:id='b'>" + content +
                      "</bldg:Building></core:cityObjectMember>");
-}
-
-QString printed(const xsd::cxx::tree::exception<char>& error)
-{
-    std::ostringstream text;
-    text << error;
-    return QString::fromStdString(text.str());
-}
-
-QString errorOf(const QByteArray& xml)
-{
-    try {
-        read(xml);
-    } catch (const xsd::cxx::tree::exception<char>& error) {
-        return printed(error);
-    }
-    return QString();
 }
 
 /// Inserts elements, attributes and comments that no schema knows at random places.

@@ -95,9 +95,9 @@ private slots:
         QTest::newRow("wrong root")
             << QByteArray("<Building xmlns=\"http://www.opengis.net/citygml/building/2.0\"/>") << "Building";
         QTest::newRow("wrong namespace of the root") << QByteArray("<CityModel/>") << "CityModel";
-        QTest::newRow("CityGML 1.0") << QByteArray(good).replace("http://www.opengis.net/citygml/2.0",
-                                                                 "http://www.opengis.net/citygml/1.0")
-                                     << "CityGML 1.0";
+        QTest::newRow("CityGML 3.0") << QByteArray(good).replace("http://www.opengis.net/citygml/2.0",
+                                                                 "http://www.opengis.net/citygml/3.0")
+                                     << "CityGML 3.0";
         QTest::newRow("duplicate identifier")
             << cityModel(building("twin") + building("other") + building("twin"))
             << "ID 'twin' already exist";

@@ -32,9 +32,15 @@ constexpr int chunkSize = 1 << 16;
 // An entity may make a document larger, but not without end.
 constexpr float largestExpansion = 20;
 constexpr unsigned long long freeExpansion = 1 << 20;
+// Prefixes are looked up one by one.
+constexpr std::size_t mostDeclarations = 1000;
+constexpr std::size_t longestReason = 300;
 
-constexpr const char* coreUri = "http://www.opengis.net/citygml/2.0";
-constexpr const char* olderCoreUri = "http://www.opengis.net/citygml/1.0";
+// Namespaces of CityGML are this, the module except for the core, and the version.
+constexpr std::string_view cityGmlUri = "http://www.opengis.net/citygml/";
+constexpr std::string_view cityGmlProfiles = "http://www.opengis.net/citygml/profiles/";
+constexpr std::string_view version = "2.0";
+constexpr std::string_view olderVersion = "1.0";
 constexpr const char* xsiUri = "http://www.w3.org/2001/XMLSchema-instance";
 constexpr const char* xmlUri = "http://www.w3.org/XML/1998/namespace";
 
@@ -48,10 +54,18 @@ struct RawName
         local = colon != std::string_view::npos ? whole.substr(colon + 1) : whole;
     }
 
+    bool isWellFormed() const
+    {
+        return !local.empty() && local.find(':') == std::string_view::npos &&
+               prefix.empty() == (local.size() == whole.size());
+    }
+
     std::string_view whole;
     std::string_view prefix;
     std::string_view local;
 };
+
+using Uri = std::shared_ptr<const std::string>;
 
 /// The namespaces in scope.
 class Scopes : public NameScope
@@ -60,15 +74,29 @@ public:
     struct Binding
     {
         std::string prefix;
-        std::string uri;
+        /// What the prefix means to the reader, and what the document says that it means.
+        Uri uri;
+        Uri declared;
         std::size_t depth;
     };
 
-    Scopes() { m_bindings.push_back({"xml", xmlUri, 0}); }
+    explicit Scopes(const SchemaIndex& index) : m_index(index)
+    {
+        const Uri uri = std::make_shared<const std::string>(xmlUri);
+        m_bindings.push_back({"xml", uri, uri, 0});
+    }
 
     void declare(std::string_view prefix, std::string_view uri, std::size_t depth)
     {
-        m_bindings.push_back({std::string(prefix), std::string(uri), depth});
+        if (prefix == "xmlns" || (prefix == "xml") != (uri == xmlUri) || (!prefix.empty() && uri.empty()) ||
+            prefix.find(':') != std::string_view::npos)
+            throw ValueError{"the prefix '" + std::string(prefix) + "' cannot stand for the namespace '" +
+                             std::string(uri) + '\''};
+        if (m_bindings.size() > mostDeclarations)
+            throw ValueError{"more than " + std::to_string(mostDeclarations) +
+                             " namespace declarations are in scope"};
+        const Uri declared = std::make_shared<const std::string>(uri);
+        m_bindings.push_back({std::string(prefix), meaningOf(declared), declared, depth});
         ++m_epoch;
     }
     /// Ends the scopes below a depth.
@@ -78,40 +106,98 @@ public:
             m_bindings.pop_back();
             ++m_epoch;
         }
+        while (m_recorded.back().count > m_bindings.size())
+            m_recorded.pop_back();
+    }
+    /// Reads the namespaces of CityGML 1.0 as those of 2.0, the ones in scope included.
+    void readOlderVersion()
+    {
+        m_isOlder = true;
+        for (Binding& binding : m_bindings)
+            binding.uri = meaningOf(binding.declared);
+        ++m_epoch;
     }
     /// Changes with every change of the scopes.
     std::uint32_t epoch() const { return m_epoch; }
     const std::vector<Binding>& bindings() const { return m_bindings; }
 
-    /// Null for a prefix that is not bound; the empty prefix is always bound.
-    const std::string* find(std::string_view prefix) const
+    /// What the document declares above a depth, to be kept.
+    std::shared_ptr<const KeptContent::Scope> around(std::size_t depth)
+    {
+        std::size_t count = m_bindings.size();
+        while (m_bindings[count - 1].depth >= depth && count > 1)
+            --count;
+        if (m_recorded.back().count < count) {
+            auto scope = std::make_shared<KeptContent::Scope>();
+            for (std::size_t i = m_recorded.back().count; i < count; ++i)
+                scope->declarations.emplace_back(m_bindings[i].prefix, m_bindings[i].declared);
+            scope->outer = m_recorded.back().scope;
+            m_recorded.push_back({count, std::move(scope)});
+        }
+        return m_recorded.back().scope;
+    }
+
+    /// Null for a prefix that is not bound, and for the empty one where there is no default namespace.
+    const Binding* find(std::string_view prefix) const
     {
         for (auto i = m_bindings.rbegin(); i != m_bindings.rend(); ++i) {
             if (i->prefix == prefix)
-                return &i->uri;
+                return &*i;
         }
-        return prefix.empty() ? &m_none : nullptr;
+        return nullptr;
+    }
+    const Binding& require(std::string_view prefix) const
+    {
+        const Binding* binding = find(prefix);
+        if (binding == nullptr)
+            throw ValueError{"the prefix '" + std::string(prefix) + "' is not bound to a namespace"};
+        return *binding;
     }
 
     std::string namespaceOf(std::string_view prefix) const override
     {
-        const std::string* uri = find(prefix);
-        if (uri == nullptr)
-            throw ValueError{"the prefix '" + std::string(prefix) + "' is not bound to a namespace"};
-        return *uri;
+        if (prefix.empty() && find(prefix) == nullptr)
+            return std::string();
+        return *require(prefix).uri;
     }
     std::string prefixOf(const std::string& uri) const override
     {
         for (auto i = m_bindings.rbegin(); i != m_bindings.rend(); ++i) {
-            if (i->uri == uri)
+            if (*i->uri == uri && find(i->prefix) == &*i)
                 return i->prefix;
         }
         return std::string();
     }
 
+    /// The namespace of this version in place of one of the older version, else the same.
+    Uri newer(const Uri& uri) const
+    {
+        const std::string_view text = *uri;
+        if (text.substr(0, cityGmlUri.size()) != cityGmlUri || text.size() < olderVersion.size() ||
+            text.substr(text.size() - olderVersion.size()) != olderVersion)
+            return uri;
+        const std::string result =
+            std::string(text.substr(0, text.size() - olderVersion.size())).append(version);
+        const auto& known = m_index.namespaces();
+        const bool isKnown = std::find(known.begin(), known.end(), result) != known.end() ||
+                             text.substr(0, cityGmlProfiles.size()) == cityGmlProfiles;
+        return isKnown ? std::make_shared<const std::string>(result) : uri;
+    }
+
 private:
+    /// The scope that the first so many bindings make.
+    struct Recorded
+    {
+        std::size_t count;
+        std::shared_ptr<const KeptContent::Scope> scope;
+    };
+
+    Uri meaningOf(const Uri& declared) const { return m_isOlder ? newer(declared) : declared; }
+
+    const SchemaIndex& m_index;
     std::vector<Binding> m_bindings;
-    std::string m_none;
+    std::vector<Recorded> m_recorded{{1, nullptr}};
+    bool m_isOlder = false;
     std::uint32_t m_epoch = 1;
 };
 
@@ -129,7 +215,10 @@ public:
         Entry& entry = m_entries[(hash ^ hash >> 15) % m_entries.size()];
         const std::string_view name(raw, static_cast<std::size_t>(end - raw));
         if (entry.epoch != epoch || entry.raw != name) {
-            entry.id = resolve(RawName(raw));
+            const RawName parts(raw);
+            if (!parts.isWellFormed())
+                throw ValueError{"'" + std::string(name) + "' is not a qualified name"};
+            entry.id = resolve(parts);
             entry.raw = name;
             entry.epoch = epoch;
         }
@@ -149,7 +238,10 @@ private:
 class Reader
 {
 public:
-    explicit Reader(std::istream& stream) : m_stream(stream), m_index(SchemaIndex::instance()) {}
+    explicit Reader(std::istream& stream)
+        : m_stream(stream), m_index(SchemaIndex::instance()), m_scopes(m_index)
+    {
+    }
 
     std::unique_ptr<core::CityModelType> read()
     {
@@ -165,6 +257,7 @@ public:
         XML_SetProcessingInstructionHandler(m_parser, &onInstruction);
         XML_SetStartDoctypeDeclHandler(m_parser, &onDoctype);
         XML_SetEntityDeclHandler(m_parser, &onEntity);
+        XML_SetAttlistDeclHandler(m_parser, &onAttribute);
         XML_SetExternalEntityRefHandler(m_parser, &onExternalEntity);
         XML_SetSkippedEntityHandler(m_parser, &onSkippedEntity);
         XML_SetUnknownEncodingHandler(m_parser, &onEncoding, nullptr);
@@ -187,6 +280,9 @@ public:
                 raise(XML_ErrorString(XML_GetErrorCode(m_parser)));
         }
         logKeptContent();
+        if (m_isOlder)
+            LOG4CPLUS_WARN(m_logger, "the document is of CityGML 1.0; it is read as CityGML 2.0, and a save "
+                                     "writes CityGML 2.0");
         return std::move(m_root);
     }
 
@@ -197,13 +293,15 @@ private:
     {
         Mode mode;
         bool isNil;
+        /// Whether the owner keeps something about a value.
+        bool isKept;
         /// The element's object, or for a value of fundamental type the object that has it.
         xml_schema::type* object;
         const TypeIndex* type;
         NameId name;
-        /// The member of the owner, for a value.
+        /// The member of the owner, for a value; else the place of the last child's member.
         int member;
-        /// Number of child elements that have a member.
+        /// Number of children in a row with that place.
         std::uint32_t children;
         /// Required members that were met, one bit each.
         std::uint64_t met;
@@ -280,6 +378,11 @@ private:
                 r.raise("the external entity '" + std::string(name) + "' is not opened");
         });
     }
+    static void XMLCALL onAttribute(void* self, const XML_Char*, const XML_Char*, const XML_Char*,
+                                    const XML_Char* value, int)
+    {
+        static_cast<Reader*>(self)->m_hasDefaults |= value != nullptr;
+    }
     static int XMLCALL onExternalEntity(XML_Parser parser, const XML_Char*, const XML_Char*, const XML_Char*,
                                         const XML_Char*)
     {
@@ -315,7 +418,7 @@ private:
 
     [[noreturn]] void raise(const std::string& reason) const
     {
-        std::string message = reason;
+        std::string message = shortened(reason, longestReason);
         if (!m_frames.empty())
             message += ", in " + path();
         xsd::cxx::tree::diagnostics<char> diagnostics;
@@ -323,6 +426,17 @@ private:
                                                           XML_GetCurrentLineNumber(m_parser),
                                                           XML_GetCurrentColumnNumber(m_parser) + 1, message));
         throw xsd::cxx::tree::parsing<char>(diagnostics);
+    }
+
+    /// \param longest in bytes; no character is cut.
+    static std::string shortened(const std::string& text, std::size_t longest)
+    {
+        if (text.size() <= longest)
+            return text;
+        std::size_t end = longest;
+        while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0u) == 0x80u)
+            --end;
+        return text.substr(0, end) + "...";
     }
 
     std::string nameOf(NameId id) const
@@ -336,13 +450,14 @@ private:
     std::string path() const
     {
         constexpr std::size_t shown = 8;
+        constexpr std::size_t longestName = 60;
         std::string text;
         for (std::size_t i = 0; i < m_frames.size(); ++i) {
             if (i >= shown && i + shown < m_frames.size()) {
                 text += "/...";
                 i = m_frames.size() - shown - 1;
             } else {
-                text += '/' + nameOf(m_frames[i].name);
+                text += '/' + shortened(nameOf(m_frames[i].name), longestName);
             }
         }
         if (m_rawDepth != 0)
@@ -363,10 +478,60 @@ private:
             return m_index.nameId(uri, name.local);
         });
     }
+    /// Namespace of an attribute as the document declares it.
+    Uri uriOf(const RawName& attribute) const
+    {
+        return attribute.prefix.empty() ? nullptr : m_scopes.require(attribute.prefix).declared;
+    }
+    bool isXsi(const RawName& attribute, std::string_view name) const
+    {
+        return attribute.local == name && !attribute.prefix.empty() &&
+               *m_scopes.require(attribute.prefix).uri == xsiUri;
+    }
 
     static bool isDeclaration(const char* attribute)
     {
         return std::strncmp(attribute, "xmlns", 5) == 0 && (attribute[5] == 0 || attribute[5] == ':');
+    }
+
+    static std::string_view declaredPrefix(const char* declaration)
+    {
+        const std::string_view name(declaration);
+        // A colon that nothing follows declares no prefix; as one it is refused.
+        return name.size() == 5 ? std::string_view() : name.size() == 6 ? ":" : name.substr(6);
+    }
+
+    /// The parser compares names as they are written; with two prefixes they may still be the same.
+    void checkDistinct(const char** attributes) const
+    {
+        std::vector<RawName> names;
+        bool isMixed = false;
+        for (const char** a = attributes; *a != nullptr; a += 2) {
+            const RawName name(*a);
+            if (name.prefix.empty() || isDeclaration(*a))
+                continue;
+            names.push_back(name);
+            isMixed = isMixed || name.prefix != names.front().prefix;
+        }
+        if (!isMixed)
+            return;
+        std::vector<std::pair<std::string_view, std::string_view>> meant;
+        for (const RawName& name : names)
+            meant.emplace_back(*m_scopes.require(name.prefix).uri, name.local);
+        std::sort(meant.begin(), meant.end());
+        const auto twice = std::adjacent_find(meant.begin(), meant.end());
+        if (twice != meant.end())
+            raise("the attribute '" + std::string(twice->second) + "' stands twice in an element");
+    }
+
+    /// Values that a document type gives to attributes must not blow the document up either.
+    void limitDefaults(const char** attributes)
+    {
+        for (const char** a = attributes + XML_GetSpecifiedAttributeCount(m_parser); *a != nullptr; a += 2)
+            m_defaults += std::strlen(*a) + std::strlen(a[1]);
+        const auto read = static_cast<float>(XML_GetCurrentByteIndex(m_parser));
+        if (m_defaults > freeExpansion && static_cast<float>(m_defaults) > largestExpansion * read)
+            raise("the document type gives too many values to attributes");
     }
 
     void startElement(const char* name, const char** attributes)
@@ -376,8 +541,12 @@ private:
         const std::size_t depth = m_frames.size() + m_rawDepth + 1;
         for (const char** a = attributes; *a != nullptr; a += 2) {
             if (isDeclaration(*a))
-                m_scopes.declare((*a)[5] == ':' ? *a + 6 : "", a[1], depth);
+                m_scopes.declare(declaredPrefix(*a), a[1], depth);
         }
+        if (attributes[0] != nullptr && attributes[2] != nullptr)
+            checkDistinct(attributes);
+        if (m_hasDefaults)
+            limitDefaults(attributes);
         if (m_rawDepth != 0) {
             startRaw(name, attributes);
             return;
@@ -402,9 +571,16 @@ private:
     {
         const RawName raw(name);
         const std::string uri = m_scopes.namespaceOf(raw.prefix);
-        if (raw.local != "CityModel" || uri != coreUri) {
-            if (raw.local == "CityModel" && uri == olderCoreUri)
-                raise("the document is of CityGML 1.0, not 2.0");
+        const std::string stem(cityGmlUri);
+        const bool isCityGml = raw.local == "CityModel" && uri.compare(0, stem.size(), stem) == 0;
+        m_isOlder = isCityGml && uri == stem + std::string(olderVersion);
+        if (m_isOlder) {
+            m_scopes.readOlderVersion();
+            id = elementId(name);
+        } else if (isCityGml && uri != stem + std::string(version)) {
+            raise("the document is of CityGML " + uri.substr(stem.size()) +
+                  "; versions 1.0 and 2.0 are read");
+        } else if (!isCityGml) {
             raise("the root element is '" + std::string(name) + "', not the CityModel of CityGML 2.0");
         }
         m_root = std::make_unique<core::CityModelType>();
@@ -413,8 +589,10 @@ private:
         m_document->prologue.swap(m_outside);
         for (const Scopes::Binding& binding : m_scopes.bindings()) {
             if (binding.depth == 1)
-                m_document->namespaces.emplace_back(binding.prefix, binding.uri);
+                m_document->namespaces.emplace_back(binding.prefix, *binding.uri);
         }
+        if (!m_isOlder)
+            m_document->scope = m_scopes.around(2);
         KeptContent::setElementName(*m_root, id);
         pushObject(*m_root, m_index.typeOf(*m_root), id, attributes);
     }
@@ -424,14 +602,16 @@ private:
     {
         const TypeIndex::FlatMember& member = parent.type->members()[static_cast<std::size_t>(place.member)];
         const MemberOps& ops = *member.member->ops;
-        if (ops.single && member.member->defaultText == nullptr && ops.count(*parent.object) != 0)
+        if (ops.single && member.member->defaultText == nullptr &&
+            (ops.count(*parent.object) != 0 ||
+             (place.type == nullptr && hasNilValue(*parent.object, place.member))))
             return false;
         const TypeIndex* type = place.type;
         bool isAbstract = place.isAbstract;
         for (const char** a = attributes; *a != nullptr; a += 2) {
             const char* colon = std::strchr(*a, ':');
-            if (colon != nullptr && std::strcmp(colon + 1, "type") == 0 &&
-                uriOf(RawName(*a).prefix) == xsiUri && type != nullptr)
+            if (colon != nullptr && std::strcmp(colon + 1, "type") == 0 && isXsi(RawName(*a), "type") &&
+                type != nullptr)
                 isAbstract = !selectType(a[1], type);
         }
         if (isAbstract)
@@ -440,13 +620,24 @@ private:
             parent.met |= std::uint64_t(1) << member.required;
         if (member.group != 0)
             m_order.push_back(static_cast<std::uint16_t>(place.member));
-        ++parent.children;
+        if (parent.member == member.place) {
+            ++parent.children;
+        } else {
+            // Children that come late are counted without those that are nil; what is kept behind them may
+            // move among them.
+            const bool isLate = member.place < parent.member;
+            parent.children = !isLate ? 1u
+                              : member.group != 0
+                                  ? static_cast<std::uint32_t>(m_order.size() - parent.orderBegin)
+                                  : static_cast<std::uint32_t>(ops.count(*parent.object) + 1);
+            parent.member = member.place;
+        }
 
         if (type == nullptr) {
-            const bool isNil = readValueAttributes(*parent.object, place.member, attributes);
             m_text.clear();
             m_frames.push_back(
-                {Mode::Value, isNil, parent.object, nullptr, id, place.member, 0, 0, m_order.size()});
+                {Mode::Value, false, false, parent.object, nullptr, id, place.member, 0, 0, m_order.size()});
+            readValueAttributes(m_frames.back(), attributes);
             return true;
         }
         std::unique_ptr<xml_schema::type> created(type->record()->create());
@@ -457,10 +648,13 @@ private:
         return true;
     }
 
-    std::string uriOf(std::string_view prefix) const
+    static bool hasNilValue(const xml_schema::type& owner, int member)
     {
-        const std::string* uri = m_scopes.find(prefix);
-        return uri != nullptr ? *uri : std::string();
+        const KeptContent* kept = KeptContent::find(owner);
+        return kept != nullptr && std::any_of(kept->values.begin(), kept->values.end(),
+                                              [member](const KeptContent::Value& value) {
+                                                  return value.isNil && value.member == member;
+                                              });
     }
 
     /// Replaces a type by the one that `xsi:type` names; false where that one is abstract.
@@ -480,8 +674,8 @@ private:
     void pushObject(xml_schema::type& object, const TypeIndex& type, NameId id, const char** attributes)
     {
         m_text.clear();
-        m_frames.push_back({type.hasText() ? Mode::Text : Mode::Children, false, &object, &type, id, -1, 0, 0,
-                            m_order.size()});
+        m_frames.push_back({type.hasText() ? Mode::Text : Mode::Children, false, false, &object, &type, id,
+                            -1, 0, 0, m_order.size()});
         for (const char** a = attributes; *a != nullptr; a += 2) {
             if (!isDeclaration(*a))
                 readAttribute(m_frames.back(), a[0], a[1]);
@@ -512,6 +706,8 @@ private:
         const MemberOps& ops = *member.member->ops;
         if (member.type == nullptr) {
             ops.addText(owner, value);
+            if (isOtherSpelling(owner, member, 0, value))
+                keepAttributeText(owner, member, value);
             return;
         }
         std::unique_ptr<xml_schema::type> created(member.type->record()->create());
@@ -530,24 +726,56 @@ private:
         }
         member.type->record()->text->parse(object, value, m_scopes);
         checkLiteral(object, *member.type);
+        if (member.type->hasSpellings() && isOtherSpelling(object, *member.type, value))
+            keepAttributeText(owner, member, value);
         ops.add(owner, created.release());
+    }
+
+    /// Whether a value will be written with another text than that of the document, as `true` for `1`.
+    /// Numbers may be.
+    bool isOtherSpelling(const xml_schema::type& object, const TypeIndex& type, std::string_view text) const
+    {
+        std::string written;
+        type.record()->text->format(object, written, m_scopes);
+        return trimmed(text) != written;
+    }
+    /// The same for a value of a fundamental type.
+    static bool isOtherSpelling(const xml_schema::type& owner, const TypeIndex::FlatMember& member,
+                                std::size_t index, std::string_view text)
+    {
+        const std::string_view digit = trimmed(text);
+        if (digit != "0" && digit != "1")
+            return false;
+        std::string written;
+        member.member->ops->format(owner, index, written);
+        return written == "true" || written == "false";
+    }
+
+    void keepAttributeText(xml_schema::type& owner, const TypeIndex::FlatMember& member,
+                           std::string_view text) const
+    {
+        KeptContent::Value value;
+        value.member = static_cast<std::uint16_t>(member.place);
+        value.text = trimmed(text);
+        KeptContent::of(owner).values.push_back(std::move(value));
     }
 
     void keepAttribute(Frame& frame, const char* name, const char* value)
     {
         const RawName raw(name);
-        const std::string uri = raw.prefix.empty() ? std::string() : m_scopes.namespaceOf(raw.prefix);
-        if (uri == xsiUri) {
-            if (raw.local == "nil")
-                frame.isNil = isTrue(value);
-            else if (raw.local == "schemaLocation" && frame.object == m_root.get()) {
-                readSchemaLocation(value);
-                return;
-            }
+        if (isXsi(raw, "nil"))
+            frame.isNil = isTrue(value);
+        if (isXsi(raw, "schemaLocation") && frame.object == m_root.get()) {
+            readSchemaLocation(value);
+            return;
         }
         count("attribute", name);
-        KeptContent::of(*frame.object)
-            .attributes.push_back({std::string(raw.prefix), uri, std::string(raw.local), value});
+        KeptContent::of(*frame.object).attributes.push_back(attributeOf(raw, value));
+    }
+
+    KeptContent::Attribute attributeOf(const RawName& name, const char* value) const
+    {
+        return {std::string(name.prefix), uriOf(name), std::string(name.local), value};
     }
 
     static bool isTrue(const char* value)
@@ -556,27 +784,37 @@ private:
         return text == "true" || text == "1";
     }
 
-    /// Keeps the attributes of an element that is a plain value.
-    /// \return whether the element is nil.
-    bool readValueAttributes(xml_schema::type& owner, int member, const char** attributes)
+    /// What is kept about the value of a frame.
+    KeptContent::Value& keptValue(Frame& frame)
     {
-        bool isNil = false;
+        auto& values = KeptContent::of(*frame.object).values;
+        if (!frame.isKept) {
+            frame.isKept = true;
+            const auto index = static_cast<std::uint32_t>(memberOf(frame).member->ops->count(*frame.object));
+            values.emplace_back();
+            values.back().member = static_cast<std::uint16_t>(frame.member);
+            values.back().index = index;
+        }
+        return values.back();
+    }
+
+    const TypeIndex::FlatMember& memberOf(const Frame& value) const
+    {
+        return m_index.typeOf(*value.object).members()[static_cast<std::size_t>(value.member)];
+    }
+
+    /// Keeps the attributes of an element that is a plain value.
+    void readValueAttributes(Frame& frame, const char** attributes)
+    {
         for (const char** a = attributes; *a != nullptr; a += 2) {
             if (isDeclaration(*a))
                 continue;
+            attributeId(*a);
             const RawName raw(*a);
-            const std::string uri = raw.prefix.empty() ? std::string() : m_scopes.namespaceOf(raw.prefix);
-            isNil = isNil || (uri == xsiUri && raw.local == "nil" && isTrue(a[1]));
+            frame.isNil = frame.isNil || (isXsi(raw, "nil") && isTrue(a[1]));
             count("attribute", *a);
-            const TypeIndex& type = m_index.typeOf(owner);
-            const std::size_t index =
-                type.members()[static_cast<std::size_t>(member)].member->ops->count(owner);
-            KeptContent::of(owner).valueAttributes.push_back(
-                {static_cast<std::uint16_t>(member),
-                 static_cast<std::uint32_t>(index),
-                 {std::string(raw.prefix), uri, std::string(raw.local), a[1]}});
+            keptValue(frame).attributes.push_back(attributeOf(raw, a[1]));
         }
-        return isNil;
     }
 
     void readSchemaLocation(std::string_view text)
@@ -585,7 +823,9 @@ private:
         std::string_view uri, location;
         while (nextWord(text, uri)) {
             nextWord(text, location);
-            m_document->schemaLocations.emplace_back(uri, location);
+            const Uri declared = std::make_shared<const std::string>(uri);
+            if (!m_isOlder || m_scopes.newer(declared) == declared)
+                m_document->schemaLocations.emplace_back(uri, location);
         }
     }
 
@@ -619,12 +859,19 @@ private:
             if (!frame.isNil || !isBlank(m_text)) {
                 frame.type->record()->text->parse(*frame.object, m_text, m_scopes);
                 checkLiteral(*frame.object, *frame.type);
+                if (frame.type->hasSpellings() && isOtherSpelling(*frame.object, *frame.type, m_text)) {
+                    KeptContent::Value value;
+                    value.text = trimmed(m_text);
+                    KeptContent::of(*frame.object).values.push_back(std::move(value));
+                }
             }
             checkRequired(frame);
+            sortKeptContent(frame);
             break;
         case Mode::Children:
             flushText(frame);
             checkRequired(frame);
+            sortKeptContent(frame);
             endChildren(frame);
             break;
         }
@@ -636,43 +883,37 @@ private:
             endRoot();
     }
 
-    void endValue(const Frame& frame)
+    void endValue(Frame& frame)
     {
         if (frame.isNil && isBlank(m_text)) {
             // A value that is not there has no place in the member; the element itself comes back.
-            keepNilValue(frame);
+            keptValue(frame).isNil = true;
             return;
         }
-        const TypeIndex& type = m_index.typeOf(*frame.object);
-        type.members()[static_cast<std::size_t>(frame.member)].member->ops->addText(*frame.object, m_text);
+        const TypeIndex::FlatMember& member = memberOf(frame);
+        const MemberOps& ops = *member.member->ops;
+        ops.addText(*frame.object, m_text);
+        if (isOtherSpelling(*frame.object, member, ops.count(*frame.object) - 1, m_text)) {
+            // The value has just entered the member, and so no longer counts as one in front.
+            KeptContent::Value& value = keptValue(frame);
+            value.index = static_cast<std::uint32_t>(ops.count(*frame.object) - 1);
+            value.text = trimmed(m_text);
+        }
     }
 
-    void keepNilValue(const Frame& frame)
+    /// Brings what is kept with an object into the order in which it is written.
+    void sortKeptContent(const Frame& frame) const
     {
+        if (KeptContent::find(*frame.object) == nullptr)
+            return;
         KeptContent& kept = KeptContent::of(*frame.object);
-        const char* none = nullptr;
-        m_raw = '<' + nameOf(frame.name);
-        declareLocalNamespaces(&none, 0);
-        std::string xml;
-        xml.swap(m_raw);
-        const TypeIndex& type = m_index.typeOf(*frame.object);
-        const std::size_t index =
-            type.members()[static_cast<std::size_t>(frame.member)].member->ops->count(*frame.object);
-        auto& attributes = kept.valueAttributes;
-        for (auto i = attributes.begin(); i != attributes.end();) {
-            if (i->member != frame.member || i->index != index) {
-                ++i;
-                continue;
-            }
-            xml += ' ' + (i->attribute.prefix.empty() ? "" : i->attribute.prefix + ':') + i->attribute.name +
-                   "=\"";
-            appendEscapedAttribute(i->attribute.value, xml);
-            xml += '"';
-            i = attributes.erase(i);
-        }
-        Frame& parent = m_frames[m_frames.size() - 2];
-        --parent.children;
-        kept.nodes.push_back({KeptContent::Kind::Element, parent.children, xml + "/>"});
+        const auto isBefore = [](const auto& a, const auto& b) {
+            return a.member != b.member ? a.member < b.member : a.index < b.index;
+        };
+        if (!std::is_sorted(kept.values.begin(), kept.values.end(), isBefore))
+            std::stable_sort(kept.values.begin(), kept.values.end(), isBefore);
+        if (!std::is_sorted(kept.nodes.begin(), kept.nodes.end(), isBefore))
+            std::stable_sort(kept.nodes.begin(), kept.nodes.end(), isBefore);
     }
 
     void checkRequired(const Frame& frame) const
@@ -729,10 +970,20 @@ private:
             appendEscaped(m_text, xml);
             if (!isBlank(m_text))
                 count("text in", nameOf(frame.name).c_str());
-            KeptContent::of(*frame.object)
-                .nodes.push_back({KeptContent::Kind::Text, frame.children, std::move(xml)});
+            keep(frame, KeptContent::Kind::Text, std::move(xml));
         }
         m_text.clear();
+    }
+
+    void keep(Frame& frame, KeptContent::Kind kind, std::string xml,
+              std::shared_ptr<const KeptContent::Scope> scope = nullptr)
+    {
+        const bool hasText = frame.mode != Mode::Children;
+        const auto index = hasText ? static_cast<std::uint32_t>(m_text.size()) : frame.children;
+        const auto member = static_cast<std::uint16_t>(hasText || frame.member < 0 ? 0 : frame.member);
+        auto& nodes =
+            frame.mode == Mode::Value ? keptValue(frame).nodes : KeptContent::of(*frame.object).nodes;
+        nodes.push_back({kind, member, index, std::move(xml), std::move(scope)});
     }
 
     void addMarkup(KeptContent::Kind kind, const char* what, std::string xml)
@@ -750,15 +1001,19 @@ private:
             return;
         count(what, "");
         flushText(frame);
-        KeptContent::of(*frame.object).nodes.push_back({kind, frame.children, std::move(xml)});
+        keep(frame, kind, std::move(xml));
     }
 
     void startRaw(const char* name, const char** attributes)
     {
-        m_raw.append(1, '<').append(name);
+        // Only to see that the names are sound.
+        elementId(name);
         if (m_rawDepth == 0)
-            declareLocalNamespaces(attributes, m_frames.size() + 1);
+            m_rawScope = m_scopes.around(m_frames.size() + 1);
+        m_raw.append(1, '<').append(name);
         for (const char** a = attributes; *a != nullptr; a += 2) {
+            if (!isDeclaration(*a))
+                attributeId(*a);
             m_raw.append(1, ' ').append(*a).append("=\"");
             appendEscapedAttribute(a[1], m_raw);
             m_raw += '"';
@@ -767,36 +1022,12 @@ private:
         ++m_rawDepth;
     }
 
-    /// Declarations in scope that are not the root's go with the element, since only the root's are written
-    /// back.
-    /// \param depth those of that depth are among the attributes.
-    void declareLocalNamespaces(const char** attributes, std::size_t depth)
-    {
-        const auto& bindings = m_scopes.bindings();
-        for (std::size_t i = 0; i < bindings.size(); ++i) {
-            const Scopes::Binding& binding = bindings[i];
-            if (binding.depth <= 1 || binding.depth == depth || m_scopes.find(binding.prefix) != &binding.uri)
-                continue;
-            bool isRedeclared = false;
-            for (const char** a = attributes; *a != nullptr; a += 2)
-                isRedeclared =
-                    isRedeclared || (isDeclaration(*a) && binding.prefix == ((*a)[5] == ':' ? *a + 6 : ""));
-            if (isRedeclared)
-                continue;
-            m_raw.append(binding.prefix.empty() ? " xmlns" : " xmlns:").append(binding.prefix).append("=\"");
-            appendEscapedAttribute(binding.uri, m_raw);
-            m_raw += '"';
-        }
-    }
-
     void endRaw(const char* name)
     {
         m_raw.append("</").append(name).append(1, '>');
         if (--m_rawDepth != 0)
             return;
-        Frame& frame = m_frames.back();
-        KeptContent::of(*frame.object)
-            .nodes.push_back({KeptContent::Kind::Element, frame.children, std::move(m_raw)});
+        keep(m_frames.back(), KeptContent::Kind::Element, std::move(m_raw), std::move(m_rawScope));
         m_raw.clear();
     }
 
@@ -829,9 +1060,15 @@ private:
     // Markup of an element without a place, and the number of its open elements.
     std::string m_raw;
     std::size_t m_rawDepth = 0;
+    std::shared_ptr<const KeptContent::Scope> m_rawScope;
     // Markup in front of the root.
     std::vector<std::string> m_outside;
     bool m_rootEnded = false;
+    // Whether the document is of CityGML 1.0.
+    bool m_isOlder = false;
+    // Whether a document type gives values to attributes, and how many bytes of these so far.
+    bool m_hasDefaults = false;
+    unsigned long long m_defaults = 0;
 
     log4cplus::Logger m_logger =
         log4cplus::Logger::getInstance(LOG4CPLUS_TEXT("tolvik.citygml.DocumentReader"));

@@ -2,12 +2,14 @@
 
 #include "platform/binding/KeptContent.h"
 #include "platform/binding/SchemaIndex.h"
+#include "platform/binding/TextValues.h"
 #include "platform/binding/XmlText.h"
 
 #include <algorithm>
 #include <map>
 #include <memory>
 #include <ostream>
+#include <set>
 
 namespace citygml {
 namespace binding {
@@ -49,9 +51,15 @@ public:
     }
 
     const std::vector<Binding>& list() const { return m_list; }
-    bool declares(const std::string& prefix, const std::string& uri) const
+    /// Whether an element sees the prefix with that meaning where nothing around it but the root declares
+    /// any; the empty prefix may mean no namespace.
+    bool means(std::string_view prefix, std::string_view uri) const
     {
-        return uri == xmlUri || std::find(m_list.begin(), m_list.end(), Binding(prefix, uri)) != m_list.end();
+        for (const Binding& binding : m_list) {
+            if (binding.first == prefix)
+                return binding.second == uri;
+        }
+        return prefix.empty() ? uri.empty() : prefix == "xml" && uri == xmlUri;
     }
 
     /// Prefix of elements of the namespace; the empty prefix for the default namespace.
@@ -97,6 +105,40 @@ private:
     std::map<std::string, std::string> m_local;
 };
 
+const std::string* namespaceIn(const KeptContent::Scope* scope, std::string_view prefix)
+{
+    for (; scope != nullptr; scope = scope->outer.get()) {
+        for (auto i = scope->declarations.rbegin(); i != scope->declarations.rend(); ++i) {
+            if (i->first == prefix)
+                return i->second.get();
+        }
+    }
+    return nullptr;
+}
+
+bool endsName(char c)
+{
+    return std::string_view(" \t\r\n<>/=\"'();,&").find(c) != std::string_view::npos;
+}
+
+/// Every prefix that markup may use, in names or in values; the empty one where an element has none.
+std::set<std::string_view> prefixesIn(std::string_view xml)
+{
+    std::set<std::string_view> result;
+    std::size_t begin = 0;
+    for (std::size_t i = 0; i < xml.size(); ++i) {
+        if (xml[i] == ':' && i != begin) {
+            result.insert(xml.substr(begin, i - begin));
+            begin = i + 1;
+        } else if (endsName(xml[i])) {
+            if (begin != 0 && i != begin && xml[begin - 1] == '<')
+                result.insert(std::string_view());
+            begin = i + 1;
+        }
+    }
+    return result;
+}
+
 class Writer
 {
 public:
@@ -110,6 +152,7 @@ public:
         const KeptContent* kept = KeptContent::find(model);
         const KeptContent::Document fresh;
         const KeptContent::Document& document = kept != nullptr && kept->document ? *kept->document : fresh;
+        m_scope = document.scope.get();
         declareNamespaces(document);
 
         m_out = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
@@ -129,6 +172,21 @@ private:
     {
         std::string name;
         const TypeIndex* typeToTell = nullptr;
+    };
+
+    /// The value of `xsi:type`.
+    struct RawType
+    {
+        explicit RawType(std::string_view text)
+        {
+            text = trimmed(text);
+            const std::size_t colon = text.find(':');
+            prefix = colon != std::string_view::npos ? text.substr(0, colon) : std::string_view();
+            local = colon != std::string_view::npos ? text.substr(colon + 1) : text;
+        }
+
+        std::string_view prefix;
+        std::string_view local;
     };
 
     Tag rootName() const { return {qualified("http://www.opengis.net/citygml/2.0", "CityModel"), nullptr}; }
@@ -226,7 +284,7 @@ private:
 
         m_text.clear();
         if (type.hasText())
-            type.record()->text->format(object, m_text, m_declared);
+            format(object, type, kept, KeptContent::Value::ownText, m_text);
         if (isUnsetNil(object, type, kept))
             m_text.clear();
         if (type.hasText() && (kept == nullptr || kept->nodes.empty())) {
@@ -241,12 +299,17 @@ private:
         }
         const std::size_t begin = m_out.size();
         m_out += '>';
-        if (type.hasText())
-            addText(tag.name, m_text);
-        Content content{&object, &type, kept, depth + 1, true, 0, 0};
-        content.isIndented = !type.hasText() && (kept == nullptr || !hasText(*kept));
+        if (type.hasText()) {
+            const std::string text = m_text;
+            const bool isString = dynamic_cast<const std::string*>(&object) != nullptr;
+            writeTextAndNodes(tag.name, text, kept->nodes, isString);
+            m_out.append("</").append(tag.name).append(1, '>');
+            return;
+        }
+        Content content{&object, &type, kept, depth + 1};
+        content.isIndented = kept == nullptr || !hasText(*kept);
         writeChildren(content);
-        writeKept(content, ~0u);
+        writeKept(content, Position(~0u, 0));
         if (content.written == 0 && m_out.size() == begin + 1) {
             m_out.back() = '/';
             m_out += '>';
@@ -257,6 +320,33 @@ private:
         m_out.append("</").append(tag.name).append(1, '>');
     }
 
+    /// Writes text with the elements that stand in it.
+    /// \param isString whether an element may stand in a word.
+    void writeTextAndNodes(const std::string& name, const std::string& text,
+                           const std::vector<KeptContent::Node>& nodes, bool isString)
+    {
+        std::size_t done = 0;
+        for (const KeptContent::Node& node : nodes) {
+            // The text may be another by now.
+            std::size_t end = std::min<std::size_t>(node.index, text.size());
+            const auto isInside = [&] {
+                return isString ? (static_cast<unsigned char>(text[end]) & 0xC0u) == 0x80u
+                                : end != 0 && text[end - 1] != ' ' && text[end] != ' ';
+            };
+            while (end < text.size() && isInside())
+                ++end;
+            if (end > done) {
+                addText(name, std::string_view(text).substr(done, end - done));
+                done = end;
+            }
+            writeNode(node);
+        }
+        addText(name, std::string_view(text).substr(done));
+    }
+
+    /// Member and number of a child, as in KeptContent::Node.
+    using Position = std::pair<std::uint32_t, std::uint32_t>;
+
     /// The writing of one object's content.
     struct Content
     {
@@ -264,11 +354,24 @@ private:
         const TypeIndex* type;
         const KeptContent* kept;
         int depth;
-        bool isIndented;
-        /// Number of children with a member written so far, and of kept nodes.
-        std::uint32_t children;
-        std::size_t nodes;
+        bool isIndented = true;
+        /// Number of kept nodes written so far, and of all children.
+        std::size_t nodes = 0;
         std::size_t written = 0;
+    };
+
+    /// The writing of one member's children: its values, and between them those that are nil.
+    struct Children
+    {
+        std::size_t member;
+        std::size_t count;
+        std::size_t value = 0;
+        /// What is kept about the next values.
+        const KeptContent::Value* kept = nullptr;
+        const KeptContent::Value* end = nullptr;
+
+        bool atEnd() const { return value == count && !isNil(); }
+        bool isNil() const { return kept != end && kept->isNil && (kept->index <= value || value == count); }
     };
 
     static bool hasText(const KeptContent& kept)
@@ -277,113 +380,205 @@ private:
                            [](const KeptContent::Node& n) { return n.kind == KeptContent::Kind::Text; });
     }
 
+    void writeNode(const KeptContent::Node& node)
+    {
+        if (node.kind != KeptContent::Kind::Element || (m_scope != nullptr && node.scope.get() == m_scope)) {
+            m_out += node.xml;
+            return;
+        }
+        // The element comes from elsewhere: its prefixes must mean what they meant there.
+        const std::size_t nameEnd = node.xml.find_first_of(" />");
+        const std::string_view tag(node.xml.data(), node.xml.find('>'));
+        m_out.append(node.xml, 0, nameEnd);
+        for (const std::string_view prefix : prefixesIn(node.xml)) {
+            const std::string* uri = namespaceIn(node.scope.get(), prefix);
+            const std::string wanted = uri != nullptr ? *uri : std::string();
+            const bool isOther = uri == nullptr && !prefix.empty();
+            const std::string declaration =
+                prefix.empty() ? std::string("xmlns") : "xmlns:" + std::string(prefix);
+            if (isOther || tag.find(' ' + declaration + "=\"") != std::string_view::npos ||
+                m_declared.means(prefix, wanted))
+                continue;
+            addAttribute(declaration, wanted);
+        }
+        m_out.append(node.xml, nameEnd, std::string::npos);
+    }
+
     /// Writes the kept nodes in front of a child.
-    void writeKept(Content& content, std::uint32_t child)
+    void writeKept(Content& content, const Position& child)
     {
         if (content.kept == nullptr)
             return;
         const auto& nodes = content.kept->nodes;
-        for (; content.nodes < nodes.size() && nodes[content.nodes].position <= child; ++content.nodes) {
+        for (; content.nodes < nodes.size(); ++content.nodes) {
+            const KeptContent::Node& node = nodes[content.nodes];
+            if (Position(node.member, node.index) >= child)
+                return;
             if (content.isIndented)
                 newLine(content.depth);
-            m_out += nodes[content.nodes].xml;
+            writeNode(node);
             ++content.written;
         }
     }
 
     void writeChildren(Content& content)
     {
-        const TypeIndex& type = *content.type;
-        for (std::size_t i = 0; i < type.elementCount(); ++i) {
-            const TypeIndex::FlatMember& member = type.members()[i];
-            if (member.group == 0) {
+        const auto& members = content.type->members();
+        for (std::size_t i = 0; i < content.type->elementCount();) {
+            std::size_t end = i + 1;
+            while (end < content.type->elementCount() && members[end].place == members[i].place)
+                ++end;
+            if (end == i + 1)
                 writeMember(content, i);
-            } else if (i == 0 || type.members()[i - 1].group != member.group) {
-                std::size_t end = i;
-                while (end < type.elementCount() && type.members()[end].group == member.group)
-                    ++end;
+            else
                 writeGroup(content, i, end);
-            }
+            i = end;
         }
+    }
+
+    Children childrenOf(const Content& content, std::size_t number) const
+    {
+        const TypeIndex::FlatMember& member = content.type->members()[number];
+        const MemberOps& ops = *member.member->ops;
+        Children children{number, ops.count(*content.object)};
+        if (content.kept != nullptr && !content.kept->values.empty()) {
+            const auto range = keptValues(*content.kept, number);
+            children.kept = range.first;
+            children.end = range.second;
+            // One that has been set since is no longer nil.
+            while (ops.single && children.count != 0 && children.kept != children.end && children.kept->isNil)
+                ++children.kept;
+        }
+        if (children.atEnd() && member.required >= 0 && !isNil(content.kept)) {
+            const QualifiedName& name = m_index.name(member.name);
+            throw xsd::cxx::tree::expected_element<char>(name.name, name.uri);
+        }
+        return children;
+    }
+
+    /// What is kept about the values of a member.
+    static std::pair<const KeptContent::Value*, const KeptContent::Value*> keptValues(const KeptContent& kept,
+                                                                                      std::size_t member)
+    {
+        const auto isBefore = [](const KeptContent::Value& value, std::size_t number) {
+            return value.member < number;
+        };
+        const auto& values = kept.values;
+        const KeptContent::Value* const end = values.data() + values.size();
+        return {std::lower_bound(values.data(), end, member, isBefore),
+                std::lower_bound(values.data(), end, member + 1, isBefore)};
     }
 
     void writeMember(Content& content, std::size_t number)
     {
-        const TypeIndex::FlatMember& member = content.type->members()[number];
-        const std::size_t count = member.member->ops->count(*content.object);
-        if (count == 0 && member.required >= 0 && !isNil(content.kept)) {
-            const QualifiedName& name = m_index.name(member.name);
-            throw xsd::cxx::tree::expected_element<char>(name.name, name.uri);
-        }
-        for (std::size_t i = 0; i < count; ++i)
-            writeChild(content, number, i);
+        const auto place = static_cast<std::uint32_t>(number);
+        std::uint32_t child = 0;
+        for (Children children = childrenOf(content, number); !children.atEnd();)
+            writeChild(content, children, {place, ++child});
     }
 
-    /// Writes members that may alternate: in the order of the document where that is known and still holds.
+    /// Writes members that may alternate: in the order of the document as far as that is known.
     void writeGroup(Content& content, std::size_t begin, std::size_t end)
     {
-        const auto& members = content.type->members();
-        std::vector<std::size_t> written(end - begin, 0);
+        std::vector<Children> members;
+        for (std::size_t i = begin; i < end; ++i)
+            members.push_back(childrenOf(content, i));
+        const auto place = static_cast<std::uint32_t>(begin);
+        std::uint32_t child = 0;
         if (content.kept != nullptr) {
-            std::vector<std::size_t> counts(end - begin, 0);
             for (const std::uint16_t number : content.kept->order) {
-                if (number >= begin && number < end)
-                    ++counts[number - begin];
-            }
-            bool holds = true;
-            for (std::size_t i = begin; i < end; ++i)
-                holds = holds && members[i].member->ops->count(*content.object) == counts[i - begin];
-            if (holds) {
-                for (const std::uint16_t number : content.kept->order) {
-                    if (number >= begin && number < end)
-                        writeChild(content, number, written[number - begin]++);
-                }
-                return;
+                if (number >= begin && number < end && !members[number - begin].atEnd())
+                    writeChild(content, members[number - begin], {place, ++child});
             }
         }
-        for (std::size_t i = begin; i < end; ++i)
-            writeMember(content, i);
+        for (Children& children : members) {
+            while (!children.atEnd())
+                writeChild(content, children, {place, ++child});
+        }
     }
 
-    void writeChild(Content& content, std::size_t number, std::size_t index)
+    void writeChild(Content& content, Children& children, const Position& position)
     {
-        writeKept(content, content.children);
-        ++content.children;
+        writeKept(content, position);
         ++content.written;
         if (content.isIndented)
             newLine(content.depth);
-        const TypeIndex::FlatMember& member = content.type->members()[number];
-        const MemberOps& ops = *member.member->ops;
+        const TypeIndex::FlatMember& member = content.type->members()[children.member];
         if (member.type == nullptr) {
-            writeValue(content, member, static_cast<int>(number), index);
+            writeValue(content, member, children);
             return;
         }
-        const xml_schema::type& child = ops.at(*content.object, index);
+        const xml_schema::type& child = member.member->ops->at(*content.object, children.value++);
         const TypeIndex& type = m_index.typeOf(child);
-        writeElement(child, type, tagOf(*content.type, static_cast<int>(number), child, type), content.depth,
-                     nullptr);
+        writeElement(child, type, tagOf(*content.type, static_cast<int>(children.member), child, type),
+                     content.depth, nullptr);
     }
 
-    void writeValue(const Content& content, const TypeIndex::FlatMember& member, int number,
-                    std::size_t index)
+    void writeValue(const Content& content, const TypeIndex::FlatMember& member, Children& children)
     {
         const std::string& tag = valueTag(member);
+        const bool isNil = children.isNil();
+        while (!isNil && children.kept != children.end && children.kept->index < children.value)
+            ++children.kept;
+        const KeptContent::Value* kept = nullptr;
+        if (isNil || (children.kept != children.end && children.kept->index == children.value))
+            kept = children.kept++;
         m_out.append(1, '<').append(tag);
-        std::vector<std::string> declared;
-        if (content.kept != nullptr) {
-            for (const KeptContent::ValueAttribute& value : content.kept->valueAttributes) {
-                if (value.member == number && value.index == index)
-                    writeKeptAttribute(value.attribute, declared);
-            }
+        if (kept != nullptr) {
+            std::vector<std::string> declared;
+            for (const KeptContent::Attribute& attribute : kept->attributes)
+                writeKeptAttribute(attribute, declared);
+        }
+        std::string text;
+        if (!isNil) {
+            member.member->ops->format(*content.object, children.value++, text);
+            if (kept != nullptr && isSpelling(kept->text, text))
+                text = kept->text;
+        }
+        if (isNil && kept->nodes.empty()) {
+            m_out += "/>";
+            return;
         }
         m_out += '>';
-        member.member->ops->format(*content.object, index, m_out);
+        if (kept != nullptr)
+            writeTextAndNodes(tag, text, kept->nodes, false);
+        else
+            addText(tag, text);
         m_out.append("</").append(tag).append(1, '>');
+    }
+
+    /// Whether a text is another spelling of a value of a fundamental type.
+    static bool isSpelling(const std::string& text, const std::string& value)
+    {
+        return (text == "1" && value == "true") || (text == "0" && value == "false");
+    }
+    /// The same for the text of an object.
+    bool isSpelling(const std::string& text, const std::string& value, const TypeIndex& type) const
+    {
+        if (text.empty())
+            return false;
+        const std::unique_ptr<xml_schema::type> object(type.record()->create());
+        std::string formatted;
+        type.record()->text->parse(*object, text, m_declared);
+        type.record()->text->format(*object, formatted, m_declared);
+        return formatted == value;
+    }
+
+    /// Formats the text of an object: as the document spelled it, while it means the same.
+    void format(const xml_schema::type& object, const TypeIndex& type, const KeptContent* kept,
+                std::size_t member, std::string& text) const
+    {
+        type.record()->text->format(object, text, m_declared);
+        if (kept == nullptr || !type.hasSpellings())
+            return;
+        const auto range = keptValues(*kept, member);
+        if (range.first != range.second && isSpelling(range.first->text, text, type))
+            text = range.first->text;
     }
 
     static bool isNilAttribute(const KeptContent::Attribute& attribute)
     {
-        return attribute.uri == xsiUri && attribute.name == "nil";
+        return attribute.is(xsiUri, "nil");
     }
 
     static bool isNil(const KeptContent* kept)
@@ -441,10 +636,16 @@ private:
                 continue;
             }
             m_text.clear();
-            if (member.type == nullptr)
+            if (member.type == nullptr) {
                 ops.format(object, 0, m_text);
-            else
-                member.type->record()->text->format(ops.at(object, 0), m_text, m_declared);
+                if (kept != nullptr && !kept->values.empty()) {
+                    const auto range = keptValues(*kept, i);
+                    if (range.first != range.second && isSpelling(range.first->text, m_text))
+                        m_text = range.first->text;
+                }
+            } else {
+                format(ops.at(object, 0), *member.type, kept, i, m_text);
+            }
             if (member.defaulted >= 0 && m_text == member.member->defaultText &&
                 !KeptContent::isSpelledOut(object, static_cast<unsigned>(member.defaulted)))
                 continue;
@@ -459,8 +660,16 @@ private:
             for (const KeptContent::Attribute& attribute : kept->attributes) {
                 if (isNilAttribute(attribute) && type.hasText() && !isUnsetNil(object, type, kept))
                     continue;
-                const bool isType = attribute.uri == xsiUri && attribute.name == "type";
-                tellsType = tellsType || isType;
+                if (attribute.is(xsiUri, "type")) {
+                    tellsType = true;
+                    const TypeRecord& record = *type.record();
+                    const RawType named(attribute.value);
+                    if (named.local == record.name && !m_declared.means(named.prefix, record.uri)) {
+                        addAttribute(m_declared.qualifierOf(xsiUri) + ":type",
+                                     qualified(record.uri, record.name));
+                        continue;
+                    }
+                }
                 writeKeptAttribute(attribute, declared);
             }
         }
@@ -473,19 +682,20 @@ private:
     /// \param declared prefixes that the element itself has declared so far.
     void writeKeptAttribute(const KeptContent::Attribute& attribute, std::vector<std::string>& declared)
     {
-        if (attribute.uri.empty()) {
+        if (attribute.uri == nullptr) {
             addAttribute(attribute.name, attribute.value);
             return;
         }
+        const std::string& uri = *attribute.uri;
         // The document's own prefix where the root declares it so, else a declared one, else one that means
         // nothing.
         std::string prefix = attribute.prefix;
-        if (!m_declared.declares(prefix, attribute.uri))
-            prefix = m_declared.qualifierOf(attribute.uri);
+        if (!m_declared.means(prefix, uri))
+            prefix = m_declared.qualifierOf(uri);
         if (prefix.empty()) {
-            prefix = m_declared.localPrefix(attribute.prefix, attribute.uri);
+            prefix = m_declared.localPrefix(attribute.prefix, uri);
             if (std::find(declared.begin(), declared.end(), prefix) == declared.end()) {
-                addAttribute("xmlns:" + prefix, attribute.uri);
+                addAttribute("xmlns:" + prefix, uri);
                 declared.push_back(prefix);
             }
         }
@@ -518,6 +728,8 @@ private:
     const SchemaIndex& m_index;
     const xsd::cxx::xml::dom::namespace_infomap<char>& m_namespaces;
     Declarations m_declared;
+    // The scope of the root where that is written as it was read.
+    const KeptContent::Scope* m_scope = nullptr;
     std::string m_out;
     std::string m_text;
     std::unordered_map<TagKey, Tag, TagHash> m_tags;

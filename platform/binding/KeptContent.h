@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -15,13 +16,27 @@ namespace binding {
 class KeptContent
 {
 public:
+    /// Namespace declarations of an element, and of the elements around it.
+    struct Scope
+    {
+        /// Prefix and namespace.
+        std::vector<std::pair<std::string, std::shared_ptr<const std::string>>> declarations;
+        std::shared_ptr<const Scope> outer;
+    };
+
     /// An attribute that the type does not declare, with the prefix that it had.
     struct Attribute
     {
         std::string prefix;
-        std::string uri;
+        /// Shared, since a namespace may be longer than what stands in it; null for none.
+        std::shared_ptr<const std::string> uri;
         std::string name;
         std::string value;
+
+        bool is(std::string_view otherUri, std::string_view otherName) const
+        {
+            return name == otherName && uri != nullptr && *uri == otherUri;
+        }
     };
 
     enum class Kind : std::uint8_t { Text, Comment, Instruction, Element };
@@ -30,19 +45,31 @@ public:
     struct Node
     {
         Kind kind;
-        /// It is written in front of the child element with this number, counted over the children with a
-        /// member.
-        std::uint32_t position;
-        /// Markup as it is written, names and entities included.
-        std::string xml;
-    };
-
-    /// An attribute of an element that is no object, but a value of a fundamental type.
-    struct ValueAttribute
-    {
+        /// It stands behind this many children of this member; children of members that may alternate are
+        /// counted together, under the first of these. In an element with text: behind so many bytes.
         std::uint16_t member;
         std::uint32_t index;
-        Attribute attribute;
+        /// Markup as it is written, names and entities included.
+        std::string xml;
+        /// Of an element: what its prefixes mean.
+        std::shared_ptr<const Scope> scope;
+    };
+
+    /// What a document said about a value that is no object of its own: a child of a fundamental type, an
+    /// attribute, or the object's own text.
+    struct Value
+    {
+        static constexpr std::uint16_t ownText = 0xFFFF;
+
+        std::uint16_t member = ownText;
+        /// A value that is nil has no place in the member; only this tells that it is there.
+        bool isNil = false;
+        /// Number of the value in the member; of a nil value the number of values in front of it.
+        std::uint32_t index = 0;
+        std::vector<Attribute> attributes;
+        std::vector<Node> nodes;
+        /// The text, where one value can be spelled in several ways; else empty.
+        std::string text;
     };
 
     /// What belongs to the document as a whole; kept with its root.
@@ -50,6 +77,9 @@ public:
     {
         /// Prefix and namespace of each declaration.
         std::vector<std::pair<std::string, std::string>> namespaces;
+        /// The same as content of the root sees it. Null where the root is not written back with the
+        /// namespaces that it had.
+        std::shared_ptr<const Scope> scope;
         /// Namespace and location, as pairs.
         std::vector<std::pair<std::string, std::string>> schemaLocations;
         bool hasSchemaLocation = false;
@@ -59,8 +89,10 @@ public:
     };
 
     std::vector<Attribute> attributes;
+    /// In the order of their places.
     std::vector<Node> nodes;
-    std::vector<ValueAttribute> valueAttributes;
+    /// In the order of their members and numbers.
+    std::vector<Value> values;
     /// Members of the children in repeated particles in the order of the document, where that alternates.
     std::vector<std::uint16_t> order;
     std::shared_ptr<Document> document;

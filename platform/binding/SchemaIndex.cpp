@@ -1,5 +1,7 @@
 #include "platform/binding/SchemaIndex.h"
 
+#include "platform/binding/TextValues.h"
+
 #include <algorithm>
 
 namespace citygml {
@@ -13,6 +15,20 @@ std::string keyOf(std::string_view uri, std::string_view name)
     key.reserve(uri.size() + name.size() + 1);
     key.append(name).append(1, ' ').append(uri);
     return key;
+}
+
+/// Whether values of the kind have several texts besides those of a number: `1` is `true`, `+00:00` is `Z`.
+bool areSpelledVariously(const TextOps* text)
+{
+    using Boolean = xsd::cxx::tree::fundamental_base<bool, char, xml_schema::simple_type>;
+    for (const TextOps* kind :
+         {&textOps<Boolean>, &textOps<xml_schema::date>, &textOps<xml_schema::date_time>,
+          &textOps<xml_schema::time>, &textOps<xml_schema::duration>, &textOps<xml_schema::gyear>,
+          &textOps<xml_schema::gyear_month>}) {
+        if (text == kind)
+            return true;
+    }
+    return false;
 }
 
 } // namespace
@@ -82,6 +98,7 @@ const TypeIndex* SchemaIndex::indexType(const TypeRecord* record)
     type.m_record = record;
     type.m_base = base;
     type.m_mixed = record->isMixed || (base != nullptr && base->m_mixed);
+    type.m_hasSpellings = areSpelledVariously(record->text);
 
     std::vector<TypeIndex::FlatMember> elements, attributes;
     int groups = 0;
@@ -96,13 +113,16 @@ const TypeIndex* SchemaIndex::indexType(const TypeRecord* record)
         const Member& member = record->members[i];
         auto& list = member.isAttribute ? attributes : elements;
         list.push_back({&member, addName(member.uri, member.name), nullptr,
-                        member.group != 0 ? groups + member.group : 0, -1, -1});
+                        member.group != 0 ? groups + member.group : 0, 0, -1, -1});
     }
     type.m_elementCount = elements.size();
     type.m_members = std::move(elements);
     type.m_members.insert(type.m_members.end(), attributes.begin(), attributes.end());
     int defaulted = 0;
-    for (TypeIndex::FlatMember& member : type.m_members) {
+    for (std::size_t i = 0; i < type.m_members.size(); ++i) {
+        TypeIndex::FlatMember& member = type.m_members[i];
+        const bool alternates = i != 0 && member.group != 0 && type.m_members[i - 1].group == member.group;
+        member.place = alternates ? type.m_members[i - 1].place : static_cast<int>(i);
         member.required = member.member->isRequired ? type.m_requiredCount++ : -1;
         member.defaulted = member.member->defaultText != nullptr ? defaulted++ : -1;
     }

@@ -44,6 +44,8 @@ public:
         const TypeIndex* type;
         /// Number that tells the repeated particles of all bases apart; 0 for none.
         int group;
+        /// Number of the first member that it may alternate with, else its own.
+        int place;
         /// Place among the required members, or -1.
         int required;
         /// Place among the attributes with a default or fixed value, or -1.
@@ -57,6 +59,8 @@ public:
     int requiredCount() const { return m_requiredCount; }
     bool hasText() const { return m_record->text != nullptr; }
     bool isMixed() const { return m_mixed; }
+    /// Whether one value of the type's text can be spelled in several ways, other than a number.
+    bool hasSpellings() const { return m_hasSpellings; }
     bool isDerivedFrom(const TypeIndex* other) const;
 
     /// Member of an attribute, or null.
@@ -71,6 +75,7 @@ private:
     std::size_t m_elementCount = 0;
     int m_requiredCount = 0;
     bool m_mixed = false;
+    bool m_hasSpellings = false;
     // By name: 0 not looked up yet, else one more than a number in m_found.
     mutable std::vector<std::uint16_t> m_places;
     mutable std::deque<Place> m_found;
