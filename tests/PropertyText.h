@@ -46,6 +46,7 @@ private:
                "xmlns:xlink='http://www.w3.org/1999/xlink' "
                "xmlns:xAL='urn:oasis:names:tc:ciq:xsdschema:xAL:2.0' "
                "xmlns:bldg='http://www.opengis.net/citygml/building/2.0' "
+               "xmlns:brid='http://www.opengis.net/citygml/bridge/2.0' "
                "xmlns:dem='http://www.opengis.net/citygml/relief/2.0' "
                "xmlns:frn='http://www.opengis.net/citygml/cityfurniture/2.0' "
                "xmlns:gen='http://www.opengis.net/citygml/generics/2.0' "

@@ -66,6 +66,34 @@ second	line \ end</gen:value>
 </core:CityModel>
 )";
 
+const QByteArray momentsText =
+    "<core:CityModel xmlns:core='http://www.opengis.net/citygml/2.0' xmlns:gml='http://www.opengis.net/gml' "
+    "xmlns:energy='http://www.sig3d.org/citygml/2.0/energy/1.0' xmlns:ladmfr='urn:tolvik:citygml:ladmfr:1.0'>"
+    R"(
+  <core:cityObjectMember>
+    <ladmfr:LA_Right gml:id="right"/>
+  </core:cityObjectMember>
+  <core:cityObjectMember>
+    <energy:EnergyDemand gml:id="demand">
+      <energy:energyAmount>
+        <energy:RegularTimeSeries>
+          <energy:variableProperties/>
+          <energy:temporalExtent>
+            <gml:TimePeriod>
+              <gml:beginPosition>2020-01-01</gml:beginPosition>
+              <gml:duration>P1Y2M3D</gml:duration>
+            </gml:TimePeriod>
+          </energy:temporalExtent>
+          <energy:timeInterval unit="hour">1</energy:timeInterval>
+          <energy:values uom="kWh">12.5</energy:values>
+        </energy:RegularTimeSeries>
+      </energy:energyAmount>
+      <energy:endUse>Cooking</energy:endUse>
+    </energy:EnergyDemand>
+  </core:cityObjectMember>
+</core:CityModel>
+)";
+
 struct Result
 {
     int code;
@@ -271,10 +299,20 @@ private slots:
         row("negative count", "Fields/StoreysAboveGround", "-1");
         row("number beyond 32 bits", "Fields/long", "6000000000");
         row("no date", "Fields/CreationDate", "2020-02-30");
+        row("no date at all", "Fields/CreationDate", "");
+        row("text behind a date", "Fields/CreationDate", "2020-02-28 or so");
+        row("date with a time", "Fields/CreationDate", "2020-02-28T12:00:00");
+        row("date with a zone", "Fields/CreationDate", "2020-02-28Z");
         row("no literal", "Fields/RelativeToTerrain", "EntirelyAboveTerrain");
         row("no truth value", "Properties/Energy/isLandmarked", "yes");
         row("position", "Fields/Envelope/LowerCorner", "[4, 5, 6]");
         row("any simple type", "Fields/Address/Usage", "parcels");
+        row("nothing in a list", "Fields/Function", "[null]");
+        row("list in a list", "Fields/Function", "[[\"1\"]]");
+        row("object in a list", "Fields/Function", "[{\"1\": \"2\"}]");
+        row("blank in a list of numbers", "Fields/StoreyHeightsAboveGround", "[\"3 4\"]");
+        row("nothing in a list of numbers", "Fields/StoreyHeightsAboveGround", "[\"\"]");
+        row("blank in an absent list of numbers", "Fields/StoreyHeightsBelowGround", "[\"3 4\"]");
     }
 
     void refusals()
@@ -287,6 +325,71 @@ private slots:
         QVERIFY(result.err.startsWith("tolvik-inspect: "));
         QCOMPARE(result.err.count('\n'), 1);
         QVERIFY(!QFile::exists(path("out.gml")));
+    }
+
+    /// What is refused when the document is written leaves no file either.
+    void textThatXmlCannotHold()
+    {
+        const Result result = inspect(
+            {"set", path("in.gml"), "--id", "b", "Fields/a/b", QString("a") + QChar(1), path("out.gml")});
+        QCOMPARE(result.code, 1);
+        QVERIFY2(result.err.contains("'gen:value' holds a character that XML cannot hold"), result.err);
+        QVERIFY2(result.err.endsWith("out.gml could not be saved: the document cannot be written\n"),
+                 result.err);
+        QVERIFY(!QFile::exists(path("out.gml")));
+    }
+
+    void savesOverTheDocumentItself()
+    {
+        QVERIFY(QFile::copy(path("in.gml"), path("out.gml")));
+        QCOMPARE(
+            inspect({"set", path("out.gml"), "--id", "b", "Fields/MeasuredHeight", "high", path("out.gml")})
+                .code,
+            1);
+        QCOMPARE(read(path("out.gml")), documentText);
+        QCOMPARE(inspect({"set", path("out.gml"), "--id", "b", "Fields/MeasuredHeight", "7", path("out.gml")})
+                     .code,
+                 0);
+        QCOMPARE(read(path("out.gml")), read(path("plain.gml")).replace(">12.5<", ">7<"));
+    }
+
+    void moments_data()
+    {
+        QTest::addColumn<QString>("property");
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<QByteArray>("written");
+        const auto row = [](const char* name, const QString& property, const QString& value,
+                            const QByteArray& written) {
+            QTest::newRow(name) << property << value << written;
+        };
+        row("moment", "Properties/Foncier/timeSpec", "2020-02-28T12:30:01", ">2020-02-28T12:30:01<");
+        // These would be lost.
+        row("zone", "Properties/Foncier/timeSpec", "2020-02-28T12:30:01Z", QByteArray());
+        row("fraction", "Properties/Foncier/timeSpec", "2020-02-28T12:30:01.5", QByteArray());
+        row("no moment", "Properties/Foncier/timeSpec", "2020-02-30T12:30:01", QByteArray());
+        // An edit removes a length of time.
+        row("duration", "Properties/Energy/energyAmount/temporalExtent/duration", "0001-02-03T00:00:00",
+            QByteArray());
+    }
+
+    void moments()
+    {
+        QFETCH(QString, property);
+        QFETCH(QString, value);
+        QFETCH(QByteArray, written);
+        QFile file(path("moments.gml"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(momentsText);
+        file.close();
+        const QString id = property.contains("Energy") ? "demand" : "right";
+        const Result shown = inspect({"properties", path("moments.gml"), "--id", id, "--absent"});
+        QVERIFY2(shown.out.contains(' ' + property.section('/', -1).toUtf8() + ':'), shown.out.constData());
+        const Result result =
+            inspect({"set", path("moments.gml"), "--id", id, property, value, path("out.gml")});
+        QCOMPARE(result.code, written.isEmpty() ? 1 : 0);
+        QCOMPARE(result.err.count('\n'), result.code);
+        QCOMPARE(QFile::exists(path("out.gml")), !written.isEmpty());
+        QVERIFY(written.isEmpty() || read(path("out.gml")).contains(written));
     }
 
     /// Features without an identifier share a name inside the model, which is none of theirs.

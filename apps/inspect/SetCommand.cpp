@@ -62,11 +62,20 @@ CoreProperty* findBelow(const CoreProperty& parent, const QStringRef& path)
     return nullptr;
 }
 
-/// The entries of a list: those of a JSON array, or the text as the only one.
-QVariantList listFromText(const QString& text)
+/// The entries of a list: those of a JSON array, or the text as the only one. An entry is a text, a number or
+/// a truth value.
+/// \param fits becomes false if one is something else
+QVariantList listFromText(const QString& text, bool& fits)
 {
     const QJsonDocument document = QJsonDocument::fromJson(text.toUtf8());
-    return document.isArray() ? document.array().toVariantList() : QVariantList{text};
+    if (!document.isArray()) {
+        return {text};
+    }
+    const QJsonArray array = document.array();
+    fits = std::none_of(array.begin(), array.end(), [](const QJsonValue& entry) {
+        return entry.isNull() || entry.isArray() || entry.isObject();
+    });
+    return array.toVariantList();
 }
 
 /// A text as a value of the kind that the property has. Invalid if it is none.
@@ -89,21 +98,31 @@ QVariant valueFromText(const QString& text, const QVariant& example)
         fits = text == QLatin1String("true") || text == QLatin1String("false");
         value = text == QLatin1String("true");
         break;
+    // Qt reads no further than a date goes, so that it is compared with the whole text.
     case QMetaType::QDate:
         value = QDate::fromString(text, Qt::ISODate);
-        fits = value.toDate().isValid();
+        fits = value.toDate().isValid() && value.toDate().toString(Qt::ISODate) == text;
         break;
     case QMetaType::QDateTime:
         value = QDateTime::fromString(text, Qt::ISODate);
-        fits = value.toDateTime().isValid();
+        fits = value.toDateTime().isValid() && value.toDateTime().toString(Qt::ISODate) == text;
         break;
     case QMetaType::QVariantList:
-        value = listFromText(text);
+        value = listFromText(text, fits);
         break;
     default:
         value = text;
     }
     return fits ? value : QVariant();
+}
+
+/// Whether each entry of a list can stand in a text that holds them all, with blanks between them.
+bool areWords(const QVariantList& entries)
+{
+    return std::all_of(entries.begin(), entries.end(), [](const QVariant& entry) {
+        const QString text = entry.toString();
+        return !text.isEmpty() && std::none_of(text.begin(), text.end(), [](QChar c) { return c.isSpace(); });
+    });
 }
 
 /// Whether the document now says what was asked for.
@@ -137,7 +156,11 @@ void edit(CoreProperty& property, const QString& text)
     const QVariant value = literals.isEmpty()
                                ? valueFromText(text, current.isValid() ? current : property.defaultValue())
                                : QVariant(text);
-    if (!value.isValid() || (!literals.isEmpty() && !literals.contains(value))) {
+    // A list of numbers is one text of the document. It has a unit, or it is absent, where a list of texts
+    // would have no property.
+    const bool isOneText = property.unit() != nullptr || current.toList().isEmpty();
+    if (!value.isValid() || (!literals.isEmpty() && !literals.contains(value)) ||
+        (value.userType() == QMetaType::QVariantList && isOneText && !areWords(value.toList()))) {
         throw EditError(QStringLiteral("%1 cannot be \"%2\"").arg(property.name(), text));
     }
     property.setValue(value);
