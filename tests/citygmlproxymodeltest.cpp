@@ -333,10 +333,14 @@ private slots:
         model->dataSetChanged();
         QCOMPARE(recorder.take(), QStringList());
 
+        const RefPtr<TreeNode> former = tree.treeNode(other->getFeature(1));
         other.reset();
         QCOMPARE(recorder.take(), rebuild);
         QCOMPARE(tree.rowCount(), 0);
         QVERIFY(tree.cityGML() == nullptr);
+        // The nodes go with the features that they stand for.
+        QVERIFY(tree.nodeMap.empty());
+        QCOMPARE(former->referenceCount(), 1);
         tree.setTraversalVisitor(new CityGMLProxyModelTraverseAllVisitor);
         QCOMPARE(recorder.take(), QStringList());
 
@@ -346,6 +350,7 @@ private slots:
         tree.setSourceModel(nullptr);
         QCOMPARE(recorder.take(), rebuild);
         QCOMPARE(tree.rowCount(), 0);
+        QVERIFY(tree.nodeMap.empty());
     }
 
     void nodesAreNotReadBehindAReset()

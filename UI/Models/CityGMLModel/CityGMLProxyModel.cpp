@@ -321,6 +321,14 @@ QModelIndex CityGMLProxyModel::index(int row, int column, TreeNode* node) const
     return TreeNodeProxyModel::index(row, column, node);
 }
 
+void CityGMLProxyModel::endResetModel()
+{
+    if (source == nullptr) {
+        nodeMap.clear();
+    }
+    TreeNodeProxyModel::endResetModel();
+}
+
 QModelIndex CityGMLProxyModel::index(gml::AbstractFeatureType* feature) const
 {
     if (source == nullptr || feature == nullptr) {

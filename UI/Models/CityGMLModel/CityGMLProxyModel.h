@@ -115,6 +115,9 @@ protected slots:
 
 protected:
     QModelIndex index(int row, int column, TreeNode* node) const override;
+
+    /// A reset without a source drops the node map, too: its features may be gone.
+    void endResetModel() override;
     bool isDisabled(TreeNode* node) const override;
 
     /// The indexes of all nodes of the row's feature, the oldest first.
