@@ -1,5 +1,6 @@
 #include "CityGMLModelFixture.h"
 #include "framework/PropertyProvider.h"
+#include "gml/StringOrRefType.hxx"
 #include "SignalRecorder.h"
 
 #include <memory>
@@ -432,6 +433,29 @@ private slots:
         QCOMPARE(provider->rows, QList<int>({1}));
         QVERIFY(before->getProperty("of the host", false) == nullptr);
         QVERIFY(after->getProperty("of the host", false) != nullptr);
+    }
+
+    void rebuildingShowsWhatTheDocumentHasThen()
+    {
+        OpenModel model;
+        model.loadText(town(1));
+        const QModelIndex index = model.index(1, 0);
+        const auto description = [&] {
+            return model.getProperty(index)->getProperty("Fields", false)->getProperty("Description", false);
+        };
+        QVERIFY(description() == nullptr);
+        model.getFeature(1)->description(gml::StringOrRefType("large"));
+        model.propertyChanged(index, false);
+        QVERIFY(description() == nullptr);
+        model.propertyChanged(index, true);
+        QVERIFY(description() != nullptr);
+        QCOMPARE(description()->value(), QVariant("large"));
+        // Attributes that are absent have no property.
+        QVERIFY(model.getProperty(index)->getProperty("Fields", false)->getProperty("CreationDate", false) ==
+                nullptr);
+        model.getFeature(1)->description().reset();
+        model.propertyChanged(index, true);
+        QVERIFY(description() == nullptr);
     }
 
     void propertyChangedOfAnInvalidIndexDoesNothing()

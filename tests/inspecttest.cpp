@@ -401,16 +401,30 @@ private slots:
 
         const QJsonArray roots =
             QJsonDocument::fromJson(inspect({"tree", path("town.gml"), "--json"}).out).array();
-        QCOMPARE(roots.size(), 1);
-        const QJsonObject building = roots[0].toObject().value("children").toArray()[0].toObject();
-        QCOMPARE(building.value("id").toString(), QString("house"));
-        QCOMPARE(building.value("row").toInt(), 1);
+        const auto node = [](const char* name, const char* type, int row, const QJsonValue& id,
+                             const QJsonArray& children) {
+            return QJsonObject{{"name", QString::fromUtf8(name)},
+                               {"type", type},
+                               {"row", row},
+                               {"id", id},
+                               {"children", children}};
+        };
+        const QJsonObject door = node("Door", "Door", 3, QJsonValue(), {});
+        const QJsonObject wall = node("Wall", "WallSurface", 2, "wall", {door});
+        const QJsonObject house = node("Old\n        house", "Building", 1, "house", {wall});
+        QCOMPARE(roots, QJsonArray{node("Gänsemarkt \"alt\"", "CityModel", 0, QJsonValue(), {house})});
     }
 
     void treeLeavesAppearancesOut()
     {
-        QVERIFY(!inspect({"tree", district}).out.contains("[Appearance]"));
-        QVERIFY(inspect({"tree", district, "--all"}).out.contains("[Appearance]"));
+        for (const QStringList& form : {QStringList(), QStringList("--json")}) {
+            const QByteArray plain = inspect(QStringList{"tree", district} + form).out;
+            const QByteArray all = inspect(QStringList{"tree", district, "--all"} + form).out;
+            const QByteArray appearance = form.isEmpty() ? "[Appearance]" : "\"type\":\"Appearance\"";
+            QVERIFY(plain.contains(form.isEmpty() ? "[Building]" : "\"type\":\"Building\""));
+            QVERIFY(!plain.contains(appearance));
+            QVERIFY(all.contains(appearance));
+        }
     }
 
     void showsProperties()
