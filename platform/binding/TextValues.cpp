@@ -76,9 +76,11 @@ void formatReal(T value, std::string& text)
         text += value < 0 ? "-INF" : "INF";
         return;
     }
-    // Written without an exponent in the range in which people write numbers so.
+    // Written without an exponent in the range in which people write numbers so. Beyond it whole numbers would
+    // be written with digits that do not tell them apart.
+    constexpr T largest = std::is_same_v<T, float> ? T(1e7) : T(1e15);
     const T size = std::fabs(value);
-    const bool plain = value == 0 || (size >= T(1e-6) && size < T(1e17));
+    const bool plain = value == 0 || (size >= T(1e-6) && size < largest);
     char buffer[64];
     const auto result = std::to_chars(buffer, buffer + sizeof(buffer), value,
                                       plain ? std::chars_format::fixed : std::chars_format::scientific);
