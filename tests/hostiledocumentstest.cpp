@@ -6,6 +6,8 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <sys/resource.h>
+
 namespace {
 
 QByteArray nested(const QByteArray& tag, int depth)
@@ -38,6 +40,25 @@ QByteArray entityBomb(int levels)
     }
     return cityModel(namedBuilding("b1", "&e" + QByteArray::number(levels) + ';'))
         .replace("<CityModel", doctype + "]>\n<CityModel");
+}
+
+/// A document type gives each of many elements an attribute of its own making.
+QByteArray attributeBomb(int elements)
+{
+    return cityModel(building("b1", QByteArray("<e/>").repeated(elements)))
+        .replace("<CityModel",
+                 "<!DOCTYPE CityModel [<!ATTLIST e a CDATA '" + QByteArray(100000, 'x') + "'>]>\n<CityModel");
+}
+
+/// An element that declares many prefixes.
+QByteArray declarations(int count)
+{
+    QByteArray element = "<e";
+    for (int i = 0; i < count; ++i) {
+        const QByteArray number = QByteArray::number(i);
+        element += " xmlns:p" + number + "='urn:" + number + '\'';
+    }
+    return cityModel(building("b1", element + "/>"));
 }
 
 QByteArray withDoctype(const QByteArray& doctype, const QByteArray& name)
@@ -113,6 +134,8 @@ private slots:
         QTest::newRow("entity that names itself")
             << withDoctype("<!DOCTYPE CityModel [<!ENTITY e \"&e;\">]>", "&e;") << "entity";
         QTest::newRow("entity bomb") << entityBomb(9) << "amplification";
+        QTest::newRow("attribute bomb") << attributeBomb(10000) << "too many values to attributes";
+        QTest::newRow("1,000 prefixes") << declarations(1000) << "more than 1000 namespace declarations";
         QTest::newRow("100,000 deep, unknown elements")
             << cityModel(building("b1", nested("deep", 100000))) << "nested deeper than 512";
         QTest::newRow("100,000 deep, known elements")
@@ -193,6 +216,37 @@ private slots:
             withDoctype("<!DOCTYPE CityModel [<!ENTITY street \"Main &amp; Side\">]>", "&street; &#x41;"));
         QCOMPARE(log.take(), QStringList());
         QCOMPARE(model.names(), QStringList({"<unset>", "Main & Side A"}));
+    }
+
+    void harmlessAttributeValues()
+    {
+        LogCapture log;
+        OpenModel model;
+        model.loadText(
+            withDoctype("<!DOCTYPE CityModel [<!ATTLIST bldg:Building x CDATA 'from the type'>]>", "name"));
+        QCOMPARE(log.take(), QStringList());
+        QCOMPARE(model.rowCount(), 2);
+        model.loadText(declarations(900));
+        QCOMPARE(log.take(), QStringList());
+        QCOMPARE(model.rowCount(), 2);
+    }
+
+    // What many small elements share is not kept with each of them.
+    void aLongNamespaceTakesItsRoomOnce()
+    {
+        const QByteArray uri = "urn:" + QByteArray(1 << 20, 'u');
+        const QByteArray document =
+            cityModel(building("b1", QByteArray("<gml:name x:a=''>n</gml:name><x:e/>").repeated(20000)))
+                .replace("xmlns:gml", "xmlns:x='" + uri + "' xmlns:gml");
+        LogCapture log;
+        OpenModel model;
+        model.loadText(document);
+        QCOMPARE(log.take(), QStringList());
+        QCOMPARE(model.rowCount(), 2);
+        // Twenty thousand copies would be 20 GB.
+        struct rusage usage = {};
+        QCOMPARE(getrusage(RUSAGE_SELF, &usage), 0);
+        QVERIFY2(usage.ru_maxrss < 2 << 20, qPrintable(QString::number(usage.ru_maxrss)));
     }
 
     void everyTruncationIsRefused()
