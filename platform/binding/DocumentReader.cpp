@@ -562,6 +562,9 @@ private:
             const Place& place = m_index.place(*parent.type, id);
             if (place.member >= 0 && startChild(parent, place, id, attributes))
                 return;
+            // One too many of a member must not come in front of the others.
+            m_rawPlace =
+                place.member >= 0 ? parent.type->members()[static_cast<std::size_t>(place.member)].place : -1;
         }
         count("element", name);
         startRaw(name, attributes);
@@ -765,10 +768,8 @@ private:
         const RawName raw(name);
         if (isXsi(raw, "nil"))
             frame.isNil = isTrue(value);
-        if (isXsi(raw, "schemaLocation") && frame.object == m_root.get()) {
-            readSchemaLocation(value);
+        if (isXsi(raw, "schemaLocation") && frame.object == m_root.get() && readSchemaLocation(value))
             return;
-        }
         count("attribute", name);
         KeptContent::of(*frame.object).attributes.push_back(attributeOf(raw, value));
     }
@@ -817,16 +818,21 @@ private:
         }
     }
 
-    void readSchemaLocation(std::string_view text)
+    /// \return false where the text is not made of pairs, so that nothing can be joined to it.
+    bool readSchemaLocation(std::string_view text)
     {
-        m_document->hasSchemaLocation = true;
+        std::vector<std::pair<std::string, std::string>> locations;
         std::string_view uri, location;
         while (nextWord(text, uri)) {
-            nextWord(text, location);
+            if (!nextWord(text, location))
+                return false;
             const Uri declared = std::make_shared<const std::string>(uri);
             if (!m_isOlder || m_scopes.newer(declared) == declared)
-                m_document->schemaLocations.emplace_back(uri, location);
+                locations.emplace_back(uri, location);
         }
+        m_document->hasSchemaLocation = true;
+        m_document->schemaLocations.swap(locations);
+        return true;
     }
 
     void checkLiteral(const xml_schema::type& object, const TypeIndex& type) const
@@ -979,8 +985,12 @@ private:
               std::shared_ptr<const KeptContent::Scope> scope = nullptr)
     {
         const bool hasText = frame.mode != Mode::Children;
-        const auto index = hasText ? static_cast<std::uint32_t>(m_text.size()) : frame.children;
-        const auto member = static_cast<std::uint16_t>(hasText || frame.member < 0 ? 0 : frame.member);
+        auto index = hasText ? static_cast<std::uint32_t>(m_text.size()) : frame.children;
+        auto member = static_cast<std::uint16_t>(hasText || frame.member < 0 ? 0 : frame.member);
+        if (kind == KeptContent::Kind::Element && !hasText && member < m_rawPlace) {
+            member = static_cast<std::uint16_t>(m_rawPlace);
+            index = ~0u;
+        }
         auto& nodes =
             frame.mode == Mode::Value ? keptValue(frame).nodes : KeptContent::of(*frame.object).nodes;
         nodes.push_back({kind, member, index, std::move(xml), std::move(scope)});
@@ -1061,6 +1071,8 @@ private:
     std::string m_raw;
     std::size_t m_rawDepth = 0;
     std::shared_ptr<const KeptContent::Scope> m_rawScope;
+    // Place of the member that had no room for it, or -1.
+    int m_rawPlace = -1;
     // Markup in front of the root.
     std::vector<std::string> m_outside;
     bool m_rootEnded = false;
