@@ -1,9 +1,11 @@
 #include "SyntheticCity.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
 #include <initializer_list>
+#include <iterator>
 #include <ostream>
 #include <string>
 #include <string_view>
@@ -68,7 +70,8 @@ std::string identifier(const char* kind, int building)
     return std::string(kind) + '_' + std::to_string(building);
 }
 
-/// XML, a tag or a text element a line. Texts and values are written as they are: none here holds markup.
+/// XML, a tag or a text element a line, indented as documents of this kind are. Texts and values are written as
+/// they are: none here holds markup.
 class Xml
 {
 public:
@@ -80,9 +83,15 @@ public:
     {
         startTag(name, attributes);
         stream << ">\n";
+        ++depth;
     }
 
-    void close(std::string_view name) { stream << "</" << name << ">\n"; }
+    void close(std::string_view name)
+    {
+        --depth;
+        indent();
+        stream << "</" << name << ">\n";
+    }
 
     void leaf(std::string_view name, std::string_view text, Attributes attributes = {})
     {
@@ -109,13 +118,17 @@ public:
 private:
     void startTag(std::string_view name, Attributes attributes)
     {
+        indent();
         stream << '<' << name;
         for (const auto& [attribute, value] : attributes) {
             stream << ' ' << attribute << "=\"" << value << '"';
         }
     }
 
+    void indent() { std::fill_n(std::ostreambuf_iterator<char>(stream), 2 * depth, ' '); }
+
     std::ostream& stream;
+    int depth = 0;
 };
 
 struct Box

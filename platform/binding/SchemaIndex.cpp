@@ -74,7 +74,6 @@ SchemaIndex::SchemaIndex() : m_names(1)
     for (TypeIndex& type : m_types) {
         for (TypeIndex::FlatMember& member : type.m_members)
             member.type = member.member->type != nullptr ? m_typeOfRecord.at(member.member->type) : nullptr;
-        type.m_places.assign(m_names.size(), 0);
     }
 }
 
@@ -154,6 +153,9 @@ const TypeIndex* SchemaIndex::findType(std::string_view uri, std::string_view na
 
 const Place& SchemaIndex::place(const TypeIndex& type, NameId name) const
 {
+    // Of all types, a document has few.
+    if (type.m_places.empty())
+        type.m_places.resize(m_names.size());
     std::uint16_t& number = type.m_places[name];
     if (number == 0) {
         type.m_found.push_back(name != 0 ? findPlace(type, name) : Place());
