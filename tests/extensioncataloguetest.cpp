@@ -1,7 +1,9 @@
 #include "component/OpeningComponentTypeType.hxx"
 #include "energy/ThermalBoundaryType.hxx"
+#include "frn/CityFurnitureType.hxx"
 #include "gen/StringAttributeType.hxx"
 #include "pivotEnergy/poly_density.hxx"
+#include "PropertyDump.h"
 #include "PropertyText.h"
 
 #include <QtTest>
@@ -29,6 +31,32 @@ QString textWithAttributeBehind(const QByteArrayList& features)
     }
     attribute.accept(&creator);
     return treeText(*root);
+}
+
+// Two private functions are called by nothing. An explicit instantiation may name them.
+void showAttributes(GmlCorePropertyCreator& creator, energy::ThermalBoundaryType& boundary);
+void showAttributes(GmlCorePropertyCreator& creator, frn::CityFurnitureType& furniture);
+
+template <class T, void (GmlCorePropertyCreator::*function)(T*)>
+struct UncalledFunction
+{
+    friend void showAttributes(GmlCorePropertyCreator& creator, T& object) { (creator.*function)(&object); }
+};
+
+template struct UncalledFunction<energy::ThermalBoundaryType,
+                                 &GmlCorePropertyCreator::visit_thermalBoundary_genericProperties>;
+template struct UncalledFunction<frn::CityFurnitureType,
+                                 &GmlCorePropertyCreator::visit_cityFurniture_genericProperties>;
+
+/// What such a function shows of a feature.
+template <class T>
+QString attributesText(const QByteArray& feature)
+{
+    Document document(feature);
+    GmlCorePropertyCreator creator;
+    const Fondo::RefPtr<CoreProperty> root = creator.getProperty();
+    showAttributes(creator, dynamic_cast<T&>(document.feature()));
+    return propertydump::dump(*root);
 }
 
 const QByteArray genericAttribute =
@@ -266,15 +294,41 @@ private slots:
             "pivotEnergy:insulationTypeEnumeration>"
             "<pivotEnergy:refurbishementOpportunity>true</pivotEnergy:refurbishementOpportunity>"
             "</energy:ThermalBoundary>";
-        QVERIFY(dynamic_cast<energy::ThermalBoundaryType&>(Document(boundary).feature())
-                    ._GenericApplicationPropertyOfThermalBoundary()
-                    .size() == 3);
         QCOMPARE(treeText(boundary), QString("Properties\n"
                                              "  Energy\n"
                                              "    thermalBoundaryType: Roof\n"
                                              "Fields\n"
                                              "  ClassType: ThermalBoundary\n"));
         QVERIFY(!treeText(boundary, false).contains("pivotEnergy"));
+
+        const auto expected = [](const QString& label, const QString& type, const QString& value) {
+            return "      " + label + " = QString " + value +
+                   " by GmlEnumGenericApplicationAttributeProperty<" + type + ", " + type + "> of " +
+                   propertydump::dumpValue(expectedproperties::ValueType::literals().value(type)) + '\n';
+        };
+        QCOMPARE(attributesText<energy::ThermalBoundaryType>(boundary),
+                 " = -\n"
+                 "  Properties = -\n"
+                 "    pivotEnergy = -\n" +
+                     expected("boundaryContext", "pivotEnergy::BoundaryContextType", "OnStreet") +
+                     expected("insulationTypeEnumeration", "pivotEnergy::InsulationTypeEnumerationType",
+                              "NoThermalInsulation") +
+                     "      refurbishementOpportunity = bool true by GmlGenericApplicationAttributeProperty<"
+                     "pivotEnergy::poly_refurbishementOpportunity, bool> default bool false\n");
+    }
+
+    void cityFurnitureDoesNotShowItsExtension()
+    {
+        const QByteArray furniture =
+            "<frn:CityFurniture><epadesa:cityFurnitureType>bench</epadesa:cityFurnitureType>"
+            "</frn:CityFurniture>";
+        QCOMPARE(treeText(furniture), QString("Fields\n  ClassType: CityFurniture\n"));
+        QCOMPARE(attributesText<frn::CityFurnitureType>(furniture),
+                 QString(" = -\n"
+                         "  Properties = -\n"
+                         "    Epadesa = -\n"
+                         "      cityFurnitureType = QString bench by GmlGenericApplicationAttributeProperty<"
+                         "epadesa::poly_cityFurnitureType, string> default QString \n"));
     }
 
     /// The carrier of an energy is entered with the element around it, which shows nothing.
