@@ -42,9 +42,14 @@ inline QString classOf(const CoreProperty& property)
     if (typeid(property) == typeid(CoreProperty)) {
         return QString();
     }
+    static QHash<const char*, QString> known;
+    const char* const symbol = typeid(property).name();
+    if (const auto found = known.constFind(symbol); found != known.constEnd()) {
+        return *found;
+    }
     int status = 0;
     const std::unique_ptr<char, void (*)(void*)> text(
-        abi::__cxa_demangle(typeid(property).name(), nullptr, nullptr, &status), &std::free);
+        abi::__cxa_demangle(symbol, nullptr, nullptr, &status), &std::free);
     QString name = QString::fromLatin1(text.get()).remove("tolvik::").remove("xsd::cxx::tree::");
     name.replace(" >", ">")
         .remove(", false>")
@@ -53,7 +58,7 @@ inline QString classOf(const CoreProperty& property)
     name.replace(QRegularExpression("\\b(string|uri|date|date_time|duration|gyear)<char, simple_type>"),
                  "\\1");
     // The parameter that was removed had one bracket with it.
-    return name + QString(">").repeated(name.count('<') - name.count('>'));
+    return *known.insert(symbol, name + QString(">").repeated(name.count('<') - name.count('>')));
 }
 
 inline QString dumpLine(const QString& label, const QString& type, const QVariant& value, const QString& unit,

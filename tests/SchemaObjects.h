@@ -188,7 +188,20 @@ private:
     }
 
     /// The classes of which a member gets an object each.
-    QVector<const TypeRecord*> typesOf(const Member& member)
+    QVector<const TypeRecord*> typesOf(const Member& member) const
+    {
+        static QHash<const Member*, QVector<const TypeRecord*>> known;
+        auto found = known.constFind(&member);
+        if (found == known.constEnd()) {
+            found = known.insert(&member, possibleTypesOf(member));
+        }
+        if (member.ops->single && found->size() > 1) {
+            return {found->at(counter % found->size())};
+        }
+        return *found;
+    }
+
+    static QVector<const TypeRecord*> possibleTypesOf(const Member& member)
     {
         QVector<const TypeRecord*> types;
         if (member.type == recordByClass("xml_schema::type")) {
@@ -204,9 +217,6 @@ private:
             if (!member.ops->single) {
                 types += member.type;
             }
-        }
-        if (member.ops->single && types.size() > 1) {
-            types = {types.at(counter % types.size())};
         }
         return types;
     }
@@ -283,30 +293,43 @@ private:
                                "19" + two,
                                "P1Y2M3DT4H5M6S",
                                "10:20:30"};
-        for (const QString& sample : samples) {
-            try {
-                record->text->parse(object, sample.toStdString(), NoScope());
-                return;
-            } catch (const ValueError&) {
-                continue;
-            }
+        static QHash<const void*, int> fitting;
+        const bool isFilled = takeFirst(samples, fitting[record], [&](const std::string& sample) {
+            record->text->parse(object, sample, NoScope());
+        });
+        if (!isFilled) {
+            qFatal("no value for %s", qPrintable(className(record)));
         }
-        qFatal("no value for %s", qPrintable(className(record)));
     }
 
     void fillNumber(xml_schema::type& owner, const Member& member)
     {
         ++counter;
         const QString number = QString::number(counter);
-        for (const QString& sample : {number + ".5", number, QString(counter % 2 == 0 ? "true" : "false")}) {
+        const QStringList samples = {number + ".5", number, counter % 2 == 0 ? "true" : "false"};
+        static QHash<const void*, int> fitting;
+        const bool isFilled = takeFirst(samples, fitting[&member], [&](const std::string& sample) {
+            member.ops->addText(owner, sample);
+        });
+        if (!isFilled) {
+            qFatal("no value for %s", member.name);
+        }
+    }
+
+    /// Takes the first of the samples that is a value. \param start where to begin; then the place of that one
+    template <class Take>
+    static bool takeFirst(const QStringList& samples, int& start, Take take)
+    {
+        for (int i = start; i < samples.size(); ++i) {
             try {
-                member.ops->addText(owner, sample.toStdString());
-                return;
+                take(samples.at(i).toStdString());
+                start = i;
+                return true;
             } catch (const ValueError&) {
                 continue;
             }
         }
-        qFatal("no value for %s", member.name);
+        return false;
     }
 
 public:

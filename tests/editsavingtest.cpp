@@ -113,19 +113,6 @@ Fondo::RefPtr<CoreProperty> propertiesOf(core::CityModelType& document, bool exi
     return GmlCorePropertyCreator::createProperty(&featureOf(document), existingOnly);
 }
 
-/// Bound properties with literals, in the order of the tree.
-QVector<CoreProperty*> enumeratedProperties(CoreProperty& property)
-{
-    QVector<CoreProperty*> found;
-    for (const auto& child : property.properties()) {
-        if (child->editable() && !child->potentialValues().isEmpty()) {
-            found += child.get();
-        }
-        found += enumeratedProperties(*child);
-    }
-    return found;
-}
-
 } // namespace
 
 /// Edits of every attribute of every feature, saved and read again.
@@ -134,8 +121,6 @@ class EditSavingTest : public QObject
     Q_OBJECT
 
 private:
-    QSet<QString> enumeratedPairs;
-
     /// Features that can be members of a document.
     static QStringList memberTypes()
     {
@@ -155,55 +140,6 @@ private slots:
         for (const auto& row : readTable("rows.tsv")) {
             Filler::wantedTypes() += row.value("type");
         }
-    }
-
-    void literalsSurvive_data()
-    {
-        QTest::addColumn<QString>("type");
-        for (const QString& type : memberTypes()) {
-            QTest::newRow(qPrintable(type)) << type;
-        }
-    }
-
-    /// Each enumerated attribute takes each of its literals.
-    void literalsSurvive()
-    {
-        QFETCH(QString, type);
-        const std::unique_ptr<xml_schema::type> made = Filler(true).make(recordByClass(type));
-        auto document = documentWith(dynamic_cast<const gml::AbstractFeatureType&>(*made));
-        int most = 1;
-        for (int number = 0; number < most; ++number) {
-            QVariantList expected;
-            auto root = propertiesOf(*document, false);
-            for (CoreProperty* const property : enumeratedProperties(*root)) {
-                const QVariantList literals = property->potentialValues();
-                most = qMax(most, literals.size());
-                property->setValue(literals.at(number % literals.size()));
-                expected += literals.at(number % literals.size());
-                enumeratedPairs += classOf(*property);
-            }
-            root = nullptr;
-            document = read(written(*document));
-            root = propertiesOf(*document, false);
-            QVariantList values;
-            for (CoreProperty* const property : enumeratedProperties(*root)) {
-                values += property->value();
-            }
-            QCOMPARE(values, expected);
-        }
-    }
-
-    void allEnumeratedAttributesWereEdited()
-    {
-        QSet<QString> pairs;
-        for (const auto& row : readTable("rows.tsv")) {
-            if (row.value("kind") == "enum") {
-                pairs +=
-                    "GmlEnumAttributeProperty<" + row.value("type") + ", " + row.value("value_type") + '>';
-            }
-        }
-        QCOMPARE(pairs.size(), 92);
-        QCOMPARE(pairs - enumeratedPairs, QSet<QString>());
     }
 
     void editsSurvive_data()
