@@ -34,7 +34,8 @@ type* single_object::release()
     return value;
 }
 
-object_sequence::object_sequence(const object_sequence& other, flags f, container* owner) : object_sequence(owner)
+object_sequence::object_sequence(const object_sequence& other, flags f, container* owner)
+    : object_sequence(owner)
 {
     reserve(other.size());
     for (size_type i = 0; i < other.size(); ++i)
