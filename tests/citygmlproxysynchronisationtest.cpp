@@ -382,6 +382,29 @@ private slots:
         QCOMPARE(seen, QStringList("d2 in row 5"));
     }
 
+    void treeIsReadWhileAFeatureIsRemoved()
+    {
+        Town town;
+        QStringList seen;
+        connect(&town.tree, &CityGMLProxyModel::featureRemovedFromModel, &town.tree,
+                [&](gml::AbstractFeatureType* feature) {
+                    // What has been reported is gone, and what is above it still there.
+                    QVERIFY(town.tree.treeNode(feature) == nullptr);
+                    QVERIFY(!town.tree.index(feature).isValid());
+                    QVERIFY(town.tree.listFromSource(town.model.index(feature)).isEmpty());
+                    QCOMPARE(town.tree.nodeMap.count(feature), std::size_t(1));
+                    QStringList left;
+                    for (const char* const id : {"b1", "w1", "d1", "d2", "w2"}) {
+                        if (town.node(id) != nullptr) {
+                            left.append(id);
+                        }
+                    }
+                    seen.append(left.join(' '));
+                });
+        town.model.removeFeature(town.feature("b1"));
+        QCOMPARE(seen, QStringList({"b1 w1 d2 w2", "b1 w1 w2", "b1 w2", "b1", ""}));
+    }
+
     void onlyTheFirstOfSeveralRemovedRowsIsHandled()
     {
         Town town;

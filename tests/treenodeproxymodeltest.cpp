@@ -359,6 +359,16 @@ private slots:
         QCOMPARE(f.model->calls.last(), QString("show [3 5]"));
     }
 
+    void changeCountsEachRowOnce()
+    {
+        Fixture f;
+        f.tree.shownTwice = {f.model->item(3)};
+        f.tree.computeNodeMap();
+        f.tree.changeObjectVisibleField(
+            {f.tree.find("door", 1), f.tree.find("door"), f.tree.index(2, 0), QModelIndex()}, false);
+        QCOMPARE(f.model->calls, QStringList({"hide [3]"}));
+    }
+
     void visibilityWithoutADocument()
     {
         TestTree tree;

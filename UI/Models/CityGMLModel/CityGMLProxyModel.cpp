@@ -291,7 +291,8 @@ TreeNode* CityGMLProxyModel::treeNode(const QModelIndex& index)
 TreeNodeGML* CityGMLProxyModel::treeNode(gml::AbstractFeatureType* feature) const
 {
     const auto entry = nodeMap.find(feature);
-    return entry != nodeMap.end() ? entry->second.front().get() : nullptr;
+    // The entry is empty while it is reported that the last node has gone.
+    return entry != nodeMap.end() && !entry->second.empty() ? entry->second.front().get() : nullptr;
 }
 
 gml::AbstractFeatureType* CityGMLProxyModel::getFeature(const QModelIndex& index)
