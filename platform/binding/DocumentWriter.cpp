@@ -154,6 +154,12 @@ public:
         const KeptContent::Document& document = kept != nullptr && kept->document ? *kept->document : fresh;
         m_scope = document.scope.get();
         declareNamespaces(document);
+        // What the root's own attributes need is declared with the rest.
+        if (kept != nullptr) {
+            for (const KeptContent::Attribute& attribute : kept->attributes)
+                m_declared.provide(attribute.prefix,
+                                   attribute.uri != nullptr ? *attribute.uri : std::string());
+        }
 
         m_out = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
         for (const std::string& markup : document.prologue)
