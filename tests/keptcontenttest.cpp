@@ -438,6 +438,7 @@ private slots:
         const QByteArray content =
             "text<x:a/><x:a/><x:b><x:c/></x:b><!--one--><!--two--><?p i?>"
             "<gml:name x:d='1' xml:lang='fr'>n</gml:name><gml:name x:d='2'>m</gml:name>"
+            "<core:creationDate>2009-04-02+00:00</core:creationDate>"
             "<bldg:storeysAboveGround x:e='1'>3</bldg:storeysAboveGround><bldg:opening/>";
         ReaderLog log(log4cplus::DEBUG_LOG_LEVEL);
         read(cityModel(building(content)));
@@ -450,6 +451,7 @@ private slots:
             "DEBUG kept as it stands: element x:a (2)",
             "DEBUG kept as it stands: element x:b (1)",
             "DEBUG kept as it stands: processing instruction (1)",
+            "DEBUG kept as it stands: spelling of core:creationDate (1)",
             "DEBUG kept as it stands: text in bldg:Building (1)",
         };
         QCOMPARE(log.take(), expected);

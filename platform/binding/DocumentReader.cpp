@@ -755,8 +755,9 @@ private:
     }
 
     void keepAttributeText(xml_schema::type& owner, const TypeIndex::FlatMember& member,
-                           std::string_view text) const
+                           std::string_view text)
     {
+        count("spelling of", nameOf(member.name).c_str());
         KeptContent::Value value;
         value.member = static_cast<std::uint16_t>(member.place);
         value.text = trimmed(text);
@@ -866,6 +867,7 @@ private:
                 frame.type->record()->text->parse(*frame.object, m_text, m_scopes);
                 checkLiteral(*frame.object, *frame.type);
                 if (frame.type->hasSpellings() && isOtherSpelling(*frame.object, *frame.type, m_text)) {
+                    count("spelling of", nameOf(frame.name).c_str());
                     KeptContent::Value value;
                     value.text = trimmed(m_text);
                     KeptContent::of(*frame.object).values.push_back(std::move(value));
@@ -904,6 +906,7 @@ private:
             KeptContent::Value& value = keptValue(frame);
             value.index = static_cast<std::uint32_t>(ops.count(*frame.object) - 1);
             value.text = trimmed(m_text);
+            count("spelling of", nameOf(frame.name).c_str());
         }
     }
 
@@ -981,6 +984,7 @@ private:
         m_text.clear();
     }
 
+    /// Keeps a piece of content where it stands: behind the last child, or behind the text so far.
     void keep(Frame& frame, KeptContent::Kind kind, std::string xml,
               std::shared_ptr<const KeptContent::Scope> scope = nullptr)
     {
