@@ -48,29 +48,18 @@ bool hasElement(const TypeRecord* type)
     });
 }
 
-/// Whether an edit to a variant that stands for no value leaves a text that cannot be read again: a date that
-/// is none, or an enumeration without a literal.
-bool needsValue(CoreProperty& property)
-{
-    const QVariant start = property.defaultValue();
-    const QString type = classOf(property);
-    const bool isMoment = start.userType() == QMetaType::QDate ||
-                          (start.userType() == QMetaType::QDateTime && !type.contains("duration"));
-    return isMoment || !property.potentialValues().isEmpty() || type.contains("TimeIndeterminateValueType");
-}
-
 /// What a property is edited to, for its kind.
 QVariant editOf(const QString& sort, CoreProperty& property)
 {
-    if (classOf(property).contains("TimeIndeterminateValueType")) {
-        return "now";
-    }
     if (sort == "empty") {
         return QVariant();
     }
     if (sort == "wrong") {
         return property.defaultValue().userType() == QMetaType::QString ? QVariant(QVariantList{1})
                                                                         : QVariant("no such value");
+    }
+    if (classOf(property).contains("TimeIndeterminateValueType")) {
+        return "now";
     }
     const bool extreme = sort == "extreme";
     if (!property.potentialValues().isEmpty()) {
@@ -99,8 +88,7 @@ QVariant editOf(const QString& sort, CoreProperty& property)
 
 void editAll(CoreProperty& property, const QString& sort)
 {
-    const bool standsForNone = sort == "empty" || sort == "wrong";
-    if (typeid(property) != typeid(CoreProperty) && !(standsForNone && needsValue(property))) {
+    if (typeid(property) != typeid(CoreProperty)) {
         property.setValue(editOf(sort, property));
     }
     for (const auto& child : property.properties()) {

@@ -360,11 +360,15 @@ private:
              building("<core:relativeToTerrain>entirelyAboveTerrain</core:relativeToTerrain>"),
              "Fields/RelativeToTerrain")
             .edit("ordinary", "entirelyBelowTerrain", "QString entirelyBelowTerrain",
-                  "<core:relativeToTerrain>entirelyBelowTerrain</core:relativeToTerrain>");
+                  "<core:relativeToTerrain>entirelyBelowTerrain</core:relativeToTerrain>")
+            .edit("empty", QVariant(), "invalid", "<core:relativeToTerrain/>")
+            .wrong({QString("EntirelyBelowTerrain"), 1}, "invalid", "<core:relativeToTerrain/>");
 
         Kind("literal without a list", demand("<energy:values uom='kWh'>1</energy:values>", ""),
              "Properties/Energy/energyAmount/temporalExtent/beginPosition/intermediatePosition")
-            .edit("ordinary", "now", "QString now", " indeterminatePosition=\"now\"");
+            .edit("ordinary", "now", "QString now", " indeterminatePosition=\"now\"")
+            .edit("empty", QVariant(), "invalid", " indeterminatePosition=\"\"")
+            .wrong({QString("soon"), 1}, "invalid", " indeterminatePosition=\"\"");
     }
 
     static void moments()
@@ -372,6 +376,8 @@ private:
         Kind("date", generic("dateAttribute", "<gen:value>2001-02-03+02:00</gen:value>"), "Fields/x")
             .edit("ordinary", QDate(2020, 2, 29), "QDate 2020-02-29", "<gen:value>2020-02-29</gen:value>")
             .edit("text", "1999-12-31", "QDate 1999-12-31", "<gen:value>1999-12-31</gen:value>")
+            .edit("empty", QVariant(), "QDate ", "<gen:value>0000-00-00</gen:value>")
+            .wrong({QString("2020-02-30"), 5, QVariantList{1}}, "QDate ", "<gen:value>0000-00-00</gen:value>")
             .edit("extreme", QDate(9999, 12, 31), "QDate 9999-12-31", "<gen:value>9999-12-31</gen:value>")
             // A year has 16 bits, and one of five digits is none that Qt spells.
             .edit("before the common era", QDate(-44, 3, 15), "QDate ", "<gen:value>65492-03-15</gen:value>");
@@ -399,6 +405,9 @@ private:
                   "<ladmfr:timeSpec>2020-02-29T01:02:03</ladmfr:timeSpec>")
             .edit("text", "1999-12-31T23:59:59", "QDateTime 1999-12-31T23:59:59.000",
                   "<ladmfr:timeSpec>1999-12-31T23:59:59</ladmfr:timeSpec>")
+            .edit("empty", QVariant(), "QDateTime ", "<ladmfr:timeSpec>0000-00-00T00:00:00</ladmfr:timeSpec>")
+            .wrong({QString("noon"), 5}, "QDateTime ",
+                   "<ladmfr:timeSpec>0000-00-00T00:00:00</ladmfr:timeSpec>")
             .edit("date", QDate(2020, 2, 29), "QDateTime 2020-02-29T00:00:00.000",
                   "<ladmfr:timeSpec>2020-02-29T00:00:00</ladmfr:timeSpec>");
 

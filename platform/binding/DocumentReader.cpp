@@ -843,6 +843,9 @@ private:
             return;
         std::string text;
         record.text->format(object, text, m_scopes);
+        // What an edit to something that is no literal leaves.
+        if (text.empty())
+            return;
         for (std::size_t i = 0; i < record.literalCount; ++i) {
             if (text == record.literals[i])
                 return;

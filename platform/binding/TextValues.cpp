@@ -76,8 +76,8 @@ void formatReal(T value, std::string& text)
         text += value < 0 ? "-INF" : "INF";
         return;
     }
-    // Written without an exponent in the range in which people write numbers so. Beyond it whole numbers would
-    // be written with digits that do not tell them apart.
+    // Written without an exponent in the range in which people write numbers so. Beyond it whole numbers
+    // would be written with digits that do not tell them apart.
     constexpr T largest = std::is_same_v<T, float> ? T(1e7) : T(1e15);
     const T size = std::fabs(value);
     const bool plain = value == 0 || (size >= T(1e-6) && size < largest);
@@ -247,9 +247,26 @@ void appendZone(const T& value, std::string& text)
     appendPadded(std::abs(minutes) % 60, 2, text);
 }
 
+// What a day has become that was edited to something that is none. It is read, for else a single such edit
+// would make a file that does not load any more.
+constexpr std::string_view noDay = "0000-00-00";
+
+template <typename T>
+bool isNoDay(const T& value)
+{
+    return value.year() == 0 && value.month() == 0 && value.day() == 0;
+}
+
 template <typename T>
 void readDate(FieldReader& reader, T& value)
 {
+    if (reader.rest().substr(0, noDay.size()) == noDay) {
+        value.year(0);
+        value.month(0);
+        value.day(0);
+        reader.skip(noDay.size());
+        return;
+    }
     value.year(reader.year());
     reader.expect('-');
     value.month(reader.month());
@@ -508,7 +525,8 @@ void formatValue(const xml_schema::date_time& value, std::string& text)
 {
     appendDate(value, text);
     text += 'T';
-    appendTime(value, text);
+    // Of a day that is none the time is none either.
+    appendTime(isNoDay(value) ? xml_schema::date_time(0, 0, 0, 0, 0, 0.0) : value, text);
     appendZone(value, text);
 }
 
