@@ -504,20 +504,24 @@ private:
     /// The parser compares names as they are written; with two prefixes they may still be the same.
     void checkDistinct(const char** attributes) const
     {
-        std::vector<RawName> names;
+        std::string_view prefix;
         bool isMixed = false;
         for (const char** a = attributes; *a != nullptr; a += 2) {
-            const RawName name(*a);
-            if (name.prefix.empty() || isDeclaration(*a))
+            const char* colon = std::strchr(*a, ':');
+            if (colon == nullptr || isDeclaration(*a))
                 continue;
-            names.push_back(name);
-            isMixed = isMixed || name.prefix != names.front().prefix;
+            const std::string_view other(*a, static_cast<std::size_t>(colon - *a));
+            isMixed = isMixed || (!prefix.empty() && other != prefix);
+            prefix = other;
         }
         if (!isMixed)
             return;
         std::vector<std::pair<std::string_view, std::string_view>> meant;
-        for (const RawName& name : names)
-            meant.emplace_back(*m_scopes.require(name.prefix).uri, name.local);
+        for (const char** a = attributes; *a != nullptr; a += 2) {
+            const RawName name(*a);
+            if (!name.prefix.empty() && !isDeclaration(*a))
+                meant.emplace_back(*m_scopes.require(name.prefix).uri, name.local);
+        }
         std::sort(meant.begin(), meant.end());
         const auto twice = std::adjacent_find(meant.begin(), meant.end());
         if (twice != meant.end())
