@@ -280,6 +280,14 @@ private:
     void writeElement(const xml_schema::type& object, const TypeIndex& type, const Tag& tag, int depth,
                       const KeptContent::Document* document)
     {
+        const std::size_t outer = m_local.size();
+        writeTagsAndContent(object, type, tag, depth, document);
+        m_local.resize(outer);
+    }
+
+    void writeTagsAndContent(const xml_schema::type& object, const TypeIndex& type, const Tag& tag, int depth,
+                             const KeptContent::Document* document)
+    {
         const KeptContent* kept = KeptContent::find(object);
         m_out.append(1, '<').append(tag.name);
         if (document != nullptr)
@@ -386,6 +394,16 @@ private:
                            [](const KeptContent::Node& n) { return n.kind == KeptContent::Kind::Text; });
     }
 
+    /// Whether a prefix has that meaning here.
+    bool means(std::string_view prefix, std::string_view uri) const
+    {
+        for (auto i = m_local.rbegin(); i != m_local.rend(); ++i) {
+            if (i->first == prefix)
+                return i->second == uri;
+        }
+        return m_declared.means(prefix, uri);
+    }
+
     void writeNode(const KeptContent::Node& node)
     {
         if (node.kind != KeptContent::Kind::Element || (m_scope != nullptr && node.scope.get() == m_scope)) {
@@ -403,7 +421,7 @@ private:
             const std::string declaration =
                 prefix.empty() ? std::string("xmlns") : "xmlns:" + std::string(prefix);
             if (isOther || tag.find(' ' + declaration + "=\"") != std::string_view::npos ||
-                m_declared.means(prefix, wanted))
+                means(prefix, wanted))
                 continue;
             addAttribute(declaration, wanted);
         }
@@ -523,6 +541,7 @@ private:
     void writeValue(const Content& content, const TypeIndex::FlatMember& member, Children& children)
     {
         const std::string& tag = valueTag(member);
+        const std::size_t outer = m_local.size();
         const bool isNil = children.isNil();
         while (!isNil && children.kept != children.end && children.kept->index < children.value)
             ++children.kept;
@@ -531,9 +550,8 @@ private:
             kept = children.kept++;
         m_out.append(1, '<').append(tag);
         if (kept != nullptr) {
-            std::vector<std::string> declared;
             for (const KeptContent::Attribute& attribute : kept->attributes)
-                writeKeptAttribute(attribute, declared);
+                writeKeptAttribute(attribute);
         }
         std::string text;
         if (!isNil) {
@@ -543,14 +561,15 @@ private:
         }
         if (isNil && kept->nodes.empty()) {
             m_out += "/>";
-            return;
+        } else {
+            m_out += '>';
+            if (kept != nullptr)
+                writeTextAndNodes(tag, text, kept->nodes, false);
+            else
+                addText(tag, text);
+            m_out.append("</").append(tag).append(1, '>');
         }
-        m_out += '>';
-        if (kept != nullptr)
-            writeTextAndNodes(tag, text, kept->nodes, false);
-        else
-            addText(tag, text);
-        m_out.append("</").append(tag).append(1, '>');
+        m_local.resize(outer);
     }
 
     /// Whether a text is another spelling of a value of a fundamental type.
@@ -661,7 +680,6 @@ private:
             addAttribute(attribute, m_text);
         }
         bool tellsType = false;
-        std::vector<std::string> declared;
         if (kept != nullptr) {
             for (const KeptContent::Attribute& attribute : kept->attributes) {
                 if (isNilAttribute(attribute) && type.hasText() && !isUnsetNil(object, type, kept))
@@ -676,7 +694,7 @@ private:
                         continue;
                     }
                 }
-                writeKeptAttribute(attribute, declared);
+                writeKeptAttribute(attribute);
             }
         }
         if (tag.typeToTell != nullptr && !tellsType) {
@@ -685,8 +703,7 @@ private:
         }
     }
 
-    /// \param declared prefixes that the element itself has declared so far.
-    void writeKeptAttribute(const KeptContent::Attribute& attribute, std::vector<std::string>& declared)
+    void writeKeptAttribute(const KeptContent::Attribute& attribute)
     {
         if (attribute.uri == nullptr) {
             addAttribute(attribute.name, attribute.value);
@@ -700,9 +717,9 @@ private:
             prefix = m_declared.qualifierOf(uri);
         if (prefix.empty()) {
             prefix = m_declared.localPrefix(attribute.prefix, uri);
-            if (std::find(declared.begin(), declared.end(), prefix) == declared.end()) {
+            if (!means(prefix, uri)) {
                 addAttribute("xmlns:" + prefix, uri);
-                declared.push_back(prefix);
+                m_local.emplace_back(prefix, uri);
             }
         }
         addAttribute(prefix + ':' + attribute.name, attribute.value);
@@ -736,6 +753,8 @@ private:
     Declarations m_declared;
     // The scope of the root where that is written as it was read.
     const KeptContent::Scope* m_scope = nullptr;
+    // Declarations of the open elements besides the root's.
+    std::vector<Declarations::Binding> m_local;
     std::string m_out;
     std::string m_text;
     std::unordered_map<TagKey, Tag, TagHash> m_tags;
