@@ -226,7 +226,8 @@ void SchemaContainersTest::erasingAndResizing()
         names.push_back(Name(text));
     QCOMPARE(std::string(*names.erase(names.begin() + 1)), std::string("c"));
     QCOMPARE(texts(names), std::string("a c d e "));
-    QVERIFY(names.erase(names.begin() + 2, names.end()) == names.end());
+    const auto behind = names.erase(names.begin() + 2, names.end());
+    QVERIFY(behind == names.end());
     QCOMPARE(texts(names), std::string("a c "));
     names.pop_back();
     names.resize(3, Name("n"));
