@@ -88,6 +88,15 @@ int checkState(bool isVisible)
     return isVisible ? Qt::Checked : Qt::Unchecked;
 }
 
+// A large document is not in the caches, and a build waits for the memory of each feature, unless it was
+// asked for so many features earlier.
+constexpr int lookAhead = 8;
+
+void prefetch(const gml::AbstractFeatureType* feature)
+{
+    __builtin_prefetch(feature);
+}
+
 } // namespace
 
 const char* const CityGMLProxyModel::MimeType = "application/x-modelkeylist";
@@ -167,13 +176,19 @@ void CityGMLProxyModel::computeNodeMap()
     accepted.reserve(static_cast<std::size_t>(rows));
     for (int row = 0; row < rows; ++row) {
         gml::AbstractFeatureType* const feature = document()->getFeature(row);
+        if (row + lookAhead < rows) {
+            prefetch(document()->getFeature(row + lookAhead));
+        }
         if (isAccepted(feature)) {
             entry = nodeMap.try_emplace(entry, feature);
             accepted.push_back(entry);
         }
     }
-    for (const NodeMap::iterator& each : accepted) {
-        each->second.emplace_back(new TreeNodeGML(each->first, nullptr));
+    for (std::size_t i = 0; i < accepted.size(); ++i) {
+        if (i + lookAhead < accepted.size()) {
+            prefetch(accepted[i + lookAhead]->first);
+        }
+        accepted[i]->second.emplace_back(new TreeNodeGML(accepted[i]->first, nullptr));
     }
     updateTreeNodes();
     endResetModel();
@@ -193,7 +208,15 @@ void CityGMLProxyModel::fillChildren()
     CityGMLProxyModelTraverseChildrenVisitor& visitor = *traverseChildrenVisitor;
     OperationStatus status(tr("Building Proxy Nodes"), static_cast<long long>(nodeMap.size()), true);
     visitor.setTraversalVisitor(traversalVisitor.get());
+    auto ahead = nodeMap.cbegin();
+    for (int i = 0; i < lookAhead && ahead != nodeMap.cend(); ++i) {
+        ++ahead;
+    }
     for (const auto& [feature, nodes] : nodeMap) {
+        if (ahead != nodeMap.cend()) {
+            prefetch(ahead->first);
+            ++ahead;
+        }
         for (const auto& node : nodes) {
             if (node) {
                 visitor.setTreeNode(node.get());
