@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+#pragma GCC diagnostic ignored "-Wdeprecated-declarations" // std::auto_ptr, which the schema classes speak
+
 namespace {
 
 using Name = gml::CodeType;

@@ -1,9 +1,9 @@
 #pragma once
 
-// Takes the place of the run-time's header of the same name: the same classes for the members of schema
-// classes, with the same operations, but one word each where a member holds objects. A city model is millions of
-// mostly empty members, and with the run-time's own (24 bytes for an optional one, 40 for a sequence) they are
-// most of its memory.
+// Takes the place of the run-time's <xsd/cxx/tree/containers.hxx>; include that instead. It has the same classes
+// for the members of schema classes, with the same operations, but one word each where a member holds objects. A
+// city model is millions of mostly empty members, and with the run-time's own (24 bytes for an optional one, 40
+// for a sequence) they are most of its memory.
 
 #include "BindingExport.h"
 
@@ -21,6 +21,9 @@
 #include <type_traits>
 #include <vector>
 
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wdeprecated-declarations" // std::auto_ptr, which the schema classes speak
+
 namespace xsd {
 namespace cxx {
 namespace tree {
@@ -32,8 +35,8 @@ struct fundamental_p
     static const bool r = std::is_arithmetic<T>::value;
 };
 
-/// What members that hold at most one object have in common: a word that is the object, or, as long as there is
-/// none, the container of the member, marked by its lowest bit. An object itself knows the container.
+/// What members that hold at most one object have in common: a word that is the object, or, as long as there
+/// is none, the container of the member, marked by its lowest bit. An object itself knows the container.
 class TOLVIK_BINDING_EXPORT single_object
 {
 public:
@@ -60,7 +63,10 @@ protected:
 
 private:
     static constexpr std::uintptr_t emptyMark = 1;
-    static std::uintptr_t empty(container* owner) { return reinterpret_cast<std::uintptr_t>(owner) | emptyMark; }
+    static std::uintptr_t empty(container* owner)
+    {
+        return reinterpret_cast<std::uintptr_t>(owner) | emptyMark;
+    }
 
     std::uintptr_t word;
 };
@@ -251,8 +257,8 @@ bool operator>=(const optional<T, fundamental>& a, const optional<T, fundamental
     return !(a < b);
 }
 
-/// What sequences of objects have in common: a word that is a block of pointers to the objects, or, as long as
-/// there was none, the container of the member, marked by its lowest bit.
+/// What sequences of objects have in common: a word that is a block of pointers to the objects, or, as long
+/// as there was none, the container of the member, marked by its lowest bit.
 class TOLVIK_BINDING_EXPORT object_sequence
 {
 public:
@@ -416,7 +422,10 @@ public:
     {
         assign(first, last);
     }
-    sequence(const sequence& other, flags f = 0, container* owner = nullptr) : object_sequence(other, f, owner) {}
+    sequence(const sequence& other, flags f = 0, container* owner = nullptr)
+        : object_sequence(other, f, owner)
+    {
+    }
     sequence& operator=(const sequence& other) = default;
 
     void assign(size_type count, const T& value)
@@ -556,3 +565,5 @@ void swap(sequence<T, fundamental>& a, sequence<T, fundamental>& b)
 } // namespace tree
 } // namespace cxx
 } // namespace xsd
+
+#pragma GCC diagnostic pop

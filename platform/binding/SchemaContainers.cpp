@@ -1,4 +1,4 @@
-#include <xsd/cxx/tree/containers.hxx>
+#include "citygml/SchemaContainers.h"
 
 #include <cstdlib>
 #include <cstring>
