@@ -70,8 +70,8 @@ std::string identifier(const char* kind, int building)
     return std::string(kind) + '_' + std::to_string(building);
 }
 
-/// XML, a tag or a text element a line, indented as documents of this kind are. Texts and values are written as
-/// they are: none here holds markup.
+/// XML, a tag or a text element a line, indented as documents of this kind are. Texts and values are written
+/// as they are: none here holds markup.
 class Xml
 {
 public:

@@ -7,6 +7,7 @@
 #include "Subject.h"
 #include "UI/Models/CityGMLModel/CityGMLProxyModel.h"
 
+#include <map>
 #include <random>
 #include <stdexcept>
 #include <vector>
@@ -16,6 +17,9 @@ using namespace tolvik;
 namespace {
 
 constexpr int sampleSize = 4096;
+constexpr int passes = 8;
+constexpr int viewRows = 64;
+constexpr int lookUps = 20;
 constexpr int insertions = 5;
 
 int countNodes(const CityGMLModel& model, const CityGMLProxyModel& tree)
@@ -27,15 +31,18 @@ int countNodes(const CityGMLModel& model, const CityGMLProxyModel& tree)
     return result;
 }
 
-/// Rows that have nodes, from all over the document, in no order.
-std::vector<QModelIndex> sampleRows(const CityGMLModel& model, const CityGMLProxyModel& tree)
+/// Rows that have nodes, in no order: runs of neighbours, as a view shows them, from all over the document.
+std::vector<QModelIndex> sampleRows(const CityGMLModel& model, const CityGMLProxyModel& tree, int neighbours)
 {
     std::vector<QModelIndex> result;
     std::minstd_rand random;
     while (result.size() < sampleSize) {
-        const QModelIndex index = model.index(static_cast<int>(random() % unsigned(model.rowCount())), 0);
-        if (tree.mapFromSource(index).isValid()) {
-            result.push_back(index);
+        const int first = static_cast<int>(random() % unsigned(model.rowCount()));
+        for (int row = first; row < first + neighbours && result.size() < sampleSize; ++row) {
+            const QModelIndex index = model.index(row, 0);
+            if (tree.mapFromSource(index).isValid()) {
+                result.push_back(index);
+            }
         }
     }
     return result;
@@ -61,35 +68,63 @@ void buildTree(benchmark::State& state)
     measure.setRatio("times_load", Subject::current().loadSeconds());
 }
 
+/// Times \a operation for each place of a sample of rows, in turn with a search for the features of the same
+/// rows in an ordered map of all features: no look-up does with less.
+template <class Operation>
+void lookUp(benchmark::State& state, const std::vector<QModelIndex>& rows, Operation operation)
+{
+    const CityGMLModel& model = Subject::current().model();
+    std::map<gml::AbstractFeatureType*, int> rowByFeature;
+    for (int row = 0; row < model.rowCount(); ++row) {
+        rowByFeature.emplace_hint(rowByFeature.end(), model.getFeature(row), row);
+    }
+    std::vector<gml::AbstractFeatureType*> features;
+    for (const QModelIndex& row : rows) {
+        features.push_back(model.getFeature(row));
+    }
+    const auto time = [](auto work) {
+        const double start = processorSeconds();
+        for (int pass = 0; pass < passes; ++pass) {
+            for (std::size_t i = 0; i < sampleSize; ++i) {
+                auto result = work(i);
+                benchmark::DoNotOptimize(result);
+            }
+        }
+        return (processorSeconds() - start) / (passes * sampleSize);
+    };
+    double operations = 0;
+    double searches = 0;
+    while (state.KeepRunning()) {
+        searches += time([&](std::size_t i) { return rowByFeature.find(features[i]); });
+        const double seconds = time(operation);
+        state.SetIterationTime(seconds);
+        operations += seconds;
+    }
+    state.counters["ns_per_search"] = searches * 1e9 / static_cast<double>(state.iterations());
+    state.counters["times_search"] = operations / searches;
+}
+
 void mapOneIndex(benchmark::State& state)
 {
     CityGMLModel& model = Subject::current().model();
     CityGMLProxyModel tree;
     tree.setSourceModel(&model);
-    const std::vector<QModelIndex> rows = sampleRows(model, tree);
-    std::size_t next = 0;
-    while (state.KeepRunning()) {
-        QModelIndex index = tree.mapFromSource(rows[next++ % sampleSize]);
-        benchmark::DoNotOptimize(index);
-    }
+    const std::vector<QModelIndex> rows = sampleRows(model, tree, static_cast<int>(state.range(0)));
+    lookUp(state, rows, [&](std::size_t i) { return tree.mapFromSource(rows[i]); });
 }
 
-/// The role is the argument.
 void dataOfOneIndex(benchmark::State& state)
 {
     CityGMLModel& model = Subject::current().model();
     CityGMLProxyModel tree;
     tree.setSourceModel(&model);
+    const std::vector<QModelIndex> rows = sampleRows(model, tree, static_cast<int>(state.range(0)));
     std::vector<QModelIndex> nodes;
-    for (const QModelIndex& row : sampleRows(model, tree)) {
+    for (const QModelIndex& row : rows) {
         nodes.push_back(tree.mapFromSource(row));
     }
-    const int role = static_cast<int>(state.range(0));
-    std::size_t next = 0;
-    while (state.KeepRunning()) {
-        QVariant value = tree.data(nodes[next++ % sampleSize], role);
-        benchmark::DoNotOptimize(value);
-    }
+    const int role = static_cast<int>(state.range(1));
+    lookUp(state, rows, [&](std::size_t i) { return tree.data(nodes[i], role); });
 }
 
 /// With a tree that follows.
@@ -134,7 +169,11 @@ void insertFeature(benchmark::State& state)
 } // namespace
 
 BENCHMARK(buildTree)->UseManualTime()->Unit(benchmark::kMillisecond);
-BENCHMARK(mapOneIndex);
-BENCHMARK(dataOfOneIndex)->ArgName("role")->Arg(Qt::DisplayRole)->Arg(Qt::DecorationRole)->Arg(Qt::UserRole);
+BENCHMARK(mapOneIndex)->UseManualTime()->Iterations(lookUps)->ArgName("neighbours")->Arg(1)->Arg(viewRows);
+BENCHMARK(dataOfOneIndex)
+    ->UseManualTime()
+    ->Iterations(lookUps)
+    ->ArgNames({"neighbours", "role"})
+    ->ArgsProduct({{1, viewRows}, {Qt::DisplayRole, Qt::DecorationRole, Qt::UserRole}});
 BENCHMARK(hideAll)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(insertFeature)->UseManualTime()->Iterations(insertions)->Unit(benchmark::kMillisecond);
