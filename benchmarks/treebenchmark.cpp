@@ -69,7 +69,7 @@ void buildTree(benchmark::State& state)
 }
 
 /// Times \a operation for each place of a sample of rows, in turn with a search for the features of the same
-/// rows in an ordered map of all features: no look-up does with less.
+/// rows in an ordered map of all features, which a mapping cannot do without.
 template <class Operation>
 void lookUp(benchmark::State& state, const std::vector<QModelIndex>& rows, Operation operation)
 {

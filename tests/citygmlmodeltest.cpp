@@ -67,6 +67,33 @@ public:
     QStringList lines;
 };
 
+/// Asks for the rows of features when a build of the rows begins.
+class EarlyListener : public ProgressRecorder
+{
+public:
+    explicit EarlyListener(const CityGMLModel& model) : model(model)
+    {
+        for (int row = 0; row < model.rowCount(); ++row) {
+            features.append(model.getFeature(row));
+        }
+    }
+
+    void begin(const QString& /*title*/, long long /*totalSteps*/, bool /*blocking*/, int /*level*/) override
+    {
+        for (gml::AbstractFeatureType* feature : qAsConst(features)) {
+            rows.append(model.getRow(feature));
+            areDisabled.append(model.isDisabled(feature));
+        }
+    }
+
+    QVector<int> rows;
+    QVector<bool> areDisabled;
+
+private:
+    const CityGMLModel& model;
+    QVector<gml::AbstractFeatureType*> features;
+};
+
 /// An input that breaks with an exception that has nothing to do with the schema library.
 class BrokenInput : public std::streambuf
 {
@@ -433,6 +460,17 @@ private slots:
         model.dataSetChanged();
         QCOMPARE(model.rowCount(), 3);
         QCOMPARE(model.getRow(model.getFeature("added")), 2);
+    }
+
+    void featuresHaveNoRowBeforeTheirTurn()
+    {
+        OpenModel model;
+        model.loadText(town(2));
+        EarlyListener listener(model);
+        model.dataSetChanged();
+        QCOMPARE(listener.rows, QVector<int>(3, -1));
+        QCOMPARE(listener.areDisabled, QVector<bool>(3, true));
+        QCOMPARE(model.getRow(model.getFeature(2)), 2);
     }
 
     void progressOfBuilding()
