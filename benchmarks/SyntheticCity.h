@@ -5,7 +5,7 @@
 namespace tolvik {
 
 /// A made-up city as a CityGML 2.0 document that is valid against the schemas: the same text for the same
-/// number of buildings, on every machine. A building has about 5 kB and ten features: itself, a part, a
+/// number of buildings, on every machine. A building has about 8 kB and ten features: itself, a part, a
 /// ground, two roofs, two walls, a window, a door and an address. One appearance of four materials colours
 /// the walls of all.
 class SyntheticCity

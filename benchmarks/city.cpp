@@ -12,7 +12,7 @@ int main(int argc, char* argv[])
     const long buildings = argc > 1 ? std::strtol(argv[1], &end, 10) : 0;
     if (argc < 2 || argc > 3 || *end != '\0' || buildings < 1 || buildings > 10000000) {
         std::cerr << "Usage: tolvik-city N [OUT]\n\n"
-                     "Writes a synthetic city of N buildings, of about 5 kB each, to the file OUT or to "
+                     "Writes a synthetic city of N buildings, of about 8 kB each, to the file OUT or to "
                      "standard output.\n";
         return 2;
     }
