@@ -2,14 +2,12 @@
 # catalogue recompiles that catalogue alone.
 set(INSTANTIATIONS_DIR ${CMAKE_CURRENT_BINARY_DIR}/instantiations)
 file(MAKE_DIRECTORY ${INSTANTIATIONS_DIR})
-file(GLOB CATALOGUES CONFIGURE_DEPENDS ${CMAKE_CURRENT_LIST_DIR}/../catalogues/*.cpp)
 foreach(catalogue ${CATALOGUES})
     get_filename_component(name ${catalogue} NAME_WE)
-    get_filename_component(catalogue ${catalogue} ABSOLUTE)
     set(header ${INSTANTIATIONS_DIR}/${name}.instantiations.h)
     add_custom_command(
         OUTPUT ${header}
-        COMMAND ${Python3_EXECUTABLE} ${CMAKE_CURRENT_LIST_DIR}/instantiate.py ${catalogue} ${header}
+        COMMAND ${Python3_EXECUTABLE} ${CMAKE_CURRENT_LIST_DIR}/instantiate.py ${CMAKE_CURRENT_SOURCE_DIR}/${catalogue} ${header}
         DEPENDS ${CMAKE_CURRENT_LIST_DIR}/instantiate.py ${catalogue}
         VERBATIM)
     set_source_files_properties(${catalogue} PROPERTIES OBJECT_DEPENDS ${header})
