@@ -188,12 +188,16 @@ def run_compiler(schema, directory, output):
         os.makedirs(os.path.join(output, prefix), exist_ok=True)
         namespaces += ["--namespace-map", "%s=%s" % (uri, cpp_namespace(prefix))]
         namespaces += ["--type-file-regex", "%%%s[[:space:]](.+)%%%s/$1%%" % (uri, prefix)]
-    builtin = os.path.join(output, "xml-schema.xsd")
-    with open(builtin, "w") as f:
+    builtin = "xml-schema.xsd"
+    with open(os.path.join(output, builtin), "w") as f:
         f.write('<xs:schema xmlns:xs="%s" targetNamespace="%s"/>\n' % (XS, XS))
-    common = ["xsdcxx", "cxx-tree", "--suppress-parsing", "--custom-type", "anyType=/type_base", "--output-dir", output]
+    common = ["xsdcxx", "cxx-tree", "--suppress-parsing", "--custom-type", "anyType=/type_base"]
+    common += ["--guard-prefix", "TOLVIK", "--output-dir", output]
+    # By its bare name, since the compiler makes the include guard of the path that it is given.
     subprocess.run(
-        common + ["--generate-xml-schema", "--hxx-epilogue", '#include "citygml/SchemaType.h"', builtin], check=True
+        common + ["--generate-xml-schema", "--hxx-epilogue", '#include "citygml/SchemaType.h"', builtin],
+        check=True,
+        cwd=output,
     )
     files = sorted(f for f in os.listdir(directory) if f.endswith(".xsd"))
     # The silenced warnings: a type that is xs:anyType by default, and substitution groups without the compiler's own
