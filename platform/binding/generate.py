@@ -6,6 +6,10 @@
 runs the schema compiler over every SCHEMAS/*.xsd, joins what it writes into a fixed number of compilation units, and
 writes the visitors and the tables from which documents are read and written. Files whose content has not changed keep
 their time stamp, so that an edit of one schema compiles again only what it changes.
+
+    generate.py --units
+
+prints the names of the compilation units, one a line, without making them.
 """
 
 import filecmp
@@ -29,6 +33,20 @@ PREFIXES = (
 
 # Schema file (without its ending) to prefix, where they differ.
 FILE_PREFIX = {"SMIL20_Language": "SMIL20"}
+
+
+def joined_unit(number):
+    return "unit_%02d.cxx" % number
+
+
+def table_unit(number):
+    return "tables_%d.cxx" % number
+
+
+def units():
+    """The compilation units that the generator writes."""
+    joined = [joined_unit(number) for number in range(JOINED_UNITS)]
+    return joined + [table_unit(number) for number in range(TABLE_UNITS)] + ["tables_all.cxx", "visitors.cxx"]
 
 
 def cpp_namespace(prefix):
@@ -233,14 +251,23 @@ def join_units(output, classes):
             sources.append(path)
     per_unit = -(-len(sources) // JOINED_UNITS)
     for number in range(JOINED_UNITS):
-        with open(os.path.join(output, "unit_%02d.cxx" % number), "w") as f:
+        with open(os.path.join(output, joined_unit(number)), "w") as f:
             for path in sources[number * per_unit : (number + 1) * per_unit]:
                 f.write('#include "%s"\n' % path)
-    # Everything, for hosts that use many namespaces and for precompiled headers.
-    with open(os.path.join(output, "citygml", "AllTypes.h"), "w") as f:
-        f.write("#pragma once\n\n")
-        for prefix, name in classes:
-            f.write('#include "%s/%s.hxx"\n' % (prefix, name))
+
+
+def write_umbrellas(output, classes):
+    """Writes a header with all classes, and one with those of each namespace."""
+
+    def write(path, keys):
+        with open(os.path.join(output, path), "w") as f:
+            f.write("#pragma once\n\n")
+            for prefix, name in keys:
+                f.write('#include "%s/%s.hxx"\n' % (prefix, name))
+
+    write("citygml/AllTypes.h", classes)
+    for prefix in PREFIXES:
+        write("%s/AllTypes.h" % prefix, [key for key in classes if key[0] == prefix])
 
 
 def ordered(classes):
@@ -339,7 +366,7 @@ def write_tables(output, classes, schema):
 
     per_unit = -(-len(operations) // TABLE_UNITS)
     for number in range(TABLE_UNITS):
-        with open(os.path.join(output, "tables_%d.cxx" % number), "w") as f:
+        with open(os.path.join(output, table_unit(number)), "w") as f:
             f.write('#include "tables.h"\n\nnamespace citygml {\nnamespace binding {\n\n')
             for key in operations[number * per_unit : (number + 1) * per_unit]:
                 write_type(f, classes, schema, key, key_of[key], record)
@@ -498,12 +525,16 @@ def update(source, target):
 
 
 def main():
+    if sys.argv[1:] == ["--units"]:
+        print("\n".join(units()))
+        return
     schemas, target = os.path.abspath(sys.argv[1]), os.path.abspath(sys.argv[2])
     schema = Schema(schemas)
     with tempfile.TemporaryDirectory() as output:
         os.makedirs(os.path.join(output, "citygml"))
         classes = run_compiler(schema, schemas, output)
         join_units(output, classes)
+        write_umbrellas(output, classes)
         write_visitors(output, classes, schema)
         write_tables(output, classes, schema)
         update(output, target)
