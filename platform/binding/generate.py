@@ -209,13 +209,13 @@ def run_compiler(schema, directory, output):
     builtin = "xml-schema.xsd"
     with open(os.path.join(output, builtin), "w") as f:
         f.write('<xs:schema xmlns:xs="%s" targetNamespace="%s"/>\n' % (XS, XS))
-    common = ["xsdcxx", "cxx-tree", "--suppress-parsing", "--custom-type", "anyType=/type_base"]
-    common += ["--guard-prefix", "TOLVIK", "--output-dir", output]
-    # By its bare name, since the compiler makes the include guard of the path that it is given.
+    common = ["xsdcxx", "cxx-tree", "--suppress-parsing", "--custom-type", "anyType=/type_base", "--output-dir", output]
+    # With a prefix, since the include guard is made of the file's directory otherwise, which is another in each run.
     subprocess.run(
-        common + ["--generate-xml-schema", "--hxx-epilogue", '#include "citygml/SchemaType.h"', builtin],
+        common
+        + ["--generate-xml-schema", "--guard-prefix", "TOLVIK"]
+        + ["--hxx-epilogue", '#include "citygml/SchemaType.h"', os.path.join(output, builtin)],
         check=True,
-        cwd=output,
     )
     files = sorted(f for f in os.listdir(directory) if f.endswith(".xsd"))
     # The silenced warnings: a type that is xs:anyType by default, and substitution groups without the compiler's own
