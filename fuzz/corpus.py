@@ -18,7 +18,7 @@ LARGEST = 1500
 ESCAPES = {b"\\": b"\\\\", b"\n": b"\\n", b"\r": b"\\r", b"\t": b"\\t"}
 HEADER = """\
 # Documents, and what is nearly one, that lead through every corner of the reader and the writer: one a line.
-# fuzz/corpus.py packs and unpacks them; the test is tests/readercorpustest.cpp.
+# fuzz/corpus.py packs and unpacks them; the test is tests/binding/readercorpustest.cpp.
 """
 
 

@@ -1,0 +1,190 @@
+#include "support/SchemaTables.h"
+
+#include "citygml/CityGMLFeaturesFillVisitor.h"
+#include "citygml/CityModel.h"
+#include "gml/AbstractFeatureType.hxx"
+#include "gml/FeaturePropertyType.hxx"
+
+#include <QtTest>
+
+#include <memory>
+#include <sstream>
+
+namespace {
+
+using schematables::Member;
+using schematables::TypeRecord;
+
+class Recorder : public tolvik::CityGMLFeaturesVisitor
+{
+public:
+    QVector<const xml_schema::type*> visited;
+
+    bool visit_gml_AbstractFeatureType(gml::AbstractFeatureType* feature) override
+    {
+        visited << feature;
+        return tolvik::CityGMLFeaturesVisitor::visit_gml_AbstractFeatureType(feature);
+    }
+};
+
+const TypeRecord* recordNamed(const QString& name)
+{
+    for (const TypeRecord* record : schematables::types()) {
+        if (schematables::className(*record) == name)
+            return record;
+    }
+    return nullptr;
+}
+
+QVector<const TypeRecord*> listedTypes()
+{
+    QVector<const TypeRecord*> result;
+    for (const QStringList& row : schematables::table("feature_visits.txt"))
+        result << recordNamed(row[0].section('_', 0, 0) + "::" + row[0].section('_', 1));
+    return result;
+}
+
+bool isFeature(const TypeRecord* record)
+{
+    return schematables::isDerived(record, recordNamed("gml::AbstractFeatureType"));
+}
+
+std::unique_ptr<core::CityModelType> read(const char* xml)
+{
+    std::istringstream stream(
+        std::string("<core:CityModel xmlns:core='http://www.opengis.net/citygml/2.0' "
+                    "xmlns:gml='http://www.opengis.net/gml'"
+                    " xmlns:bldg='http://www.opengis.net/citygml/building/2.0'"
+                    " xmlns:app='http://www.opengis.net/citygml/appearance/2.0'"
+                    " xmlns:xAL='urn:oasis:names:tc:ciq:xsdschema:xAL:2.0'"
+                    " xmlns:grp='http://www.opengis.net/citygml/cityobjectgroup/2.0' gml:id='root'>") +
+        xml + "</core:CityModel>");
+    return std::unique_ptr<core::CityModelType>(core::CityModel(stream).release());
+}
+
+constexpr const char* house =
+    "<core:cityObjectMember><bldg:Building gml:id='house'>"
+    "<app:appearance><app:Appearance gml:id='look'><app:surfaceDataMember><app:X3DMaterial gml:id='paint'/>"
+    "</app:surfaceDataMember></app:Appearance></app:appearance>"
+    "<bldg:boundedBy><bldg:WallSurface gml:id='wall'><bldg:opening><bldg:Door gml:id='door'><bldg:address>"
+    "<core:Address "
+    "gml:id='hidden'><core:xalAddress><xAL:AddressDetails/></core:xalAddress></core:Address></bldg:address></"
+    "bldg:Door></bldg:opening>"
+    "</bldg:WallSurface></bldg:boundedBy>"
+    "<bldg:consistsOfBuildingPart><bldg:BuildingPart gml:id='part'/></bldg:consistsOfBuildingPart>"
+    "<bldg:address><core:Address "
+    "gml:id='address'><core:xalAddress><xAL:AddressDetails/></core:xalAddress></core:Address></bldg:address>"
+    "</bldg:Building></core:cityObjectMember>"
+    "<gml:featureMember><bldg:Building gml:id='second'/></gml:featureMember>"
+    "<core:cityObjectMember><grp:CityObjectGroup gml:id='group'><grp:groupMember><bldg:Building "
+    "gml:id='member'/>"
+    "</grp:groupMember></grp:CityObjectGroup></core:cityObjectMember>";
+
+template <typename Features>
+QStringList idsOf(const Features& features)
+{
+    QStringList result;
+    for (const auto* feature : features)
+        result << QString::fromStdString(*dynamic_cast<const gml::AbstractFeatureType*>(feature)->id());
+    return result;
+}
+
+} // namespace
+
+/// The walk from features to the features below them.
+class FeatureWalkTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void thereIsAnOverrideForEveryListedType()
+    {
+        const auto types = listedTypes();
+        QCOMPARE(types.size(), 89);
+        QVERIFY(!types.contains(nullptr));
+    }
+
+    // A member leads to a feature itself or through the objects that its value holds.
+    void everyMemberThatLeadsToAFeatureIsWalked()
+    {
+        int walked = 0;
+        for (const TypeRecord* type : listedTypes()) {
+            const TypeRecord* ownerType = schematables::concrete(type);
+            QVERIFY2(ownerType != nullptr, type->name);
+            if (!isFeature(ownerType))
+                continue;
+            for (std::size_t i = 0; i < type->memberCount; ++i) {
+                const Member& member = type->members[i];
+                if (member.isAttribute || member.type == nullptr)
+                    continue;
+                for (const TypeRecord* holder = member.type; holder != nullptr; holder = holder->base) {
+                    for (std::size_t j = 0; j < holder->memberCount; ++j)
+                        walked += checkWalk(*ownerType, member, holder->members[j]);
+                }
+            }
+        }
+        QVERIFY2(walked > 120, qPrintable(QString::number(walked)));
+    }
+
+    void aDeepWalkListsTheDocumentInItsOrder()
+    {
+        const auto document = read(house);
+        tolvik::CityGMLFeaturesFillVisitor visitor;
+        QVERIFY(document->accept(&visitor));
+        QCOMPARE(idsOf(visitor.getModelFeatures()),
+                 QStringList({"root", "house", "look", "wall", "door", "part", "address", "second", "group",
+                              "member"}));
+        // Each feature once, however often the visitor is started.
+        document->accept(&visitor);
+        QCOMPARE(visitor.getModelFeatures().size(), std::size_t(10));
+    }
+
+    void aWalkFromAStartGoesOneLevelDown()
+    {
+        const auto document = read(house);
+        auto& building = *document->featureMember().front()._Feature();
+        Recorder visitor;
+        visitor.walkChildren = visitor.walkStart = true;
+        QVERIFY(building.accept(&visitor));
+        QCOMPARE(idsOf(visitor.visited), QStringList({"wall", "part", "address", "look", "house"}));
+        QVERIFY(visitor.walkChildren && visitor.walkStart);
+    }
+
+    void withoutChildrenAVisitStaysInside()
+    {
+        const auto document = read(house);
+        for (const bool start : {true, false}) {
+            Recorder visitor;
+            visitor.walkChildren = false;
+            visitor.walkStart = start;
+            QVERIFY(document->accept(&visitor));
+            QCOMPARE(idsOf(visitor.visited), QStringList("root"));
+        }
+    }
+
+private:
+    /// Puts a feature into a member of an owner and walks; the number of features that had to be met.
+    static int checkWalk(const TypeRecord& ownerType, const Member& member, const Member& content)
+    {
+        if (content.isAttribute || content.type == nullptr || !isFeature(content.type))
+            return 0;
+        const TypeRecord* featureType = schematables::concrete(content.type);
+        if (featureType == nullptr)
+            return 0;
+        const std::unique_ptr<xml_schema::type> owner(ownerType.create());
+        xml_schema::type* property = member.type->create();
+        xml_schema::type* feature = featureType->create();
+        content.ops->add(*property, feature);
+        member.ops->add(*owner, property);
+        Recorder visitor;
+        visitor.walkChildren = visitor.walkStart = true;
+        owner->accept(&visitor);
+        if (visitor.visited.count(feature) != 1)
+            qWarning("%s.%s does not lead to its %s", ownerType.name, member.name, featureType->name);
+        [&] { QCOMPARE(visitor.visited.count(feature), 1); }();
+        return 1;
+    }
+};
+
+QTEST_GUILESS_MAIN(FeatureWalkTest)
+#include "featurewalktest.moc"

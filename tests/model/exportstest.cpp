@@ -1,0 +1,139 @@
+#include "support/TestPaths.h"
+
+#include <cstdlib>
+#include <cxxabi.h>
+#include <memory>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QSet>
+#include <QtTest>
+
+namespace {
+
+const QStringList exportedClasses{
+    "CityGMLModel",
+    "CityGMLProxyModel",
+    "TreeNodeGML",
+    "CityGMLProxyModelTraverseAllVisitor",
+    "CityGMLProxyModelTraverseNoApparencesVisitor",
+    "CityGMLProxyModelTraverseChildrenVisitor",
+    "CityGMLProxyModelTraverseChildrenGMLVisitor",
+    "GmlCorePropertyCreator",
+    "CityGMLPropertiesVisitor",
+    "GmlEditRangeDialog",
+};
+
+const QStringList exportedFunctionTemplates{"toQVariant", "fromQVariant", "defaultValue", "getEnumList"};
+
+const QStringList exportedClassTemplates{
+    "GmlAttributeProperty",
+    "GmlEnumAttributeProperty",
+    "GmlGenericApplicationAttributeProperty",
+    "GmlEnumGenericApplicationAttributeProperty",
+};
+
+/// A name of namespace tolvik as it stands in a symbol.
+QString inTolvik(const QString& name)
+{
+    return "6tolvik" + QString::number(name.size()) + name;
+}
+
+QString anyOf(const QStringList& names, const QString& end)
+{
+    QStringList patterns;
+    for (const QString& name : names) {
+        patterns.append(inTolvik(name) + end);
+    }
+    return "(?:" + patterns.join('|') + ')';
+}
+
+QString demangled(const QString& symbol)
+{
+    int status = 0;
+    const std::unique_ptr<char, void (*)(void*)> text(
+        abi::__cxa_demangle(symbol.toLatin1().constData(), nullptr, nullptr, &status), &std::free);
+    return status == 0 ? QString::fromLatin1(text.get()) : symbol;
+}
+
+QStringList exportedSymbols()
+{
+    QProcess nm;
+    nm.start("nm", {"-D", "--defined-only", testpaths::library("CityGMLModel")});
+    if (!nm.waitForFinished(-1) || nm.exitCode() != 0) {
+        return QStringList();
+    }
+    QStringList symbols;
+    const QStringList lines = QString::fromLatin1(nm.readAllStandardOutput()).split('\n', Qt::SkipEmptyParts);
+    for (const QString& line : lines) {
+        symbols.append(line.section(' ', -1));
+    }
+    return symbols;
+}
+
+} // namespace
+
+/// What the library exports: its interface, and nothing of what it is made with.
+class ExportsTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    QStringList symbols;
+
+private slots:
+    void initTestCase()
+    {
+        symbols = exportedSymbols();
+        QVERIFY(!symbols.isEmpty());
+    }
+
+    void nothingElseIsExported()
+    {
+        // An operation, or one of the tables and records of a class; thunks adjust `this` for a base.
+        const QString member = "_Z(?:T[hv][n0-9_]+_)?NK?";
+        const QString record = "_ZT[VIST](?:N)";
+        const QStringList allowed{
+            member + anyOf(exportedClasses, "(?!E)"),
+            member + anyOf(exportedClassTemplates, "I.*E.*"),
+            member + anyOf(exportedFunctionTemplates, "I"),
+            record + anyOf(exportedClasses, "E$"),
+            record + anyOf(exportedClassTemplates, "I.*EE$"),
+            "_ZTCN" + anyOf(exportedClasses, "E[0-9]+_"),
+        };
+        const QRegularExpression pattern("^(?:" + allowed.join('|') + ')');
+        QStringList others;
+        for (const QString& symbol : qAsConst(symbols)) {
+            if (!pattern.match(symbol).hasMatch()) {
+                others.append(demangled(symbol) + "  " + symbol);
+            }
+        }
+        QVERIFY2(others.isEmpty(), qPrintable(QString::number(others.size()) + " more symbols, as\n" +
+                                              others.mid(0, 20).join('\n')));
+    }
+
+    void everyClassIsExported()
+    {
+        const QSet<QString> all(symbols.begin(), symbols.end());
+        for (const QString& name : exportedClasses) {
+            QVERIFY2(all.contains("_ZTIN" + inTolvik(name) + 'E'), qPrintable("no type record of " + name));
+            QVERIFY2(all.contains("_ZTVN" + inTolvik(name) + 'E'), qPrintable("no virtual table of " + name));
+            const QString constructor = "_ZN" + inTolvik(name) + "C1E";
+            QVERIFY2(std::any_of(symbols.begin(), symbols.end(),
+                                 [&](const QString& symbol) { return symbol.startsWith(constructor); }),
+                     qPrintable("no constructor of " + name));
+        }
+    }
+
+    void everyTemplateFamilyIsExported()
+    {
+        for (const QString& name : exportedFunctionTemplates + exportedClassTemplates) {
+            const QString instance = "_ZN" + inTolvik(name) + 'I';
+            QVERIFY2(std::any_of(symbols.begin(), symbols.end(),
+                                 [&](const QString& symbol) { return symbol.startsWith(instance); }),
+                     qPrintable("no instance of " + name));
+        }
+    }
+};
+
+QTEST_APPLESS_MAIN(ExportsTest)
+#include "exportstest.moc"

@@ -1,0 +1,210 @@
+#include "gml/AbstractFeatureType.hxx"
+#include "support/ExpectedProperties.h"
+#include "support/PropertyDump.h"
+#include "support/TestPaths.h"
+#include "UI/Models/CityGMLModel/CityGMLModel.h"
+
+#include <log4cplus/initializer.h>
+#include <log4cplus/nullappender.h>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QtTest>
+
+using namespace expectedproperties;
+using tolvik::CityGMLModel;
+
+namespace {
+
+const QString dumps = testpaths::dataFile("dumps");
+
+/// Rows of the tables that no feature of any document shows, with the reason.
+const QMap<QString, QString>& unreachableRows()
+{
+    const QString carrier = "the group of a carrier is entered with the element around it, which has no rows";
+    const QString boundary = "a thermal boundary leaves the attributes of extensions out";
+    const QString furniture = "city furniture leaves the attributes of extensions out";
+    static const QMap<QString, QString> rows{
+        {"energy::EnergyCarrierType 1", carrier},
+        {"energy::EnergyCarrierType 2", carrier},
+        {"energy::EnergyCarrierType 3", carrier},
+        {"energy::EnergyCarrierType 4", carrier},
+        {"visit_cityFurniture_genericProperties 1", furniture},
+        {"visit_thermalBoundary_genericProperties 1", boundary},
+        {"visit_thermalBoundary_genericProperties 2", boundary},
+        {"visit_thermalBoundary_genericProperties 3", boundary},
+    };
+    return rows;
+}
+
+QByteArray contentOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QString dumpPath(const QString& example)
+{
+    return dumps + '/' + QFileInfo(example).completeBaseName() + ".txt";
+}
+
+/// What the terminal tool prints of a document.
+QByteArray printed(const QString& example)
+{
+    QProcess tool;
+    tool.start(testpaths::program("tolvik-inspect"), {"properties", "--every", example});
+    if (!tool.waitForFinished(60000) || tool.exitCode() != 0) {
+        qFatal("%s", tool.readAllStandardError().constData());
+    }
+    return tool.readAllStandardOutput();
+}
+
+QString valueText(const QVariant& value)
+{
+    if (value.userType() == QMetaType::QVariantList) {
+        QStringList entries;
+        for (const QVariant& entry : value.toList()) {
+            entries += valueText(entry);
+        }
+        return '[' + entries.join(", ") + ']';
+    }
+    return value.userType() == QMetaType::QDateTime ? value.toDateTime().toString(Qt::ISODate)
+                                                    : value.toString();
+}
+
+/// A line of a dump, and the row of the tables that makes it; empty for a line that is of no row.
+struct Line
+{
+    QString text;
+    QString row;
+};
+
+void addLines(const Node& node, const QString& indent, QVector<Line>& lines)
+{
+    QString text = indent + node.label;
+    text += node.value.isValid() || node.editable ? ":" : "";
+    text += node.value.isValid() ? ' ' + valueText(node.value) : QString();
+    text += node.unit.isEmpty() ? QString() : ' ' + node.unit;
+    lines += Line{text, node.row};
+    for (const auto& child : node.children) {
+        addLines(*child, indent + "  ", lines);
+    }
+}
+
+/// The lines that the tables ask for, for all features of a document.
+QVector<Line> expectedLines(const QString& example)
+{
+    CityGMLModel model(nullptr, nullptr);
+    model.load(example);
+    QVector<Line> lines;
+    for (int row = 0; row < model.rowCount(QModelIndex()); ++row) {
+        gml::AbstractFeatureType* const feature = model.getFeature(row);
+        const QString type =
+            className(recordOf(*feature)).section("::", 1).remove(QRegularExpression("Type$"));
+        lines += Line{QString::number(row) + ' ' + type, QString()};
+        const std::unique_ptr<Node> root = Builder(true).build(*feature);
+        for (const auto& group : root->children) {
+            addLines(*group, "  ", lines);
+        }
+    }
+    return lines;
+}
+
+} // namespace
+
+/// What `tolvik-inspect properties --every` prints of the examples, compared with the files under
+/// data/dumps/.
+///
+/// With TOLVIK_WRITE_DUMPS=1 in the environment these files are written anew instead: do so when an example
+/// or a catalogue has changed, and read what the version control says of them.
+class DumpsTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    log4cplus::Initializer logging;
+    QSet<QString> shownRows;
+
+    void addExamples()
+    {
+        QTest::addColumn<QString>("path");
+        for (const QFileInfo& file : QDir(testpaths::examples()).entryInfoList({"*.gml"})) {
+            QTest::newRow(qPrintable(file.fileName())) << file.filePath();
+        }
+    }
+
+private slots:
+    void initTestCase()
+    {
+        log4cplus::Logger::getRoot().addAppender(log4cplus::SharedAppenderPtr(new log4cplus::NullAppender));
+    }
+
+    void thereIsADumpOfEachExample()
+    {
+        QStringList expected;
+        for (const QFileInfo& file : QDir(testpaths::examples()).entryInfoList({"*.gml"})) {
+            expected += QFileInfo(dumpPath(file.filePath())).fileName();
+        }
+        QVERIFY(!expected.isEmpty());
+        if (!qEnvironmentVariableIsSet("TOLVIK_WRITE_DUMPS")) {
+            QCOMPARE(QDir(dumps).entryList(QDir::Files), expected);
+        }
+    }
+
+    void theToolPrintsTheDump_data() { addExamples(); }
+
+    void theToolPrintsTheDump()
+    {
+        QFETCH(QString, path);
+        const QByteArray actual = printed(path);
+        if (qEnvironmentVariableIsSet("TOLVIK_WRITE_DUMPS")) {
+            QFile file(dumpPath(path));
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            QCOMPARE(file.write(actual), qint64(actual.size()));
+        }
+        const QByteArray expected = contentOf(dumpPath(path));
+        QVERIFY2(actual == expected, qPrintable(propertydump::difference(actual, expected)));
+    }
+
+    void linesAreThoseOfTheTables_data() { addExamples(); }
+
+    /// Each line of a dump stands for one row of the tables, with the value, the place and the order that
+    /// this row has for the object that it shows.
+    void linesAreThoseOfTheTables()
+    {
+        QFETCH(QString, path);
+        const QStringList actual = QString::fromUtf8(contentOf(dumpPath(path))).split('\n');
+        QStringList expected;
+        for (const Line& line : expectedLines(path)) {
+            expected += line.text;
+            shownRows += line.row;
+        }
+        expected += QString();
+        QVERIFY2(actual == expected,
+                 qPrintable(propertydump::difference(actual.join('\n'), expected.join('\n'))));
+    }
+
+    /// The union of the dumps lacks no row of the tables but those that nothing reaches.
+    void everyRowIsShown()
+    {
+        QStringList rows;
+        for (const auto& row : readTable("rows.tsv")) {
+            rows += row.value("type") + ' ' + row.value("order");
+        }
+        for (const auto& row : readTable("generic_rows.tsv")) {
+            rows += row.value("operation") + ' ' + row.value("order");
+        }
+        QCOMPARE(rows.size(), 925 + 37);
+        QStringList wrong;
+        for (const QString& row : rows) {
+            if (shownRows.contains(row) == unreachableRows().contains(row)) {
+                wrong += row + (shownRows.contains(row) ? " is shown" : " is missing");
+            }
+        }
+        QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join('\n')));
+    }
+};
+
+QTEST_GUILESS_MAIN(DumpsTest)
+#include "dumpstest.moc"

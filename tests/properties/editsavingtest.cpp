@@ -1,0 +1,168 @@
+#include "citygml/CityModel.h"
+#include "gml/FeaturePropertyType.hxx"
+#include "support/ExpectedProperties.h"
+#include "support/PropertyDump.h"
+#include "UI/Models/CityGMLModel/properties/GmlCorePropertyCreator.h"
+
+#include <limits>
+#include <QtTest>
+#include <sstream>
+
+using namespace expectedproperties;
+using namespace propertydump;
+using tolvik::CoreProperty;
+using tolvik::GmlCorePropertyCreator;
+
+namespace {
+
+std::unique_ptr<core::CityModelType> documentWith(const gml::AbstractFeatureType& feature)
+{
+    std::unique_ptr<core::CityModelType> document(new core::CityModelType);
+    document->featureMember().push_back(gml::FeaturePropertyType());
+    document->featureMember().back()._Feature(feature);
+    return document;
+}
+
+gml::AbstractFeatureType& featureOf(core::CityModelType& document)
+{
+    return document.featureMember().front()._Feature().get();
+}
+
+std::string written(const core::CityModelType& document)
+{
+    std::ostringstream stream;
+    core::CityModel(stream, document, xsd::cxx::xml::dom::namespace_infomap<char>());
+    return stream.str();
+}
+
+std::unique_ptr<core::CityModelType> read(const std::string& xml)
+{
+    std::istringstream stream(xml);
+    return std::unique_ptr<core::CityModelType>(core::CityModel(stream).release());
+}
+
+bool hasElement(const TypeRecord* type)
+{
+    return std::any_of(allElements, allElements + allElementsCount, [&](const ElementRecord& element) {
+        return element.type == type && !element.isAbstract;
+    });
+}
+
+/// What a property is edited to, for its kind.
+QVariant editOf(const QString& sort, CoreProperty& property)
+{
+    if (sort == "empty") {
+        return QVariant();
+    }
+    if (sort == "wrong") {
+        return property.defaultValue().userType() == QMetaType::QString ? QVariant(QVariantList{1})
+                                                                        : QVariant("no such value");
+    }
+    if (classOf(property).contains("TimeIndeterminateValueType")) {
+        return "now";
+    }
+    const bool extreme = sort == "extreme";
+    if (!property.potentialValues().isEmpty()) {
+        return extreme ? property.potentialValues().last() : property.potentialValues().first();
+    }
+    switch (static_cast<QMetaType::Type>(property.defaultValue().userType())) {
+    case QMetaType::Double:
+        return extreme ? -std::numeric_limits<double>::max() : 12.25;
+    case QMetaType::Int:
+        return extreme ? std::numeric_limits<int>::min() + 1 : 1984;
+    case QMetaType::ULongLong:
+        return extreme ? QVariant(std::numeric_limits<unsigned>::max()) : QVariant(3);
+    case QMetaType::Bool:
+        return !property.value().toBool();
+    case QMetaType::QDate:
+        return extreme ? QDate(9999, 12, 31) : QDate(2001, 2, 3);
+    case QMetaType::QDateTime:
+        return extreme ? QDateTime(QDate(12345, 12, 31), QTime(23, 59, 59))
+                       : QDateTime(QDate(2001, 2, 3), QTime(4, 5, 6));
+    case QMetaType::QVariantList:
+        return extreme ? QVariantList{"-1e300", "1000000", 0.1} : QVariantList{3, 4};
+    default:
+        return extreme ? QString("<a b='c'>&amp; \"é 日本 𝄞\" ]]> ").repeated(20) + 'x' : QString("edited");
+    }
+}
+
+void editAll(CoreProperty& property, const QString& sort)
+{
+    if (typeid(property) != typeid(CoreProperty)) {
+        property.setValue(editOf(sort, property));
+    }
+    for (const auto& child : property.properties()) {
+        editAll(*child, sort);
+    }
+}
+
+Fondo::RefPtr<CoreProperty> propertiesOf(core::CityModelType& document, bool existingOnly)
+{
+    return GmlCorePropertyCreator::createProperty(&featureOf(document), existingOnly);
+}
+
+} // namespace
+
+/// Edits of every attribute of every feature, saved and read again.
+class EditSavingTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    /// Features that can be members of a document.
+    static QStringList memberTypes()
+    {
+        QStringList types;
+        for (std::size_t i = 0; i < allTypesCount; ++i) {
+            const QString name = className(allTypes[i]);
+            if (isFeature(allTypes[i]) && hasElement(allTypes[i]) && name != "core::CityModelType") {
+                types += name;
+            }
+        }
+        return types;
+    }
+
+private slots:
+    void initTestCase()
+    {
+        for (const auto& row : readTable("rows.tsv")) {
+            Filler::wantedTypes() += row.value("type");
+        }
+    }
+
+    void editsSurvive_data()
+    {
+        QTest::addColumn<QString>("type");
+        QTest::addColumn<QString>("sort");
+        for (const QString& type : memberTypes()) {
+            for (const QString sort : {"ordinary", "empty", "extreme", "wrong"}) {
+                QTest::newRow(qPrintable(type + ' ' + sort)) << type << sort;
+            }
+        }
+    }
+
+    void editsSurvive()
+    {
+        QFETCH(QString, type);
+        QFETCH(QString, sort);
+        for (const bool everything : {false, true}) {
+            const std::unique_ptr<xml_schema::type> made = Filler(everything).make(recordByClass(type));
+            auto document = documentWith(dynamic_cast<const gml::AbstractFeatureType&>(*made));
+            editAll(*propertiesOf(*document, false), sort);
+            const QString edited = dump(*propertiesOf(*document, true));
+            const std::string xml = written(*document);
+            try {
+                document = read(xml);
+            } catch (const xsd::cxx::tree::exception<char>& error) {
+                std::ostringstream reason;
+                reason << error;
+                QFAIL((reason.str() + '\n' + xml.substr(0, 6000)).c_str());
+            }
+            const QString reloaded = dump(*propertiesOf(*document, true));
+            QVERIFY2(reloaded == edited, qPrintable(difference(reloaded, edited)));
+        }
+    }
+};
+
+QTEST_GUILESS_MAIN(EditSavingTest)
+#include "editsavingtest.moc"
