@@ -1,5 +1,5 @@
 # shellcheck shell=bash disable=SC2034
-# Shared by ./run and ./test, which source it: what a build needs, and when it needs it.
+# Shared by ./run, ./test and ./check, which source it: what a build needs, and when it needs it.
 
 root=$(cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.." && pwd)
 
