@@ -169,7 +169,7 @@ std::string eastWall(const Box& box)
 class Building
 {
 public:
-    Building(Xml& target, int building, int perRow) : xml(target), number(building), dice(building)
+    Building(Xml& target, int building, int perRow) : xml(target), index(building), dice(building)
     {
         const double west = originEast + (building % perRow) * plot;
         const int street = building / perRow;
@@ -188,8 +188,8 @@ public:
     void write()
     {
         xml.open("core:cityObjectMember");
-        xml.open("bldg:Building", {{"gml:id", identifier("building", number)}});
-        xml.leaf("gml:name", "Building " + std::to_string(number));
+        xml.open("bldg:Building", {{"gml:id", identifier("building", index)}});
+        xml.leaf("gml:name", "Building " + std::to_string(index));
         writeCityObject();
         writeAttributes();
         writeSurface("bldg:GroundSurface", "ground", level(house, house.bottom));
@@ -212,7 +212,7 @@ private:
         xml.open("core:externalReference");
         xml.leaf("core:informationSystem", "http://cadastre.example/buildings");
         xml.open("core:externalObject");
-        xml.leaf("core:name", "DEXX" + std::to_string(100000000 + number));
+        xml.leaf("core:name", "DEXX" + std::to_string(100000000 + index));
         xml.close({"core:externalObject", "core:externalReference"});
         xml.open("gen:stringAttribute", {{"name", "owner"}});
         xml.leaf("gen:value", dice.oneOf(owners));
@@ -248,8 +248,8 @@ private:
     void openSurface(std::string_view element, const char* kind, const std::string& corners)
     {
         xml.open("bldg:boundedBy");
-        xml.open(element, {{"gml:id", identifier(kind, number)}});
-        writePolygon("bldg:lod2MultiSurface", identifier(kind, number) + "_polygon", corners);
+        xml.open(element, {{"gml:id", identifier(kind, index)}});
+        writePolygon("bldg:lod2MultiSurface", identifier(kind, index) + "_polygon", corners);
     }
 
     void writeSurface(std::string_view element, const char* kind, const std::string& corners)
@@ -261,8 +261,8 @@ private:
     void writeOpening(std::string_view element, const char* kind, const Box& box)
     {
         xml.open("bldg:opening");
-        xml.open(element, {{"gml:id", identifier(kind, number)}});
-        writePolygon("bldg:lod3MultiSurface", identifier(kind, number) + "_polygon", southWall(box));
+        xml.open(element, {{"gml:id", identifier(kind, index)}});
+        writePolygon("bldg:lod3MultiSurface", identifier(kind, index) + "_polygon", southWall(box));
         xml.close({element, "bldg:opening"});
     }
 
@@ -287,7 +287,7 @@ private:
     void writePart()
     {
         xml.open("bldg:consistsOfBuildingPart");
-        xml.open("bldg:BuildingPart", {{"gml:id", identifier("part", number)}});
+        xml.open("bldg:BuildingPart", {{"gml:id", identifier("part", index)}});
         xml.leaf("bldg:function", dice.oneOf(functions));
         xml.leaf("bldg:measuredHeight", decimal(annexe.top - annexe.bottom), {{"uom", "m"}});
         writeSurface("bldg:RoofSurface", "partroof", level(annexe, annexe.top));
@@ -296,7 +296,7 @@ private:
 
     void writeAddress()
     {
-        xml.open("core:Address", {{"gml:id", identifier("address", number)}});
+        xml.open("core:Address", {{"gml:id", identifier("address", index)}});
         xml.open({"core:xalAddress", "xAL:AddressDetails", "xAL:Country"});
         xml.leaf("xAL:CountryName", "Germany");
         xml.open("xAL:Locality", {{"Type", "Town"}});
@@ -312,7 +312,7 @@ private:
     }
 
     Xml& xml;
-    int number;
+    int index;
     Dice dice;
     Box house;
     Box annexe;

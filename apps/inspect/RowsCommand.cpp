@@ -11,32 +11,32 @@ namespace {
 
 struct Row
 {
-    int number;
+    int index;
     QString type;
     QString id; // null if it is not there
     QString name;
 };
 
-Row readRow(const CityGMLModel& model, int number)
+Row readRow(const CityGMLModel& model, int index)
 {
-    const gml::AbstractFeatureType* feature = model.getFeature(number);
-    return {number, model.index(number, 1, QModelIndex()).data().toString(),
+    const gml::AbstractFeatureType* feature = model.getFeature(index);
+    return {index, model.index(index, 1, QModelIndex()).data().toString(),
             feature->id().present() ? QString::fromStdString(feature->id().get()) : QString(),
-            model.index(number, 0, QModelIndex()).data().toString()};
+            model.index(index, 0, QModelIndex()).data().toString()};
 }
 
 void printText(const Row& row, std::ostream& out)
 {
     // A name may stand over several lines in the document; here it is one field of one line.
     const QString name = row.name.simplified();
-    out << row.number << '\t' << row.type.toStdString() << '\t'
+    out << row.index << '\t' << row.type.toStdString() << '\t'
         << (row.id.isNull() ? "-" : row.id.toStdString()) << '\t' << name.toStdString() << '\n';
 }
 
 // Written row by row, since a document may have a million.
 void printJson(const Row& row, std::ostream& out)
 {
-    out << (row.number == 0 ? "\n" : ",\n") << "{\"row\":" << row.number << ",\"type\":" << jsonText(row.type)
+    out << (row.index == 0 ? "\n" : ",\n") << "{\"row\":" << row.index << ",\"type\":" << jsonText(row.type)
         << ",\"id\":" << (row.id.isNull() ? "null" : jsonText(row.id)) << ",\"name\":" << jsonText(row.name)
         << '}';
 }
@@ -49,8 +49,8 @@ int runRows(CityGMLModel& model, bool json, std::ostream& out)
     if (json) {
         out << '[';
     }
-    for (int number = 0; number < count; ++number) {
-        const Row row = readRow(model, number);
+    for (int index = 0; index < count; ++index) {
+        const Row row = readRow(model, index);
         if (json) {
             printJson(row, out);
         } else {

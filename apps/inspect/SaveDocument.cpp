@@ -72,7 +72,8 @@ QString write(CityGMLModel& model, QTemporaryFile& temporary, const QString& pat
     return QString();
 }
 
-/// The same without a temporary file left behind. \return why the document could not be saved; empty if it is
+/// The same without a temporary file left behind.
+/// \return why the document could not be saved; empty if it is
 QString save(CityGMLModel& model, const QString& output)
 {
     const QFileInfo given(output);

@@ -42,9 +42,9 @@ CoreProperty* findBelow(const CoreProperty& parent, const QStringRef& path)
 {
     QHash<QString, int> seen;
     for (const auto& child : parent.properties()) {
-        const int number = ++seen[child->name()];
-        QStringList names{QStringLiteral("%1[%2]").arg(child->name()).arg(number)};
-        if (number == 1) {
+        const int occurrence = ++seen[child->name()];
+        QStringList names{QStringLiteral("%1[%2]").arg(child->name()).arg(occurrence)};
+        if (occurrence == 1) {
             names += child->name();
         }
         for (const QString& name : names) {

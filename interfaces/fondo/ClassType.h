@@ -24,6 +24,7 @@ public:
     ClassType(const ClassType&) = delete;
     ClassType& operator=(const ClassType&) = delete;
 
+    /// Name of the class.
     const std::string& name() const { return className; }
 
     /// Whether this is \a other or the record of a class derived from it.

@@ -17,7 +17,10 @@ public:
     /// Implicit, so that a new object can be handed over where a RefPtr is expected.
     RefPtr(T* object) : object(object) { acquire(); }
 
+    /// Shares the object of another pointer; one that is moved from points to nothing.
+    /// @{
     RefPtr(const RefPtr& other) : object(other.object) { acquire(); }
+
     RefPtr(RefPtr&& other) noexcept : object(std::exchange(other.object, nullptr)) {}
 
     template <class U, class = std::enable_if_t<std::is_convertible_v<U*, T*>>>
@@ -25,9 +28,12 @@ public:
     {
         acquire();
     }
+    /// @}
 
     ~RefPtr() { release(object); }
 
+    /// Gives the present object up for another one.
+    /// @{
     RefPtr& operator=(const RefPtr& other)
     {
         if (this != &other) {
@@ -49,10 +55,18 @@ public:
         assign(other);
         return *this;
     }
+    /// @}
 
+    /// The object, or null.
     T* get() const { return object; }
+
+    /// The object, which must be there.
+    /// @{
     T& operator*() const { return *object; }
     T* operator->() const { return object; }
+    /// @}
+
+    /// Whether there is an object.
     explicit operator bool() const { return object != nullptr; }
 
 private:

@@ -38,11 +38,13 @@ public:
     /// Type record of Referenced itself.
     static const ClassType& classType();
 
+    /// Takes one reference.
     void ref() const { ++references; }
 
     /// Gives one reference up, and deletes the object with the last one.
     void unref() const;
 
+    /// How many references there are.
     int referenceCount() const { return references; }
 
 private:

@@ -28,11 +28,16 @@ public:
     String& operator=(String&&) noexcept = default;
     virtual ~String();
 
+    /// The same as the constructor from a narrow text, under a name that tells the encoding.
     static String fromUTF8(const std::string& text);
 
+    /// The text widened.
     virtual operator std::wstring() const;
 
+    /// The bytes as they are kept.
     const std::string& toUTF8() const { return utf8; }
+
+    /// Whether the text has no character.
     bool empty() const { return utf8.empty(); }
 
     friend bool operator==(const String& a, const String& b) { return a.utf8 == b.utf8; }

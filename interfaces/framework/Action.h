@@ -27,12 +27,13 @@ public:
     Action(const Action&) = delete;
     Action& operator=(const Action&) = delete;
 
+    /// Type record of the class.
     static const Fondo::ClassType& classType();
     const Fondo::ClassType& getType() const override;
 
     ~Action() override;
 
-    /// Owned by this.
+    /// What the menu shows and triggers. Owned by this.
     virtual QAction* action() const;
 
     /// Whether the action applies to an index: here any valid index of the model.
@@ -41,7 +42,10 @@ public:
     /// Whether the action applies to the indexes together: here if there are any and it applies to each.
     virtual bool areValid(const QList<QModelIndex>& indexes);
 
+    /// Number of the group of entries in which the action stands.
     virtual int groupHint();
+
+    /// Name of the submenu in which the action stands, empty for none.
     virtual const QString& subGroupNameHint();
 
 private:

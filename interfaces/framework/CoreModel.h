@@ -31,19 +31,25 @@ public:
     /// A point in the reference system of the document, in its units and axis order.
     struct _geoPoint
     {
-        double x = 0.0;
-        double y = 0.0;
-        double z = 0.0;
+        double x = 0.0; ///< first coordinate
+        double y = 0.0; ///< second coordinate
+        double z = 0.0; ///< third coordinate, the height
     };
 
     /// \param plugin what getModelPlugin() gives back; not owned, may be null
+    /// \param parent owner of the model, or null
     explicit CoreModel(ModelInterface* plugin, QObject* parent = nullptr);
     ~CoreModel() override;
 
     /// Loads a document from a device that is open for reading. Errors are the model's to report.
+    /// \param device not owned
     /// \param url where the document comes from
     virtual void load(QIODevice* device, const QUrl& url) = 0;
+
+    /// Loads a document from a stream. Errors are the model's to report.
     virtual void load(std::istream& stream) = 0;
+
+    /// Loads the document in a file. Errors are the model's to report.
     virtual void load(const QString& path) = 0;
 
     /// Writes the document to where it came from.
@@ -60,6 +66,7 @@ public:
     virtual void zoom(const QModelIndex& index) = 0;
 
     /// Makes the row the current one of the attached selection model.
+    /// \param index any column of the row
     /// \param select also makes it the only selected row
     virtual void goTo(const QModelIndex& index, bool select) = 0;
 
@@ -80,6 +87,8 @@ public:
 
     /// Whether the document has changed since it was loaded or saved.
     virtual bool dirty();
+
+    /// Says whether the document has changed since it was loaded or saved.
     virtual void dirty(bool changed);
 
     /// The plug-in given at construction.
@@ -93,16 +102,23 @@ public:
     /// counterclockwise, not closed, at the envelope's lowest z. Empty without a plug-in or an envelope.
     virtual QList<QList<_geoPoint>> footprint();
 
-    // Identifiers are those of the model; the lists are added to, not replaced.
+    /// Appends the identifiers of the hidden and of the visible rows to the two lists.
     virtual void getVisibilityIds(QStringList& hiddenIds, QStringList& visibleIds) const = 0;
 
     /// Brings the model to the state in which the listed rows, and no others, have the visibility \a visible.
     virtual void setVisibilityIds(const QStringList& ids, bool visible) = 0;
+
+    /// Appends the identifiers of the selected rows to the list.
     virtual void getSelectedIds(QStringList& ids) const = 0;
+
+    /// Selects the rows with the listed identifiers in the attached selection model.
     virtual void setSelectedIds(const QStringList& ids) = 0;
+
+    /// The rows with the listed identifiers.
     virtual QList<QModelIndex> getIndexList(const QStringList& ids) const = 0;
 
     /// Tells the model that a property of the row has been edited.
+    /// \param index any column of the row
     /// \param rebuild the row's property tree has to be built anew
     virtual void propertyChanged(const QModelIndex& index, bool rebuild) = 0;
 
@@ -121,6 +137,7 @@ protected:
     virtual void doDataSetChanged() = 0;
 
 public:
+    /// Gives the document a name, see getFileName().
     void setFileName(const QString& name);
 
     /// Name of the document, empty before one is loaded.
@@ -146,8 +163,8 @@ public:
 protected:
     QVector<Fondo::RefPtr<CoreProperty>> properties; ///< root of the property tree of each row
     QVector<bool> visibility;                        ///< for each row; true means hidden. See isVisible().
-    QString fileName;
-    QUrl url;
+    QString fileName;                                ///< name of the document
+    QUrl url;                                        ///< where the document came from
 
 private:
     ModelInterface* plugin;

@@ -28,10 +28,13 @@ namespace tolvik {
 class TOLVIK_PLATFORM_EXPORT CoreProperty : public Fondo::Referenced
 {
 public:
+    /// \param name the label, see name()
+    /// \param value the stored value; invalid for a group
     CoreProperty(QString name, QVariant value);
     CoreProperty(const CoreProperty&) = delete;
     CoreProperty& operator=(const CoreProperty&) = delete;
 
+    /// Type record of the class.
     static const Fondo::ClassType& classType();
     const Fondo::ClassType& getType() const override;
 
@@ -56,6 +59,7 @@ public:
     /// What a host offers where there is no value yet. Here invalid.
     virtual QVariant defaultValue() const;
 
+    /// Sets the unit of the value.
     /// \param unit may be null; not owned, see UnitCreator
     virtual void setUnit(AbstractUnit* unit);
 
@@ -96,11 +100,16 @@ public:
     bool addProperty(CoreProperty* property);
 
     /// The first child of that name.
+    /// \param name label to look for
     /// \param recursive also looks below the children: all that is below the first child comes before the
-    /// second \return null if there is none; owned by this
+    /// second
+    /// \return null if there is none; owned by this
     CoreProperty* getProperty(const QString& name, bool recursive) const;
 
+    /// The label on screen.
     const QString& name() const { return label; }
+
+    /// The unit of the value, null if it has none. Not owned.
     AbstractUnit* unit() const { return measureUnit; }
 
     /// The children in order. None is null.
@@ -113,7 +122,7 @@ private:
     QVector<Fondo::RefPtr<CoreProperty>> children;
 
 protected:
-    QList<QVariant> m_potentialValues;
+    QList<QVariant> m_potentialValues; ///< the values to choose from, see potentialValues()
 };
 
 } // namespace tolvik

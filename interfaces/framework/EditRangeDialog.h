@@ -14,6 +14,8 @@ class TOLVIK_PLATFORM_EXPORT EditRangeDialog : public QDialog
     Q_OBJECT
 
 public:
+    /// \param ranges the numbers to edit
+    /// \param parent window that the dialog belongs to, or null
     explicit EditRangeDialog(const QVector<double>& ranges, QWidget* parent = nullptr);
     ~EditRangeDialog() override;
 

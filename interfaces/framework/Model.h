@@ -14,6 +14,8 @@ class TOLVIK_PLATFORM_EXPORT Model : public CoreModel
     Q_OBJECT
 
 public:
+    /// \param plugin what getModelPlugin() gives back; not owned, may be null
+    /// \param parent owner of the model, or null
     explicit Model(ModelInterface* plugin, QObject* parent = nullptr);
     ~Model() override;
 
@@ -30,12 +32,15 @@ public:
     virtual EditRangeDialog* getEditRangeDialog(const QVector<double>& ranges) = 0;
 
 protected:
+    /// The work of the public operation of the same form, with its signals.
+    /// @{
     virtual void reallyDoHideAll() = 0;
     virtual void reallyDoHide(const QModelIndex& index) = 0;
     virtual void reallyDoHide(const QList<QModelIndex>& indexes) = 0;
     virtual void reallyDoShowAll() = 0;
     virtual void reallyDoShow(const QModelIndex& index) = 0;
     virtual void reallyDoShow(const QList<QModelIndex>& indexes) = 0;
+    /// @}
 
 public:
     /// The attached selection model, or null.
@@ -46,12 +51,15 @@ public:
     void setSelectionModel(QItemSelectionModel* model);
 
 public slots:
+    /// Hides or shows one row, the listed rows or all.
+    /// @{
     void hide(const QModelIndex& index);
     void hide(const QList<QModelIndex>& indexes);
     void hideAll();
     void show(const QModelIndex& index);
     void show(const QList<QModelIndex>& indexes);
     void showAll();
+    /// @}
 
     /// Hides the row if it is visible, and shows it if not. Nothing for an invalid index.
     void toggleVisibility(const QModelIndex& index);

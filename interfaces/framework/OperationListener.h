@@ -27,8 +27,9 @@ public:
     virtual void begin(const QString& title, long long totalSteps, bool blocking, int level) = 0;
 
     /// The operation of that level has come this far. Told at most 20 times a second over all operations, so
-    /// the last steps of an operation are as a rule not told. \param doneSteps steps done since the operation
-    /// began
+    /// the last steps of an operation are as a rule not told.
+    /// \param doneSteps steps done since the operation began
+    /// \param level as for begin()
     virtual void progress(long long doneSteps, int level) = 0;
 
     /// The operation of that level has ended, completed or not.

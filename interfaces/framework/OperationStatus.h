@@ -35,8 +35,9 @@ public:
     }
 
     /// Registers the host's listener, or none with null. Operations that are under way tell the former
-    /// listener nothing more, not even their end, and the new one nothing at all. \param listener not owned;
-    /// it must be unregistered before it dies \return the listener registered before
+    /// listener nothing more, not even their end, and the new one nothing at all.
+    /// \param listener not owned; it must be unregistered before it dies
+    /// \return the listener registered before
     static OperationListener* setListener(OperationListener* listener);
 
 private:

@@ -24,6 +24,7 @@ class TOLVIK_PLATFORM_EXPORT ProxyModel : public QAbstractProxyModel
 
 public:
     /// \param name the object name, which stands in log lines
+    /// \param parent owner of the model, or null
     explicit ProxyModel(const QString& name, QObject* parent = nullptr);
     ~ProxyModel() override;
 
@@ -44,6 +45,8 @@ public:
     /// it. But when the selection is replaced by something below a node, the node does not take that along;
     /// and a current node that is selected gets what is below it back when all of that is deselected at once.
     virtual void setRecursiveSelection(bool recursive) = 0;
+
+    /// Whether selecting a node selects what is below it, see setRecursiveSelection().
     virtual bool isRecursiveSelection() = 0;
 
     /// The attached selection model over this model, or null.
@@ -59,9 +62,11 @@ public:
     virtual int rootNodeSize() = 0;
 
     /// The next match behind \a start, in the order on screen with everything open. From the end the search
-    /// goes on at the beginning and comes back to \a start at last. \param start any column of the index to
-    /// start from; an invalid one starts at the beginning \param text  what to look for \return the index of
-    /// the match in column 0; invalid if there is none, or for an empty text
+    /// goes on at the beginning and comes back to \a start at last.
+    /// \param start any column of the index to start from; an invalid one starts at the beginning
+    /// \param text what to look for
+    /// \param sensitivity whether capital and small letters differ
+    /// \return the index of the match in column 0; invalid if there is none, or for an empty text
     virtual QModelIndex search(const QModelIndex& start, const QString& text,
                                Qt::CaseSensitivity sensitivity);
 
@@ -86,27 +91,37 @@ protected:
 
     /// Extends the selection to the siblings of the current index.
     /// \param sameType only siblings of the same type
+    /// \param reserved without a meaning yet
     virtual void selectSiblings(bool sameType, bool reserved) = 0;
 
     /// Whether one of the columns of searchFilter() shows a text with \a text in it.
     /// \param index any column of the index to look at
+    /// \param text what to look for
+    /// \param sensitivity whether capital and small letters differ
     virtual bool searchIndex(const QModelIndex& index, const QString& text, Qt::CaseSensitivity sensitivity);
 
-    // What the source's signals lead to.
+    /// What the signal dataChanged() of the source leads to.
     virtual void sourceDataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight);
 
     /// A new order of the source's rows: the form is built anew, since it may follow that order.
     virtual void sourceLayoutChanged();
+
+    /// What the signal of the source of the same name leads to.
+    /// @{
     virtual void sourceLayoutAboutToBeChanged();
     virtual void sourceModelAboutToBeReset();
     virtual void sourceModelReset();
+    /// @}
 
 public:
     /// Extends the selection to the children of all selected nodes.
     virtual void selectChildren() = 0;
 
 protected:
+    /// What the rows \a start to \a end lead to that the source has inserted below \a parent.
     virtual void rowsInsertedInSourceModel(const QModelIndex& parent, int start, int end) = 0;
+
+    /// What the rows \a start to \a end lead to that the source is about to remove below \a parent.
     virtual void rowsAboutToBeRemovedInSourceModel(const QModelIndex& parent, int start, int end) = 0;
 
     /// What a change of the selection leads to while the selection is recursive.
@@ -122,12 +137,15 @@ public:
     const QList<Action*>& getActions();
 
 public slots:
+    /// Extends the selection to the siblings of the current index that have its type.
     void selectSiblingsWithSameType();
 
 signals:
     /// Sent around a rebuild that the proxy itself starts, so not for one that follows the source.
+    /// @{
     void aboutToBeChanged();
     void changed();
+    /// @}
 
 protected:
     /// Builds the form anew with `sourceBusy` up until the reset ends. For rebuilds after which what was
@@ -138,8 +156,8 @@ protected:
     /// can be read again.
     void rebuilt();
 
-    QPointer<QAbstractItemModel> source;
-    QPointer<QItemSelectionModel> selection;
+    QPointer<QAbstractItemModel> source;     ///< the model that this one shows; not owned
+    QPointer<QItemSelectionModel> selection; ///< the attached selection model; not owned
 
     /// While true the form must not be read: it may refer to objects of the source that are gone.
     bool sourceBusy = false;

@@ -19,7 +19,10 @@ public:
     double toSI(double value) const override;
     double fromSI(double value) const override;
 
+    /// Power of ten of the multiple.
     int exponent() const { return decimalExponent; }
+
+    /// Power to which the multiple is raised.
     int power() const { return unitPower; }
 
 private:

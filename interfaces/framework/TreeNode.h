@@ -25,32 +25,43 @@ public:
     explicit TreeNode(TreeNode* parent);
 
     /// Copies parent, number and name, and shares the children.
+    /// @{
     TreeNode(const TreeNode& other);
     TreeNode& operator=(const TreeNode& other);
+    /// @}
 
+    /// Type record of the class.
     static const Fondo::ClassType& classType();
     const Fondo::ClassType& getType() const override;
 
     ~TreeNode() override;
 
-    /// For reading and changing. A changed vector needs the children's parents and numbers set by the caller.
+    /// The children, for reading and changing. A changed vector needs the children's parents and numbers set
+    /// by the caller.
+    /// @{
     std::vector<Fondo::RefPtr<TreeNode>>& children() { return childNodes; }
     const std::vector<Fondo::RefPtr<TreeNode>>& children() const { return childNodes; }
+    /// @}
 
     /// The node above, null for a root. Not owned.
     TreeNode* parent() const { return parentNode; }
 
-    /// Touches no node's children.
+    /// Sets the node above. Touches no node's children.
     void setParent(TreeNode* parent) { parentNode = parent; }
 
     /// The node's row under its parent, or among the roots; -1 while unset.
     int childNumber() const { return number; }
+
+    /// Sets the node's row under its parent, or among the roots.
     void setChildNumber(int row) { number = row; }
 
     /// Gives each child its position in children() as child number. Null children keep their place.
     void renumberChildren();
 
+    /// What the node is called on screen.
     const Fondo::String& getName() const { return name; }
+
+    /// Sets what the node is called on screen.
     void setName(const Fondo::String& text) { name = text; }
 
 private:
@@ -59,7 +70,7 @@ private:
     std::vector<Fondo::RefPtr<TreeNode>> childNodes;
 
 protected:
-    Fondo::String name;
+    Fondo::String name; ///< what the node is called on screen
 };
 
 } // namespace tolvik

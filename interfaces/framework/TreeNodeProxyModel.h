@@ -18,6 +18,8 @@ class TOLVIK_PLATFORM_EXPORT TreeNodeProxyModel : public ProxyModel
     Q_OBJECT
 
 public:
+    /// \param name the object name, which stands in log lines
+    /// \param parent owner of the model, or null
     explicit TreeNodeProxyModel(const QString& name, QObject* parent = nullptr);
     ~TreeNodeProxyModel() override;
 
@@ -83,6 +85,8 @@ protected:
 
     /// Reports new check states for all nodes of the rows, and for everything above them.
     virtual void visibilityChangedInSourceModel(const QList<QModelIndex>& indexes);
+
+    /// The same for one row.
     virtual void visibilityChangedInSourceModel(const QModelIndex& index);
 
     /// All indexes of a row of the source. Here that of mapFromSource(), if there is one.
@@ -97,6 +101,7 @@ public:
     /// The node behind an index of such a model, null for an invalid index.
     static TreeNode* treeNode(const QModelIndex& index);
 
+    /// Whether nodes have a check box, see setCheckColumnEnabled().
     bool isCheckColumnEnabled() const { return checkColumnEnabled; }
 
     /// Whether nodes have a check box that shows and changes the visibility of the rows behind them. Off at
@@ -104,9 +109,9 @@ public:
     void setCheckColumnEnabled(bool enabled);
 
 protected:
-    QList<Fondo::RefPtr<TreeNode>> rootNodes;
-    log4cplus::Logger logger;
-    bool checkColumnEnabled = false;
+    QList<Fondo::RefPtr<TreeNode>> rootNodes; ///< top level of the tree; none is null
+    log4cplus::Logger logger;                 ///< takes what goes wrong while a tree is built
+    bool checkColumnEnabled = false;          ///< see setCheckColumnEnabled()
 
 private:
     QList<QModelIndex> sourceRows(const QList<QModelIndex>& indexes) const;

@@ -6,11 +6,11 @@ namespace tolvik {
 /// its geometry is drawn. Five numbers in this order; a plain record.
 struct CityGMLViewSettings
 {
-    double lod0Range = 20000.0;
-    double lod1Range = 10000.0;
-    double lod2Range = 4000.0;
-    double lod3Range = 1000.0;
-    double lod4Range = 200.0;
+    double lod0Range = 20000.0; ///< up to where level of detail 0 is drawn, in metres
+    double lod1Range = 10000.0; ///< up to where level of detail 1 is drawn, in metres
+    double lod2Range = 4000.0;  ///< up to where level of detail 2 is drawn, in metres
+    double lod3Range = 1000.0;  ///< up to where level of detail 3 is drawn, in metres
+    double lod4Range = 200.0;   ///< up to where level of detail 4 is drawn, in metres
 };
 
 } // namespace tolvik

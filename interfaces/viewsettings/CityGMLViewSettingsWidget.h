@@ -16,6 +16,7 @@ class TOLVIK_PLATFORM_EXPORT CityGMLViewSettingsWidget : public QWidget
     Q_OBJECT
 
 public:
+    /// \param parent widget that it stands in, or null
     explicit CityGMLViewSettingsWidget(QWidget* parent = nullptr);
     ~CityGMLViewSettingsWidget() override;
 
