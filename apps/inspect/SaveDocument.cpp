@@ -89,7 +89,7 @@ QString save(CityGMLModel& model, const QString& output)
     if (!temporary.open()) {
         return temporary.errorString();
     }
-    const QString reason = write(model, temporary, target.filePath());
+    QString reason = write(model, temporary, target.filePath());
     if (reason.isEmpty()) {
         model.setFileName(output);
     }
