@@ -47,8 +47,9 @@ const auto& valueAt(const C& c, std::size_t)
 {
     return c.get();
 }
+// A sequence of booleans gives copies, every other one references.
 template <typename T, bool fundamental>
-const T& valueAt(const xsd::cxx::tree::sequence<T, fundamental>& c, std::size_t index)
+decltype(auto) valueAt(const xsd::cxx::tree::sequence<T, fundamental>& c, std::size_t index)
 {
     return c[index];
 }

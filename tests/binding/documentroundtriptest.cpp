@@ -465,6 +465,17 @@ private slots:
                  QStringList());
     }
 
+    void repeatedBooleansComeBack()
+    {
+        const QByteArray original =
+            cityModel("<gml:featureMember><gml:GridCoverage><gml:gridDomain/><gml:rangeSet><gml:ValueArray>"
+                      "<gml:valueComponents><gml:Boolean>true</gml:Boolean><gml:Count>3</gml:Count>"
+                      "<gml:Boolean>false</gml:Boolean></gml:valueComponents>"
+                      "</gml:ValueArray></gml:rangeSet></gml:GridCoverage></gml:featureMember>");
+        QCOMPARE(XmlNode::differences(XmlNode::parse(original), XmlNode::parse(write(*read(original)))),
+                 QStringList());
+    }
+
     void anUnexpectedOrderIsRead()
     {
         const Document document = read(building("<bldg:roofType>flat</bldg:roofType><gml:name>n</gml:name>"));
