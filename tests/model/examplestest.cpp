@@ -1,3 +1,4 @@
+#include "support/SchemaValidator.h"
 #include "support/TestPaths.h"
 #include "UI/Models/CityGMLModel/CityGMLModel.h"
 
@@ -6,22 +7,12 @@
 #include <QMap>
 #include <QSet>
 #include <QTest>
-#include <QUrl>
 #include <QXmlStreamReader>
 
 #include <algorithm>
 #include <log4cplus/initializer.h>
 #include <log4cplus/nullappender.h>
 #include <memory>
-#include <xercesc/framework/MemBufInputSource.hpp>
-#include <xercesc/framework/XMLGrammarPoolImpl.hpp>
-#include <xercesc/sax/SAXParseException.hpp>
-#include <xercesc/sax2/DefaultHandler.hpp>
-#include <xercesc/sax2/SAX2XMLReader.hpp>
-#include <xercesc/sax2/XMLReaderFactory.hpp>
-#include <xercesc/util/PlatformUtils.hpp>
-#include <xercesc/util/XMLString.hpp>
-#include <xercesc/util/XMLUni.hpp>
 
 using namespace tolvik;
 
@@ -111,68 +102,6 @@ bool isOfExtension(const QString& name)
                        [&](const QString& space) { return name.startsWith('{' + space); });
 }
 
-/// Keeps the first error with its line; nothing but the loaded schemas is ever opened.
-class ErrorCollector : public xercesc::DefaultHandler
-{
-public:
-    QString first;
-
-    void warning(const xercesc::SAXParseException& error) override { keep(error); }
-    void error(const xercesc::SAXParseException& error) override { keep(error); }
-    void fatalError(const xercesc::SAXParseException& error) override { keep(error); }
-    void resetErrors() override {}
-
-private:
-    void keep(const xercesc::SAXParseException& error)
-    {
-        if (first.isEmpty()) {
-            char* text = xercesc::XMLString::transcode(error.getMessage());
-            first = QStringLiteral("line %1: %2").arg(error.getLineNumber()).arg(text);
-            xercesc::XMLString::release(&text);
-        }
-    }
-};
-
-/// A validating reader with full checking of the schemas.
-std::unique_ptr<xercesc::SAX2XMLReader> validatingReader(xercesc::XMLGrammarPool& pool,
-                                                         ErrorCollector& errors)
-{
-    using xercesc::XMLUni;
-    std::unique_ptr<xercesc::SAX2XMLReader> reader(
-        xercesc::XMLReaderFactory::createXMLReader(xercesc::XMLPlatformUtils::fgMemoryManager, &pool));
-    reader->setFeature(XMLUni::fgSAX2CoreNameSpaces, true);
-    reader->setFeature(XMLUni::fgSAX2CoreValidation, true);
-    reader->setFeature(XMLUni::fgXercesDynamic, false);
-    reader->setFeature(XMLUni::fgXercesSchema, true);
-    reader->setFeature(XMLUni::fgXercesSchemaFullChecking, true);
-    reader->setFeature(XMLUni::fgXercesHandleMultipleImports, true);
-    reader->setFeature(XMLUni::fgXercesUseCachedGrammarInParse, true);
-    reader->setErrorHandler(&errors);
-    return reader;
-}
-
-/// One schema that imports all schemas of the project.
-QByteArray allSchemas()
-{
-    QMap<QString, QString> files;
-    for (const QFileInfo& file : QDir(testpaths::schemas()).entryInfoList({"*.xsd"})) {
-        QXmlStreamReader reader(contentOf(file.filePath()));
-        reader.readNextStartElement();
-        // Of several files of one namespace the first includes the others.
-        const QString target = reader.attributes().value("targetNamespace").toString();
-        if (!files.contains(target)) {
-            files[target] = file.absoluteFilePath();
-        }
-    }
-    QByteArray schema = "<xs:schema xmlns:xs='http://www.w3.org/2001/XMLSchema'>";
-    for (auto file = files.begin(); file != files.end(); ++file) {
-        schema += QStringLiteral("<xs:import namespace='%1' schemaLocation='%2'/>")
-                      .arg(file.key(), QUrl::fromLocalFile(*file).toString(QUrl::FullyEncoded))
-                      .toUtf8();
-    }
-    return schema + "</xs:schema>";
-}
-
 } // namespace
 
 /// The documents under examples/: they are what they claim to be.
@@ -181,18 +110,6 @@ class ExamplesTest : public QObject
     Q_OBJECT
 
 private:
-    QString validate(const QByteArray& document)
-    {
-        ErrorCollector errors;
-        const auto reader = validatingReader(*pool, errors);
-        // Where a document says that schemas lie is no business of ours.
-        reader->setFeature(xercesc::XMLUni::fgXercesLoadSchema, false);
-        const xercesc::MemBufInputSource source(reinterpret_cast<const XMLByte*>(document.constData()),
-                                                static_cast<XMLSize_t>(document.size()), "example");
-        reader->parse(source);
-        return errors.first;
-    }
-
     void addExamples()
     {
         QTest::addColumn<QString>("path");
@@ -204,27 +121,13 @@ private:
     }
 
     log4cplus::Initializer logging;
-    std::unique_ptr<xercesc::XMLGrammarPool> pool;
+    std::unique_ptr<SchemaValidator> validator;
 
 private slots:
     void initTestCase()
     {
         log4cplus::Logger::getRoot().addAppender(log4cplus::SharedAppenderPtr(new log4cplus::NullAppender));
-        xercesc::XMLPlatformUtils::Initialize();
-        pool = std::make_unique<xercesc::XMLGrammarPoolImpl>();
-        ErrorCollector errors;
-        const auto reader = validatingReader(*pool, errors);
-        const QByteArray schema = allSchemas();
-        const xercesc::MemBufInputSource source(reinterpret_cast<const XMLByte*>(schema.constData()),
-                                                static_cast<XMLSize_t>(schema.size()), "schemas");
-        reader->loadGrammar(source, xercesc::Grammar::SchemaGrammarType, true);
-        QCOMPARE(errors.first, QString());
-    }
-
-    void cleanupTestCase()
-    {
-        pool.reset();
-        xercesc::XMLPlatformUtils::Terminate();
+        validator = std::make_unique<SchemaValidator>(testpaths::schemas());
     }
 
     void isValid_data() { addExamples(); }
@@ -232,7 +135,7 @@ private slots:
     void isValid()
     {
         QFETCH(QString, path);
-        QCOMPARE(validate(contentOf(path)), QString());
+        QCOMPARE(validator->validate(contentOf(path)), QString());
     }
 
     void validationSeesFaults_data()
@@ -255,7 +158,7 @@ private slots:
         QFETCH(QByteArray, by);
         QByteArray document = contentOf(testpaths::examples() + "/district.gml");
         QVERIFY(document.contains(replaced));
-        QVERIFY(validate(document.replace(replaced, by)).startsWith("line "));
+        QVERIFY(validator->validate(document.replace(replaced, by)).startsWith("line "));
     }
 
     void loads_data() { addExamples(); }
