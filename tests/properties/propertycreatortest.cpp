@@ -1,10 +1,12 @@
 #include "bldg/BuildingType.hxx"
 #include "core/ExternalObjectReferenceType.hxx"
 #include "core/ExternalReferenceType.hxx"
+#include "gen/StringAttributeType.hxx"
 #include "gml/EnvelopeType.hxx"
 #include "support/PropertyText.h"
 
 #include <QtTest>
+#include <QUrl>
 
 using namespace propertytext;
 using tolvik::CoreProperty;
@@ -208,6 +210,25 @@ private slots:
                     "  ClassType: Building\n"));
     }
 
+    /// Weather data comes after all attributes, so that its group does, wherever it stands in the document.
+    void weatherDataBeforeAGenericAttribute()
+    {
+        QCOMPARE(treeText("<bldg:Building>"
+                          "<energy:weatherData><energy:WeatherData>"
+                          "<energy:weatherDataType>WindSpeed</energy:weatherDataType><energy:values/>"
+                          "</energy:WeatherData></energy:weatherData>"
+                          "<gen:stringAttribute name='a'><gen:value>1</gen:value></gen:stringAttribute>"
+                          "</bldg:Building>"),
+                 QString("Fields\n"
+                         "  a: 1\n"
+                         "  ClassType: Building\n"
+                         "Properties\n"
+                         "  Energy\n"
+                         "    weatherDatas\n"
+                         "      weatherData\n"
+                         "        weatherDataType: WindSpeed\n"));
+    }
+
     void aGenericAttributeSetInsideAnother()
     {
         QCOMPARE(treeText("<bldg:Building><gen:genericAttributeSet name='outer'>"
@@ -245,6 +266,23 @@ private slots:
                          "  ClassType: Building\n"));
     }
 
+    /// The group of the references is that of no other row.
+    void attributesBesideReferencesToOtherObjects()
+    {
+        QCOMPARE(treeText("<bldg:Building>"
+                          "<core:externalReference><core:informationSystem>s</core:informationSystem>"
+                          "<core:externalObject><core:name>n</core:name></core:externalObject>"
+                          "</core:externalReference>"
+                          "<gen:stringAttribute name='a'><gen:value>1</gen:value></gen:stringAttribute>"
+                          "</bldg:Building>"),
+                 QString("Fields\n"
+                         "  ExternalReferences\n"
+                         "    externalObjectReference\n"
+                         "      ReferenceName: n\n"
+                         "  a: 1\n"
+                         "  ClassType: Building\n"));
+    }
+
     void anExternalReferenceByItself()
     {
         core::ExternalObjectReferenceType target;
@@ -260,6 +298,29 @@ private slots:
                                           "  externalObject\n"
                                           "    externalObjectReference\n"
                                           "      ReferenceUri: http://object\n"));
+        // What comes after it stands beside it.
+        gen::StringAttributeType attribute;
+        attribute.name("a");
+        attribute.accept(&creator);
+        QCOMPARE(findProperty(root, {"Fields"})->properties().back()->name(), QString("a"));
+    }
+
+    /// A reference that points to nothing has a row without a value, and no empty address.
+    void references()
+    {
+        Document document(
+            "<energy:ThermalBoundary>"
+            "<energy:thermalBoundaryType>Roof</energy:thermalBoundaryType>"
+            "<energy:relatesTo xlink:href='a b'/><energy:relatesTo/><energy:relatesTo xlink:href=''/>"
+            "</energy:ThermalBoundary>");
+        const auto root = propertiesOf(document);
+        QVariantList targets;
+        for (const auto& target : findProperty(root, {"Properties", "Energy", "relatesTo"})->properties()) {
+            targets += target->value();
+            QVERIFY(!target->editable());
+        }
+        QCOMPARE(targets, (QVariantList{QUrl("a b", QUrl::TolerantMode), QVariant(), QUrl()}));
+        QVERIFY(targets[2].isValid());
     }
 
     void generalizations()

@@ -129,6 +129,18 @@ private:
         COMPARE_WRONG(optional<T>, "[]")
     }
 
+    /// An editor starts from the present moment.
+    template <typename T>
+    void compareStartMoment()
+    {
+        const QDateTime before = QDateTime::currentDateTime();
+        const QVariant start = defaultValue<T>();
+        const QDateTime after = QDateTime::currentDateTime();
+        QCOMPARE(start.userType(), int(QMetaType::QDateTime));
+        QVERIFY(before <= start.toDateTime() && start.toDateTime() <= after);
+        QCOMPARE(start.toDateTime().timeSpec(), Qt::LocalTime);
+    }
+
 private slots:
     void realNumbers()
     {
@@ -184,6 +196,8 @@ private slots:
                  QString("qulonglong 18446744073709551615"));
         QCOMPARE(edited<Unsigned>(4294967295U), QString("qulonglong 4294967295"));
         QCOMPARE(edited<Unsigned>("4294967296"), QString("qulonglong 0"));
+        QCOMPARE(edited<Unsigned>(-1), QString("qulonglong 0"));
+        QCOMPARE(edited<Unsigned>("-1"), QString("qulonglong 0"));
         COMPARE_WRONG(Unsigned, "qulonglong 0")
         QCOMPARE(shown(defaultValue<Unsigned>()), QString("qulonglong 0"));
     }
@@ -330,7 +344,7 @@ private slots:
             QVERIFY(made->year() == 0 && made->month() == 0 && made->day() == 0);
             QVERIFY(!toQVariant<Moment>(made).toDateTime().isValid());
         }
-        QCOMPARE(defaultValue<Moment>().userType(), int(QMetaType::QDateTime));
+        compareStartMoment<Moment>();
     }
 
     void durations()
@@ -348,7 +362,7 @@ private slots:
         QCOMPARE(shown(toQVariant<Duration>(Duration())), QString("invalid"));
         QVERIFY(!fromQVariant<Duration>(QDateTime::currentDateTime(), metre).present());
         QVERIFY(!fromQVariant<Duration>(QVariant(), metre).present());
-        QCOMPARE(defaultValue<Duration>().userType(), int(QMetaType::QDateTime));
+        compareStartMoment<Duration>();
     }
 
     void textLists()
