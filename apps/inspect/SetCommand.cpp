@@ -12,6 +12,7 @@
 #include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QRegularExpression>
 #include <QStringList>
 #include <QUrl>
 #include <stdexcept>
@@ -116,6 +117,19 @@ QVariant valueFromText(const QString& text, const QVariant& example)
     return fits ? value : QVariant();
 }
 
+/// \throws EditError if the value is or has a text that no XML document can hold
+void verifyCharacters(const QString& property, const QVariant& value)
+{
+    static const QRegularExpression notInXml(
+        QStringLiteral("[^\\t\\n\\r\\x{20}-\\x{D7FF}\\x{E000}-\\x{FFFD}\\x{10000}-\\x{10FFFF}]"));
+    const QRegularExpressionMatch match = notInXml.match(value.toStringList().join(' '));
+    if (match.hasMatch()) {
+        const QString code = QString::number(match.captured().at(0).unicode(), 16).toUpper();
+        throw EditError(QStringLiteral("%1 cannot hold the character U+%2, as XML has no such character")
+                            .arg(property, code.rightJustified(4, '0')));
+    }
+}
+
 /// Whether each entry of a list can stand in a text that holds them all, with blanks between them.
 bool areWords(const QVariantList& entries)
 {
@@ -151,6 +165,7 @@ void edit(CoreProperty& property, const QString& text)
     if (typeid(property) == typeid(CoreProperty)) {
         throw EditError(QStringLiteral("%1 cannot be edited").arg(property.name()));
     }
+    verifyCharacters(property.name(), text);
     const QVariant current = property.value();
     const QVariantList literals = property.potentialValues();
     const QVariant value = literals.isEmpty()
@@ -163,6 +178,7 @@ void edit(CoreProperty& property, const QString& text)
         (value.userType() == QMetaType::QVariantList && isOneText && !areWords(value.toList()))) {
         throw EditError(QStringLiteral("%1 cannot be \"%2\"").arg(property.name(), text));
     }
+    verifyCharacters(property.name(), value);
     property.setValue(value);
     if (!isSame(property.value(), value)) {
         throw EditError(QStringLiteral("%1 cannot be set to \"%2\"").arg(property.name(), text));

@@ -48,7 +48,8 @@ FILE is a CityGML 2.0 document; `-` reads one from standard input.
   --help                 show this text
   --version              show the version
 
-Output is UTF-8. Exit code: 0 done, 1 a document could not be loaded or saved, 2 wrong usage.
+Output is UTF-8. Exit code: 0 done; 1 a document could not be loaded or saved, has no such
+feature or attribute, or the attribute refused the value; 2 wrong usage.
 An argument that begins with `-` and is no option stands behind a `--`.
 )";
 

@@ -293,6 +293,11 @@ private slots:
         for (const char* command : {"rows FILE", "tree FILE", "properties FILE", "set FILE", "save FILE"}) {
             QVERIFY2(help.out.contains(command), command);
         }
+        // What the code of a refused value means.
+        QVERIFY2(
+            help.out.contains("1 a document could not be loaded or saved, has no such\nfeature or attribute, "
+                              "or the attribute refused the value"),
+            help.out);
         const Result version = inspect({"--version"});
         QCOMPARE(version.code, 0);
         QVERIFY(QString::fromUtf8(version.out)

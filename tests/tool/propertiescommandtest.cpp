@@ -329,16 +329,41 @@ private slots:
         QVERIFY(!QFile::exists(path("out.gml")));
     }
 
-    /// What is refused when the document is written leaves no file either.
+    void textThatXmlCannotHold_data()
+    {
+        QTest::addColumn<QString>("property");
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<QByteArray>("character");
+        QTest::newRow("text") << "Fields/a/b" << QString("a") + QChar(0x0B) << QByteArray("U+000B");
+        QTest::newRow("number") << "Fields/MeasuredHeight" << QString("1") + QChar(0x1F)
+                                << QByteArray("U+001F");
+        QTest::newRow("literal") << "Fields/RelativeToTerrain" << QString(QChar(0x01))
+                                 << QByteArray("U+0001");
+        QTest::newRow("list") << "Fields/Function"
+                              << "[\"1\", \"\\ufffe\"]" << QByteArray("U+FFFE");
+        QTest::newRow("end of a text") << "Fields/Function"
+                                       << "[\"\\u0000\"]" << QByteArray("U+0000");
+    }
+
+    /// It is refused at the edit, before a document is written.
     void textThatXmlCannotHold()
     {
-        const Result result = inspect(
-            {"set", path("in.gml"), "--id", "b", "Fields/a/b", QString("a") + QChar(1), path("out.gml")});
+        QFETCH(QString, property);
+        QFETCH(QString, value);
+        QFETCH(QByteArray, character);
+        const Result result = inspect({"set", path("in.gml"), "--id", "b", property, value, path("out.gml")});
         QCOMPARE(result.code, 1);
-        QVERIFY2(result.err.contains("'gen:value' holds a character that XML cannot hold"), result.err);
-        QVERIFY2(result.err.endsWith("out.gml could not be saved: the document cannot be written\n"),
-                 result.err);
+        const QByteArray label = property.section('/', 1).toUtf8();
+        QCOMPARE(result.err, "tolvik-inspect: " + label + " cannot hold the character " + character +
+                                 ", as XML has no such character\n");
         QVERIFY(!QFile::exists(path("out.gml")));
+    }
+
+    void textAtTheEdgeOfXml()
+    {
+        const QString value = QString::fromUtf8("\t\u0020\u007F\uD7FF\uE000\uFFFD\U00010000\U0010FFFF");
+        QCOMPARE(inspect({"set", path("in.gml"), "--id", "b", "Fields/a/b", value, path("out.gml")}).code, 0);
+        QVERIFY(read(path("out.gml")).contains(value.toUtf8()));
     }
 
     void savesOverTheDocumentItself()
