@@ -207,13 +207,18 @@ private slots:
     {
         for (const QVariant& number :
              {QVariant(5000000000LL), QVariant("5000000000"), QVariant(-2147483649LL), QVariant(1e10),
-              QVariant("99999999999999999999")}) {
+              QVariant("99999999999999999999"), QVariant(18446744073709551611ULL),
+              QVariant(9223372036854775808ULL), QVariant::fromValue(18446744073709551615UL)}) {
             QCOMPARE(fromQVariant<long long>(number, metre), 0LL);
             QCOMPARE(fromQVariant<optional<long long>>(number, metre).get(), 0LL);
             QCOMPARE(fromQVariant<optional<int>>(number, metre).get(), 0);
+            QCOMPARE(static_cast<int>(fromQVariant<gyear>(number, metre).year()), 0);
+            QCOMPARE(fromQVariant<optional<gml::integerList>>(QVariantList{number}, metre).get().front(),
+                     0LL);
             QCOMPARE(fromQVariant<optional<unsigned long long>>(number, metre).get(), 0ULL);
         }
         QCOMPARE(shown(toQVariant<long long>(5000000000LL)), QString("qlonglong 5000000000"));
+        QCOMPARE(edited<optional<int>>(2147483647ULL), QString("int 2147483647"));
     }
 
     void boundedNumbers()

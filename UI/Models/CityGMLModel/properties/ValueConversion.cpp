@@ -28,6 +28,7 @@
 #include <QTime>
 #include <QUrl>
 
+#include <limits>
 #include <type_traits>
 
 namespace tolvik {
@@ -44,6 +45,11 @@ std::string text(const QVariant& value)
 /// A number that an editor of 32-bit numbers can give; 0 for any other, where Qt would leave its low bits.
 int wholeNumber(const QVariant& value)
 {
+    // Qt would give the upper half of the unsigned numbers as negative ones.
+    const bool isUnsigned = value.userType() == QMetaType::ULongLong || value.userType() == QMetaType::ULong;
+    if (isUnsigned && value.toULongLong() > std::numeric_limits<int>::max()) {
+        return 0;
+    }
     const qlonglong number = value.toLongLong();
     return static_cast<int>(number) == number ? static_cast<int>(number) : 0;
 }
