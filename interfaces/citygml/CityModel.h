@@ -18,26 +18,27 @@ namespace core {
 ///
 /// The document is not validated; a required element or attribute that is missing and a value that its type
 /// cannot hold are errors all the same. No external entity and no document type definition is ever opened.
-/// \param stream     bytes of an XML document, from the current position to the end.
-/// \param flags      taken for the signature's sake: a document is read in one way only.
-/// \param properties likewise.
-/// \return the root, which owns the document.
-/// \throws xsd::cxx::tree::exception<char> for the first error, with line, column and reason in its printed
-/// form;
-///         xsd::cxx::tree::duplicate_id<char> where an identifier stands twice.
+///
+/// The stream does not throw at its end, whatever its exceptions() say, and is not failed afterwards for
+/// having been read to there.
+/// \param stream bytes of an XML document, from the current position to the end
+/// \param flags taken for the signature's sake: a document is read in one way only
+/// \param properties likewise
+/// \return the root, which owns the document
+/// \throws xsd::cxx::tree::exception<char> for the first error, with line, column and reason in print
+/// \throws xsd::cxx::tree::duplicate_id<char> where an identifier stands twice
 TOLVIK_BINDING_EXPORT std::auto_ptr<CityModelType>
 CityModel(std::istream& stream, xsd::cxx::tree::flags flags = 0,
           const xsd::cxx::tree::properties<char>& properties = xsd::cxx::tree::properties<char>());
 
 /// Writes a document as indented XML.
-///
-/// \param stream   target; it is not tested for failure.
-/// \param model    the document.
-/// \param map      namespaces and schema locations that the root element declares besides those it was read
-/// with. \param encoding "UTF-8", the only one that is written. \param flags    taken for the signature's
-/// sake. \throws xsd::cxx::tree::exception<char> where the document cannot be written: a required member is
-/// missing, or a
-///         text holds a character that XML cannot.
+/// \param stream target; it is not tested for failure
+/// \param model the document
+/// \param map namespaces and schema locations that the root element declares besides those it was read with
+/// \param encoding "UTF-8", the only one that is written
+/// \param flags taken for the signature's sake
+/// \throws xsd::cxx::tree::exception<char> where the document cannot be written: a required member is
+/// missing, or a text holds a character that XML cannot
 TOLVIK_BINDING_EXPORT void CityModel(std::ostream& stream, const CityModelType& model,
                                      const xsd::cxx::xml::dom::namespace_infomap<char>& map,
                                      const std::string& encoding = "UTF-8", xsd::cxx::tree::flags flags = 0);
