@@ -4,10 +4,12 @@
 
 #include "BindingExport.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <iosfwd>
 #include <memory>
 #include <string>
+#include <string_view>
 
 namespace citygml {
 class CityGMLBaseVisitor;
@@ -18,25 +20,78 @@ class KeptContent;
 
 namespace xml_schema {
 
+class type;
+
 /// Name of a schema object's kind, without the suffix "Type": `Building`, `WallSurface`, `CityModel`.
 ///
-/// It reads as a `const std::string&` that lives as long as the program. The label takes no room in the
-/// object: it is looked up by the dynamic type of the object that holds it, and so cannot be copied away from
-/// it.
+/// It reads like a `const std::string`; the text lives as long as the program. The label of an object is
+/// looked up by the object's dynamic type each time, so that it takes no room of its own in the object. A
+/// copy knows its text and is independent of the object.
 class TOLVIK_BINDING_EXPORT TypeLabel
 {
 public:
-    TypeLabel() = default;
-    TypeLabel(const TypeLabel&) = delete;
-    TypeLabel& operator=(const TypeLabel&) = delete;
+    TypeLabel(const TypeLabel& other);
+    TypeLabel& operator=(const TypeLabel& other);
 
-    operator const std::string&() const { return str(); }
     const std::string& str() const;
+    operator const std::string&() const { return str(); }
+    operator std::string_view() const { return str(); }
 
-    friend bool operator==(const TypeLabel& a, const std::string& b) { return a.str() == b; }
-    friend bool operator!=(const TypeLabel& a, const std::string& b) { return a.str() != b; }
-    friend bool operator==(const std::string& a, const TypeLabel& b) { return a == b.str(); }
-    friend bool operator!=(const std::string& a, const TypeLabel& b) { return a != b.str(); }
+    bool empty() const { return str().empty(); }
+    std::size_t size() const { return str().size(); }
+    std::size_t length() const { return str().length(); }
+    const char* c_str() const { return str().c_str(); }
+    const char* data() const { return str().data(); }
+    std::string::const_iterator begin() const { return str().begin(); }
+    std::string::const_iterator end() const { return str().end(); }
+    char operator[](std::size_t index) const { return str()[index]; }
+    char front() const { return str().front(); }
+    char back() const { return str().back(); }
+
+    // With the arguments of the operations of std::string.
+    template <typename... Arguments>
+    int compare(const Arguments&... arguments) const
+    {
+        return str().compare(arguments...);
+    }
+    template <typename... Arguments>
+    std::size_t find(const Arguments&... arguments) const
+    {
+        return str().find(arguments...);
+    }
+    template <typename... Arguments>
+    std::size_t rfind(const Arguments&... arguments) const
+    {
+        return str().rfind(arguments...);
+    }
+    std::string substr(std::size_t position = 0, std::size_t count = std::string::npos) const
+    {
+        return str().substr(position, count);
+    }
+
+    friend bool operator==(const TypeLabel& a, const TypeLabel& b) { return a.str() == b.str(); }
+    friend bool operator==(const TypeLabel& a, std::string_view b) { return a.str() == b; }
+    friend bool operator==(std::string_view a, const TypeLabel& b) { return a == b.str(); }
+    friend bool operator!=(const TypeLabel& a, const TypeLabel& b) { return a.str() != b.str(); }
+    friend bool operator!=(const TypeLabel& a, std::string_view b) { return a.str() != b; }
+    friend bool operator!=(std::string_view a, const TypeLabel& b) { return a != b.str(); }
+    friend bool operator<(const TypeLabel& a, const TypeLabel& b) { return a.str() < b.str(); }
+    friend bool operator<(const TypeLabel& a, std::string_view b) { return a.str() < b; }
+    friend bool operator<(std::string_view a, const TypeLabel& b) { return a < b.str(); }
+
+    friend std::string operator+(const TypeLabel& a, const TypeLabel& b) { return a.str() + b.str(); }
+    friend std::string operator+(const TypeLabel& a, std::string_view b) { return a.str() + std::string(b); }
+    friend std::string operator+(std::string_view a, const TypeLabel& b) { return std::string(a) + b.str(); }
+    friend std::string operator+(const TypeLabel& a, char b) { return a.str() + b; }
+    friend std::string operator+(char a, const TypeLabel& b) { return a + b.str(); }
+
+private:
+    friend class type;
+    TypeLabel() = default;
+    std::uint16_t labelNumber() const;
+
+    // Number of the label in a copy; 0 in an object.
+    std::uint16_t number = 0;
 };
 
 /// Base of every schema class, above the run-time's own base.
@@ -61,18 +116,19 @@ public:
     void _container(type_base* container) override;
 
     /// Calls the `visit_` operation of the object's most derived type, or of the nearest base that has one,
-    /// with the object itself. A type without any answers true. \return what that operation returned.
+    /// with the object itself.
+    /// \return what that operation returned; true for a type without any
     virtual bool accept(citygml::CityGMLBaseVisitor* visitor);
 
-    [[no_unique_address]] TypeLabel typeLabel;
+    const TypeLabel typeLabel;
 
 private:
     friend class citygml::binding::KeptContent;
-    // Number of the qualified name under which a document held the object; 0 for none.
-    std::uint32_t m_elementName = 0;
     // One bit for each attribute with a default or fixed value that the document spelled out.
-    std::uint32_t m_spelledOut = 0;
-    std::unique_ptr<citygml::binding::KeptContent> m_kept;
+    std::uint16_t spelledOut = 0;
+    // Number of the qualified name under which a document held the object; 0 for none.
+    std::uint32_t elementName = 0;
+    std::unique_ptr<citygml::binding::KeptContent> kept;
 };
 
 inline std::ostream& operator<<(std::ostream& stream, const TypeLabel& label)
@@ -81,3 +137,27 @@ inline std::ostream& operator<<(std::ostream& stream, const TypeLabel& label)
 }
 
 } // namespace xml_schema
+
+// The root of a document registers the identifiers below it. An identifier that is changed, moved or deleted
+// takes out the entry that is its own. The run-time by itself takes out what stands under the same text,
+// throws from the destructor where nothing does, and leaves the entry of a detached identifier behind.
+//
+// Operations that change the characters of an identifier as a std::string, such as append(), go past the
+// register: assign the whole text instead.
+namespace xsd::cxx::tree {
+
+/// \throws duplicate_id<char> where the text is in use; the identifier is as before then
+template <>
+TOLVIK_BINDING_EXPORT xml_schema::id& xml_schema::id::operator=(const std::string& text);
+template <>
+TOLVIK_BINDING_EXPORT xml_schema::id& xml_schema::id::operator=(const char* text);
+template <>
+TOLVIK_BINDING_EXPORT xml_schema::id& xml_schema::id::operator=(char text);
+template <>
+TOLVIK_BINDING_EXPORT xml_schema::id& xml_schema::id::operator=(const xml_schema::id& other);
+template <>
+TOLVIK_BINDING_EXPORT void xml_schema::id::_container(container* owner);
+template <>
+TOLVIK_BINDING_EXPORT void xml_schema::id::unregister_id();
+
+} // namespace xsd::cxx::tree

@@ -97,19 +97,19 @@ public:
     std::vector<std::uint16_t> order;
     std::shared_ptr<Document> document;
 
-    static const KeptContent* find(const xml_schema::type& object) { return object.m_kept.get(); }
+    static const KeptContent* find(const xml_schema::type& object) { return object.kept.get(); }
     /// The object's kept content, made on first use.
     static KeptContent& of(xml_schema::type& object);
 
-    static std::uint32_t elementName(const xml_schema::type& object) { return object.m_elementName; }
-    static void setElementName(xml_schema::type& object, std::uint32_t name) { object.m_elementName = name; }
+    static std::uint32_t elementName(const xml_schema::type& object) { return object.elementName; }
+    static void setElementName(xml_schema::type& object, std::uint32_t name) { object.elementName = name; }
     static bool isSpelledOut(const xml_schema::type& object, unsigned attribute)
     {
-        return (object.m_spelledOut >> attribute & 1u) != 0;
+        return (object.spelledOut >> attribute & 1u) != 0;
     }
     static void setSpelledOut(xml_schema::type& object, unsigned attribute)
     {
-        object.m_spelledOut |= 1u << attribute;
+        object.spelledOut = static_cast<std::uint16_t>(object.spelledOut | 1u << attribute);
     }
 };
 

@@ -5,8 +5,10 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <string>
 #include <typeindex>
 #include <unordered_map>
+#include <vector>
 
 namespace citygml {
 namespace binding {
@@ -18,8 +20,9 @@ const std::unordered_map<std::type_index, const TypeRecord*>& records()
     static auto* map = [] {
         auto* result = new std::unordered_map<std::type_index, const TypeRecord*>;
         result->reserve(2 * allTypesCount);
-        for (std::size_t i = 0; i < allTypesCount; ++i)
+        for (std::size_t i = 0; i < allTypesCount; ++i) {
             result->emplace(*allTypes[i]->info, allTypes[i]);
+        }
         return result;
     }();
     return *map;
@@ -28,8 +31,9 @@ const std::unordered_map<std::type_index, const TypeRecord*>& records()
 std::size_t depthOf(const TypeRecord* record)
 {
     std::size_t depth = 0;
-    for (; record != nullptr; record = record->base)
+    for (; record != nullptr; record = record->base) {
         ++depth;
+    }
     return depth;
 }
 
@@ -39,8 +43,9 @@ const TypeRecord* nearestBase(const xml_schema::type& object)
     const TypeRecord* nearest = nullptr;
     for (std::size_t i = 0; i < allTypesCount; ++i) {
         const TypeRecord* candidate = allTypes[i];
-        if (candidate->isInstance(object) && (nearest == nullptr || depthOf(candidate) > depthOf(nearest)))
+        if (candidate->isInstance(object) && (nearest == nullptr || depthOf(candidate) > depthOf(nearest))) {
             nearest = candidate;
+        }
     }
     return nearest;
 }
@@ -71,9 +76,10 @@ const TypeRecord* recordOf(const xml_schema::type& object)
 
 KeptContent& KeptContent::of(xml_schema::type& object)
 {
-    if (!object.m_kept)
-        object.m_kept = std::make_unique<KeptContent>();
-    return *object.m_kept;
+    if (!object.kept) {
+        object.kept = std::make_unique<KeptContent>();
+    }
+    return *object.kept;
 }
 
 } // namespace binding
@@ -84,38 +90,80 @@ namespace xml_schema {
 using citygml::binding::KeptContent;
 using citygml::binding::recordOf;
 
-const std::string& TypeLabel::str() const
+namespace {
+
+/// The labels of all types. Both ways to one lead to the same text.
+struct Labels
 {
-    static auto* labels = new std::unordered_map<const citygml::binding::TypeRecord*, std::string>;
+    /// Behind an empty text that stands for none, in the order of the table of types.
+    std::vector<std::string> texts;
+    std::unordered_map<const citygml::binding::TypeRecord*, std::uint16_t> numbers;
+};
+
+const Labels& labels()
+{
+    // Never deleted: programs may ask for labels until they end.
+    static const auto* const all = [] {
+        using namespace citygml::binding;
+        auto* const result = new Labels;
+        result->texts.resize(1);
+        for (std::size_t i = 0; i < allTypesCount; ++i) {
+            result->numbers.emplace(allTypes[i], static_cast<std::uint16_t>(result->texts.size()));
+            result->texts.emplace_back(allTypes[i]->label);
+        }
+        return result;
+    }();
+    return *all;
+}
+
+/// The object that holds a label which is no copy.
+const type& ownerOf(const TypeLabel& label)
+{
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Winvalid-offsetof"
-    const auto* owner =
-        reinterpret_cast<const type*>(reinterpret_cast<const char*>(this) - offsetof(type, typeLabel));
+    return *reinterpret_cast<const type*>(reinterpret_cast<const char*>(&label) - offsetof(type, typeLabel));
 #pragma GCC diagnostic pop
-    const citygml::binding::TypeRecord* record = recordOf(*owner);
-    const auto found = labels->find(record);
-    return found != labels->end() ? found->second : labels->emplace(record, record->label).first->second;
+}
+
+} // namespace
+
+std::uint16_t TypeLabel::labelNumber() const
+{
+    return number != 0 ? number : labels().numbers.at(recordOf(ownerOf(*this)));
+}
+
+TypeLabel::TypeLabel(const TypeLabel& other) : number(other.labelNumber()) {}
+
+TypeLabel& TypeLabel::operator=(const TypeLabel& other)
+{
+    number = other.labelNumber();
+    return *this;
+}
+
+const std::string& TypeLabel::str() const
+{
+    return labels().texts[labelNumber()];
 }
 
 type::type() = default;
 
 type::type(const type& other, ::xsd::cxx::tree::flags flags, type_base* container)
-    : type_base(other, flags, container), m_elementName(other.m_elementName),
-      m_spelledOut(other.m_spelledOut),
-      m_kept(other.m_kept ? std::make_unique<KeptContent>(*other.m_kept) : nullptr)
+    : type_base(other, flags, container), spelledOut(other.spelledOut), elementName(other.elementName),
+      kept(other.kept ? std::make_unique<KeptContent>(*other.kept) : nullptr)
 {
 }
 
 type& type::operator=(const type& other)
 {
-    if (this == &other)
+    if (this == &other) {
         return *this;
+    }
     type_base::operator=(other);
     // A value made by a program says nothing about the document, so that what the document said here stays.
-    if (other.m_elementName != 0) {
-        m_elementName = other.m_elementName;
-        m_spelledOut = other.m_spelledOut;
-        m_kept = other.m_kept ? std::make_unique<KeptContent>(*other.m_kept) : nullptr;
+    if (other.elementName != 0) {
+        spelledOut = other.spelledOut;
+        elementName = other.elementName;
+        kept = other.kept ? std::make_unique<KeptContent>(*other.kept) : nullptr;
     }
     return *this;
 }
@@ -139,3 +187,68 @@ bool type::accept(citygml::CityGMLBaseVisitor* visitor)
 }
 
 } // namespace xml_schema
+
+namespace xsd::cxx::tree {
+
+using Id = xml_schema::id;
+
+template <>
+Id& Id::operator=(const std::string& text)
+{
+    const std::string former = *this;
+    unregister_id();
+    std::string::operator=(text);
+    try {
+        register_id();
+    } catch (...) {
+        std::string::operator=(former);
+        register_id();
+        throw;
+    }
+    return *this;
+}
+
+template <>
+Id& Id::operator=(const char* text)
+{
+    return *this = std::string(text);
+}
+
+template <>
+Id& Id::operator=(char text)
+{
+    return *this = std::string(1, text);
+}
+
+template <>
+Id& Id::operator=(const Id& other)
+{
+    return *this = static_cast<const std::string&>(other);
+}
+
+template <>
+void Id::_container(container* owner)
+{
+    container* const former = _container();
+    unregister_id();
+    xml_schema::ncname::_container(owner);
+    try {
+        register_id();
+    } catch (...) {
+        xml_schema::ncname::_container(former);
+        register_id();
+        throw;
+    }
+}
+
+template <>
+void Id::unregister_id()
+{
+    container* const root = _root();
+    // The entry belongs to the object that the identifier is of.
+    if (root != nullptr && !empty() && root->_lookup_id(identity_) == _container()) {
+        root->_unregister_id(identity_);
+    }
+}
+
+} // namespace xsd::cxx::tree
