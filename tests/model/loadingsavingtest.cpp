@@ -42,12 +42,20 @@ osgDB::FilePathList& dataPaths()
 class Pipe : public QIODevice
 {
 public:
-    explicit Pipe(const QByteArray& content) : content(content) { open(ReadOnly | Unbuffered); }
+    /// \param pause where there is nothing for once, though more comes later
+    explicit Pipe(const QByteArray& content, qint64 pause = -1) : content(content), pause(pause)
+    {
+        open(ReadOnly | Unbuffered);
+    }
     bool isSequential() const override { return true; }
 
 protected:
     qint64 readData(char* data, qint64 maxSize) override
     {
+        if (position == pause) {
+            pause = -1;
+            return 0;
+        }
         const qint64 count = std::min<qint64>({maxSize, 100, content.size() - position});
         std::copy_n(content.constData() + position, count, data);
         position += count;
@@ -58,6 +66,7 @@ protected:
 private:
     QByteArray content;
     qint64 position = 0;
+    qint64 pause;
 };
 
 class TitleRecorder : public tolvik::OperationListener
@@ -258,6 +267,60 @@ private slots:
         QCOMPARE(model.getFileName(), QString());
     }
 
+    void aDeviceThatAnswersNothingHasEnded()
+    {
+        LogCapture log;
+        OpenModel model;
+        Pipe device(town(50), 1000);
+        model.load(&device, QUrl("pipe"));
+        QCOMPARE(model.rowCount(), 0);
+        QCOMPARE(log.take().size(), 1);
+    }
+
+    void theStateOfAStream_data()
+    {
+        using Ios = std::ios_base;
+        QTest::addColumn<int>("thrown");
+        QTest::newRow("throws nothing") << int(Ios::goodbit);
+        QTest::newRow("throws at failures") << int(Ios::failbit);
+        QTest::newRow("throws at failures and errors") << int(Ios::failbit | Ios::badbit);
+        QTest::newRow("throws at the end") << int(Ios::failbit | Ios::badbit | Ios::eofbit);
+    }
+
+    /// The stream stands at its end, has not failed, and throws at what it threw at before.
+    void theStateOfAStream()
+    {
+        QFETCH(int, thrown);
+        LogCapture log;
+        OpenModel model;
+        SignalRecorder recorder(&model);
+        for (const QByteArray& content : {town(2), town(2).chopped(15), QByteArray()}) {
+            std::istringstream stream(content.toStdString());
+            stream.exceptions(static_cast<std::ios_base::iostate>(thrown));
+            model.load(stream);
+            QCOMPARE(recorder.take(), resetSignals);
+            QCOMPARE(model.names(), QStringList({"<unset>", "b1", "b2"}));
+            QCOMPARE(int(stream.exceptions()), thrown);
+            QVERIFY(!stream.fail());
+        }
+        QCOMPARE(log.take().size(), 2);
+    }
+
+    void aStreamThatHasFailed()
+    {
+        LogCapture log;
+        OpenModel model;
+        model.loadText(town(1));
+        std::istringstream stream(town(2).toStdString());
+        stream.setstate(std::ios_base::failbit);
+        SignalRecorder recorder(&model);
+        model.load(stream);
+        QCOMPARE(recorder.take(), resetSignals);
+        QCOMPARE(model.rowCount(), 2);
+        QVERIFY(stream.fail());
+        QCOMPARE(log.take().size(), 1);
+    }
+
     void malformedDevice()
     {
         LogCapture log;
@@ -439,6 +502,40 @@ private slots:
             QVERIFY2(QRegularExpression("^40000 Exception caught: .+ --> .+").match(line).hasMatch(),
                      qPrintable(line));
         }
+    }
+
+    void aSaveThatThrowsLeavesTheFile_data()
+    {
+        QTest::addColumn<QByteArray>("member");
+        QTest::addColumn<QString>("name");
+        QTest::newRow("character that XML has not") << namedBuilding("b", "b") << QString(QChar(0x0B));
+        // The writer hands on what it has at times, so that a part of it would be in the file.
+        QTest::newRow("behind much else")
+            << namedBuilding("b", QByteArray(300000, 'n')) << QString("pasted") + QChar(0xFFFF);
+    }
+
+    void aSaveThatThrowsLeavesTheFile()
+    {
+        QFETCH(QByteArray, member);
+        QFETCH(QString, name);
+        LogCapture log;
+        const QByteArray content = cityModel(member + namedBuilding("last", "last"));
+        OpenModel model;
+        model.load(file("town.gml", content));
+        QVERIFY(model.setData(model.index(model.rowCount() - 1, 0), name, Qt::EditRole));
+        QVERIFY(!errorOf([&] { model.save(true); }).isEmpty());
+        QCOMPARE(readFile(path("town.gml")), content);
+        QVERIFY(!errorOf([&] { model.saveAs(file("other.gml", "precious"), true); }).isEmpty());
+        QCOMPARE(readFile(path("other.gml")), QByteArray("precious"));
+        QVERIFY(!errorOf([&] { model.saveAs(path("new.gml"), true); }).isEmpty());
+        QVERIFY(!QFile::exists(path("new.gml")));
+        QCOMPARE(log.take().size(), 3);
+
+        // The edit undone, the document is saved.
+        QVERIFY(model.setData(model.index(model.rowCount() - 1, 0), "last", Qt::EditRole));
+        QVERIFY(model.save(true));
+        QVERIFY(readFile(path("town.gml")).contains("<gml:name>last</gml:name>"));
+        QCOMPARE(log.take(), QStringList());
     }
 
     void savingNeedsADocument()

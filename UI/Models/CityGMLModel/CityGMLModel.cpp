@@ -11,6 +11,7 @@
 #include "UI/Models/CityGMLModel/properties/GmlEditRangeDialog.h"
 
 #include <algorithm>
+#include <boost/iostreams/device/null.hpp>
 #include <boost/iostreams/stream.hpp>
 #include <fstream>
 #include <osgDB/Registry>
@@ -32,6 +33,18 @@ constexpr int nameColumn = 0;
 constexpr int typeColumn = 1;
 
 using SchemaError = xsd::cxx::tree::exception<char>;
+using Namespaces = xsd::cxx::xml::dom::namespace_infomap<char>;
+
+Namespaces declaredNamespaces()
+{
+    Namespaces namespaces;
+    for (const NamespacesMap& entry : CityGmlUtils::getNamespaces()) {
+        auto& info = namespaces[entry.prefix];
+        info.name = entry.name;
+        info.schema = entry.schemaLocation;
+    }
+    return namespaces;
+}
 
 void logError(const log4cplus::Logger& logger, const SchemaError& error, int line)
 {
@@ -220,15 +233,14 @@ bool CityGMLModel::doSave(const QString& path, bool /*flag*/)
                                   fileName.toLocal8Bit().toStdString());
     };
     if (cityModel.get() == nullptr) {
-        throw failure(); // before the file is cut to nothing
+        throw failure();
     }
     try {
-        xsd::cxx::xml::dom::namespace_infomap<char> namespaces;
-        for (const NamespacesMap& entry : CityGmlUtils::getNamespaces()) {
-            auto& info = namespaces[entry.prefix];
-            info.name = entry.name;
-            info.schema = entry.schemaLocation;
-        }
+        const Namespaces namespaces = declaredNamespaces();
+        // Opening the file cuts it to nothing, so what cannot be written is found before. To write twice
+        // takes longer than to write into memory and from there, but needs no room for a second document.
+        boost::iostreams::stream<boost::iostreams::null_sink> nowhere{boost::iostreams::null_sink()};
+        core::CityModel(nowhere, *cityModel, namespaces, "UTF-8", 0);
         std::ofstream stream(path.toLocal8Bit().data(), std::ios_base::out);
         core::CityModel(stream, *cityModel, namespaces, "UTF-8", 0);
     } catch (const SchemaError& error) {
