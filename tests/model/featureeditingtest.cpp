@@ -314,6 +314,31 @@ private slots:
         verifyLookUps(model);
     }
 
+    void removingWhatIsNoRowDoesNothing()
+    {
+        MarkedModel model;
+        model.loadText(town(2));
+        gml::AbstractFeatureType* const gone = model.getFeature("b2");
+        model.removeFeature(gone);
+        model.dirty(false);
+        model.recorder.clear();
+        bldg::BuildingType stranger = makeBuilding("b1");
+        for (gml::AbstractFeatureType* const feature :
+             {gone, static_cast<gml::AbstractFeatureType*>(&stranger),
+              static_cast<gml::AbstractFeatureType*>(nullptr)}) {
+            model.removeFeature(feature);
+        }
+        QCOMPARE(model.recorder.take(), QStringList());
+        QCOMPARE(model.names(), QStringList({"<unset>", "b1"}));
+        QVERIFY(model.getFeature("b1") != nullptr);
+        QVERIFY(!model.dirty());
+        verifyLookUps(model);
+
+        OpenModel empty;
+        empty.removeFeature(nullptr);
+        QCOMPARE(empty.rowCount(), 0);
+    }
+
     void aFeatureThatStandsTwiceLosesBothRows()
     {
         // One row is announced and two go, which the item model tester would not accept: a model without it.

@@ -14,6 +14,7 @@
 #include <boost/iostreams/device/null.hpp>
 #include <boost/iostreams/stream.hpp>
 #include <fstream>
+#include <iterator>
 #include <osgDB/Registry>
 #include <QDataStream>
 #include <QDir>
@@ -473,6 +474,9 @@ void CityGMLModel::addFeature(gml::AbstractFeatureType* feature)
 
 void CityGMLModel::removeFeature(gml::AbstractFeatureType* feature)
 {
+    if (!featureExists(feature)) {
+        return;
+    }
     const int count = features.size();
     QVector<gml::AbstractFeatureType*> keptFeatures;
     QVector<bool> keptVisibility;
@@ -498,6 +502,10 @@ void CityGMLModel::removeFeature(gml::AbstractFeatureType* feature)
     beginRemoveRows(QModelIndex(), removedRow, removedRow);
     rowByFeature.erase(feature);
     featureById.erase(getFeatureID(feature));
+    // A feature whose identifier was changed stands under the former one.
+    for (auto entry = featureById.begin(); entry != featureById.end();) {
+        entry = entry->second == feature ? featureById.erase(entry) : std::next(entry);
+    }
     for (int row = removedRow + 1; row < count; ++row) {
         --rowByFeature.find(features[row])->second;
     }
