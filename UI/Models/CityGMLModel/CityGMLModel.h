@@ -77,27 +77,41 @@ public:
     /// Enabled and selectable, or nothing for a disabled row. \a index must be one of the current rows.
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
-    /// Loads from a device that is open for reading, see load(std::istream&).
-    /// \param url where the document comes from; its path, with `_` for each `/`, becomes the file name
+    // A load that fails says so in the log alone; a host that must know compares cityGML() before and after.
+
+    /// Loads from a device that is open for reading, see load(std::istream&). A device that answers no bytes
+    /// counts as ended, also where more would come later: a socket is read to its end by the host first.
+    /// \param url where the document comes from; its path, with `_` for each `/`, becomes the file name, also
+    /// where the document cannot be read
     void load(QIODevice* device, const QUrl& url) override;
 
     /// Replaces the document by the one that the stream holds, from its position to its end, within one model
     /// reset. The document is not validated. If it cannot be read, an error is logged and the document and
-    /// the rows are as before. The file name and the dirty state stay; the document is dirty only if
-    /// identifiers were generated.
+    /// the rows are as before, but for their visibility and the disabled ones. The file name and the dirty
+    /// state stay; the document is dirty only if identifiers were generated.
     void load(std::istream& stream) override;
 
     /// Loads a file, see load(std::istream&), and puts its directory in front of the paths on which
-    /// referenced files are searched. A file that cannot be opened leaves the document and the file name as
-    /// they were, but no rows.
+    /// referenced files are searched.
+    ///
+    /// A file that cannot be opened leaves the document and the file name as they were, but no rows until
+    /// dataSetChanged(); nothing is logged. One that can be opened but not read leaves the former document
+    /// under the name of that file: a host that goes on with it puts the former name back with setFileName(),
+    /// or the next save() writes the former document over the file that could not be read.
     void load(const QString& path) override;
 
     /// Replaces the document by a ready one, within one model reset.
     /// \param document taken over; null leaves the model without a document
     void load(std::auto_ptr<core::CityModelType> document);
 
-    /// Writes the document to its file. A file that cannot be opened, or is cut short by a full disk, is not
-    /// noticed.
+    /// Writes the document to its file. A save that throws leaves the file as it was.
+    ///
+    /// What goes wrong with the file itself is not noticed: nothing is written to one that cannot be opened,
+    /// and only the beginning on a full disk, and yet the document counts as saved. A host that must know
+    /// saves under another name, looks at that file and renames it.
+    ///
+    /// Texts with characters that XML has not, as most control characters, cannot be written. setData() and
+    /// properties take them, so it is the host that refuses them at the edit.
     /// \param flag without effect
     /// \return true
     /// \throws std::runtime_error where the document cannot be written, which is logged, or there is none
@@ -107,11 +121,11 @@ public:
     /// error names the former file name.
     bool saveAs(const QString& path, bool flag) override;
 
-    /// Hides the row if it is visible, and sends representationAboutToBeChanged(). It is not shown again
-    /// here.
+    /// Hides the row if it is visible, and sends representationAboutToBeChanged(). It stays hidden: a host
+    /// shows it again when it has made the representation anew.
     void reset(const QModelIndex& index) override;
 
-    /// Nothing: rows have no place of their own to be brought into sight.
+    /// Does nothing, as a list has no view of its own: a host brings what represents the row into sight.
     void zoom(const QModelIndex& index) override;
 
     bool hasRepresentation(const QModelIndex& index) const override;
@@ -160,7 +174,9 @@ public:
     /// The document, owned by the model; null before the first one.
     virtual core::CityModelType* cityGML() const;
 
-    /// The feature with that `gml:id`, or null. If several rows have the same, the one appended last.
+    /// The feature that had that `gml:id` when its row was added, or null. If several rows have the same, the
+    /// one appended last. A feature whose identifier is changed is found under the new one from the next
+    /// dataSetChanged() on, and under the former one until then or until its row is removed.
     virtual gml::AbstractFeatureType* getFeature(const std::string& id) const;
 
     /// The feature of a row, or null.
@@ -188,8 +204,7 @@ public:
     void addFeature(gml::AbstractFeatureType* feature);
 
     /// Takes away the row of a feature, but not the rows of the features below it. The feature stays where it
-    /// is in the document.
-    /// \param feature one that has a row, with the identifier that it had when its row was added
+    /// is in the document. Null, or a feature that has no row, is ignored.
     void removeFeature(gml::AbstractFeatureType* feature);
 
     /// Announces that what the row shows has changed.

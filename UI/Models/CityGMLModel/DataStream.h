@@ -27,6 +27,7 @@ public:
     /// \param stream not owned; it must outlive the device. Null gives a device that is at its end.
     explicit DataStream(QDataStream* stream);
 
+    /// A QIODevice that answers no bytes counts as ended, also where it only waits for more.
     /// \return how many characters were read into \a s, 0 or -1 at the end; -1 on an error
     std::streamsize read(char* s, std::streamsize n);
 
