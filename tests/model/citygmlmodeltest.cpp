@@ -167,6 +167,12 @@ private slots:
 
         model.dataSetChanged();
         QCOMPARE(model.rowCount(), 0);
+
+        bldg::BuildingType building;
+        model.append(&building);
+        QCOMPARE(model.rowCount(), 0);
+        QCOMPARE(model.index(0, 0), QModelIndex());
+        QCOMPARE(model.getFeature(0), nullptr);
     }
 
     void rowsAreTheFeaturesInDocumentOrder()
@@ -609,9 +615,11 @@ private slots:
     {
         OpenModel model;
         model.loadText(town(2));
+        const Fondo::RefPtr<tolvik::CoreProperty> tree = model.getProperty(model.index(1, 0));
         SignalRecorder recorder(&model);
         model.clearModel();
         QCOMPARE(recorder.take(), QStringList());
+        QCOMPARE(tree->referenceCount(), 1);
         QCOMPARE(model.rowCount(), 0);
         QVERIFY(model.cityGML() != nullptr);
         QCOMPARE(model.getFeature(std::string("b1")), nullptr);
