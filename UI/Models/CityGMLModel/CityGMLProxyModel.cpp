@@ -16,6 +16,7 @@
 #include <QGuiApplication>
 #include <QItemSelectionModel>
 #include <QMimeData>
+#include <QScopedValueRollback>
 #include <QSet>
 #include <QSharedPointer>
 #include <vector>
@@ -162,6 +163,8 @@ void CityGMLProxyModel::resetModel()
 
 bool CityGMLProxyModel::isAccepted(gml::AbstractFeatureType* feature) const
 {
+    // The question is about one feature: a visitor that would walk to those below it does not.
+    const QScopedValueRollback<bool> alone(traversalVisitor->walkChildren, false);
     return feature->accept(traversalVisitor.get());
 }
 
