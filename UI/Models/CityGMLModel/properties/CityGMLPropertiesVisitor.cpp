@@ -48,7 +48,8 @@ void acceptPresent(xsd::cxx::tree::optional<T>& object, citygml::CityGMLBaseVisi
     }
 }
 
-/// Enters the object inside a property element of class \a Element. \a held is the element's member.
+/// Enters the object inside a property element of one class.
+/// \param held the member of the class that has the object
 /// \return whether the element is of that class
 template <class Element, class Held>
 bool acceptHeld(xml_schema::type& element, Held& (Element::*held)(), citygml::CityGMLBaseVisitor* visitor)

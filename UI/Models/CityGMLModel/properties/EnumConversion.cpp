@@ -162,9 +162,9 @@ struct Conversion<E, std::void_t<decltype(Literals<E>::texts)>>
     static E read(const QVariant& value, const uri&)
     {
         E result;
-        const int number = literalVariants<E>().indexOf(value.toString());
-        if (number >= 0) {
-            result = static_cast<typename E::value>(number);
+        const int index = literalVariants<E>().indexOf(value.toString());
+        if (index >= 0) {
+            result = static_cast<typename E::value>(index);
         }
         return result;
     }
