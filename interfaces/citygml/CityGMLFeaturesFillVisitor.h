@@ -22,8 +22,8 @@ public:
     bool visit_gml_AbstractFeatureType(gml::AbstractFeatureType* feature) override;
 
 private:
-    std::list<gml::AbstractFeatureType*> m_features;
-    std::unordered_set<gml::AbstractFeatureType*> m_listed;
+    std::list<gml::AbstractFeatureType*> features;
+    std::unordered_set<gml::AbstractFeatureType*> listed;
 };
 
 } // namespace tolvik

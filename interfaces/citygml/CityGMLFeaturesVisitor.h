@@ -19,14 +19,17 @@ namespace tolvik {
 ///
 /// Two flags steer the walk, which starts with `accept` on a feature:
 /// - `walkChildren` false: the visit stays inside the object it started on.
-/// - both true: `visit_gml_AbstractFeatureType` is reached once for the start feature and once for each
-/// feature
-///   directly below it, and no deeper. The members of a derived type are walked before those of its bases.
+/// - Both true: `visit_gml_AbstractFeatureType` is reached once for the start feature and once for each
+///   feature directly below it, and no deeper. The members of a derived type are walked before those of its
+///   bases.
 /// - `walkChildren` true, `walkStart` false: the walk goes all the way down. A feature is visited before the
-/// features
-///   below it, and these in document order.
+///   features below it, and these in document order.
 ///
-/// The flags are read during a walk and are as before when it ends.
+/// A deep walk leaves out what is below an object that a visit refused: one that answers false without going
+/// on to the visit of this class.
+///
+/// The flags are read during a walk and are as before when it ends. Nothing of a walk stays behind in the
+/// visitor, also if a visit answers early or throws.
 class TOLVIK_PLATFORM_EXPORT CityGMLFeaturesVisitor : public citygml::CityGMLInheritVisitor,
                                                       public Fondo::Referenced
 {
@@ -36,7 +39,8 @@ public:
     CityGMLFeaturesVisitor& operator=(const CityGMLFeaturesVisitor& other);
     ~CityGMLFeaturesVisitor() override;
 
-#define TOLVIK_DECLARE_VISIT(prefix, Type) bool visit_##prefix##_##Type(prefix::Type* object) override;
+#define TOLVIK_DECLARE_VISIT(prefix, Type, members)                                                          \
+    bool visit_##prefix##_##Type(prefix::Type* object) override;
     TOLVIK_FEATURE_VISITS(TOLVIK_DECLARE_VISIT)
 #undef TOLVIK_DECLARE_VISIT
 
@@ -44,22 +48,24 @@ public:
     bool walkStart = false;
 
 private:
-    /// An object whose type has members to walk.
+    class ObjectVisit;
+    /// An object, seen at a type that has members to walk.
     struct Level
     {
-        xml_schema::type* object;
-        int type;
+        xml_schema::type* object = nullptr;
+        int type = 0;
     };
 
-    void visitLevel(xml_schema::type* object, int type);
+    template <class VisitBases>
+    bool visitLevel(const Level& level, VisitBases visitBases);
     void walk(const Level& level);
     void enterContent(xml_schema::type& value);
     void enter(xml_schema::type& object);
-    void walkPending(std::size_t first);
+    void walkPending();
 
     // What a deep walk still has to enter, and where the part of the object being visited begins.
-    std::vector<Level> m_pending;
-    std::size_t m_first = 0;
+    std::vector<Level> pending;
+    std::size_t first = 0;
 };
 
 } // namespace tolvik

@@ -14,7 +14,8 @@ public:
     ~CityGMLPlugin() override;
 
     /// The envelope that the document's root states, in the units of its reference system. A height that it
-    /// leaves out is 0. \return false for a model without rows, and for a document without an envelope.
+    /// leaves out is 0.
+    /// \return false for a model without rows, and for a document without an envelope.
     bool envelope(const CoreModel& model, double (&lower)[3], double (&upper)[3]) const override;
 };
 

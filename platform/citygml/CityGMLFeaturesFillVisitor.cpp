@@ -7,13 +7,14 @@ CityGMLFeaturesFillVisitor::~CityGMLFeaturesFillVisitor() = default;
 
 const std::list<gml::AbstractFeatureType*>& CityGMLFeaturesFillVisitor::getModelFeatures() const
 {
-    return m_features;
+    return features;
 }
 
 bool CityGMLFeaturesFillVisitor::visit_gml_AbstractFeatureType(gml::AbstractFeatureType* feature)
 {
-    if (m_listed.insert(feature).second)
-        m_features.push_back(feature);
+    if (listed.insert(feature).second) {
+        features.push_back(feature);
+    }
     return CityGMLFeaturesVisitor::visit_gml_AbstractFeatureType(feature);
 }
 

@@ -52,8 +52,9 @@ std::vector<NamespacesMap> CityGmlUtils::getNamespaces()
         {"utility", "http://www.citygml.org/ade/utility/0.9.2", ""},
     };
     std::vector<NamespacesMap> result;
-    for (const auto& entry : namespaces)
+    for (const auto& entry : namespaces) {
         result.push_back({entry.prefix, entry.name, entry.schemaLocation});
+    }
     return result;
 }
 

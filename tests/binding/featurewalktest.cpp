@@ -9,6 +9,7 @@
 
 #include <memory>
 #include <sstream>
+#include <stdexcept>
 
 namespace {
 
@@ -25,6 +26,30 @@ public:
         visited << feature;
         return tolvik::CityGMLFeaturesVisitor::visit_gml_AbstractFeatureType(feature);
     }
+};
+
+/// Refuses the features with the given identifiers, and stops a walk at one that throws.
+class Refusing : public tolvik::CityGMLFeaturesVisitor
+{
+public:
+    explicit Refusing(QStringList refused) : refused(std::move(refused)) {}
+
+    QStringList visited;
+    QString throwsAt;
+
+    bool visit_gml_AbstractFeatureType(gml::AbstractFeatureType* feature) override
+    {
+        const QString id = QString::fromStdString(*feature->id());
+        visited << id;
+        if (id == throwsAt) {
+            throw std::runtime_error("stop");
+        }
+        return !refused.contains(id) &&
+               tolvik::CityGMLFeaturesVisitor::visit_gml_AbstractFeatureType(feature);
+    }
+
+private:
+    QStringList refused;
 };
 
 const TypeRecord* recordNamed(const QString& name)
@@ -160,6 +185,47 @@ private slots:
             QVERIFY(document->accept(&visitor));
             QCOMPARE(idsOf(visitor.visited), QStringList("root"));
         }
+    }
+
+    void belowARefusedFeatureNothingIsWalked()
+    {
+        const auto document = read(house);
+        Refusing visitor({"wall", "group"});
+        QVERIFY(document->accept(&visitor));
+        QCOMPARE(visitor.visited,
+                 QStringList({"root", "house", "look", "wall", "part", "address", "second", "group"}));
+    }
+
+    void anotherWalkDoesNotGoOnWithARefusedFeature()
+    {
+        const auto document = read(house);
+        Refusing visitor({"house", "look"});
+        QVERIFY(!document->featureMember().front()._Feature()->accept(&visitor));
+        QCOMPARE(visitor.visited, QStringList("house"));
+        visitor.visited.clear();
+        QVERIFY(document->featureMember().back()._Feature()->accept(&visitor));
+        QCOMPARE(visitor.visited, QStringList({"group", "member"}));
+        // Nor does it read what is gone.
+        QVERIFY(!read(house)->featureMember().front()._Feature()->accept(&visitor));
+        visitor.visited.clear();
+        QVERIFY(document->accept(&visitor));
+        QCOMPARE(visitor.visited, QStringList({"root", "house", "second", "group", "member"}));
+    }
+
+    void anotherWalkDoesNotGoOnWithAnEndedOne()
+    {
+        const auto document = read(house);
+        Refusing visitor({});
+        visitor.throwsAt = "wall";
+        QVERIFY_EXCEPTION_THROWN(document->accept(&visitor), std::runtime_error);
+        visitor.visited.clear();
+        QVERIFY(document->featureMember().back()._Feature()->accept(&visitor));
+        QCOMPARE(visitor.visited, QStringList({"group", "member"}));
+        visitor.visited.clear();
+        visitor.walkStart = true;
+        QVERIFY_EXCEPTION_THROWN(document->featureMember().front()._Feature()->accept(&visitor),
+                                 std::runtime_error);
+        QVERIFY(visitor.walkChildren && visitor.walkStart);
     }
 
 private:

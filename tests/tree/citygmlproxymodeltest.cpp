@@ -56,6 +56,21 @@ public:
     }
 };
 
+/// A host's own traversal visitor: leaves doors out, and otherwise goes on as its base class does, which
+/// walks.
+class NoDoors : public tolvik::CityGMLFeaturesVisitor
+{
+public:
+    int questions = 0;
+
+    bool visit_gml_AbstractFeatureType(gml::AbstractFeatureType* feature) override
+    {
+        ++questions;
+        return dynamic_cast<bldg::DoorType*>(feature) == nullptr &&
+               CityGMLFeaturesVisitor::visit_gml_AbstractFeatureType(feature);
+    }
+};
+
 } // namespace
 
 class CityGMLProxyModelTest : public QObject
@@ -156,6 +171,20 @@ private slots:
         QCOMPARE(city.tree.rowCount(), 0);
         QVERIFY(city.tree.nodeMap.empty());
         city.check();
+    }
+
+    /// A visitor that walks is asked about one feature at a time, and follows nothing of a former document.
+    void visitorOfAHostIsAskedOnceForEachRow()
+    {
+        CityTree city;
+        RefPtr<NoDoors> visitor = new NoDoors;
+        city.tree.setTraversalVisitor(visitor.get());
+        QCOMPARE(city.dump(), QString("city(a1 b1(w1 w2) b2)"));
+        QCOMPARE(visitor->questions, city.model.rowCount());
+        QVERIFY(visitor->walkChildren);
+        city.load(village());
+        QCOMPARE(city.dump(), QString("city(a1 b1(w1 w2) b2)"));
+        QCOMPARE(visitor->questions, 2 * city.model.rowCount());
     }
 
     void featuresRiseWhenTheirOwnerIsRejected()

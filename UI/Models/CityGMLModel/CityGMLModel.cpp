@@ -7,6 +7,7 @@
 #include "framework/OperationStatus.h"
 #include "gml/CodeType.hxx"
 #include "UI/Models/CityGMLModel/DataStream.h"
+#include "UI/Models/CityGMLModel/FeatureColumns.h"
 #include "UI/Models/CityGMLModel/properties/GmlCorePropertyCreator.h"
 #include "UI/Models/CityGMLModel/properties/GmlEditRangeDialog.h"
 
@@ -29,9 +30,6 @@
 namespace tolvik {
 
 namespace {
-
-constexpr int nameColumn = 0;
-constexpr int typeColumn = 1;
 
 using SchemaError = xsd::cxx::tree::exception<char>;
 using Namespaces = xsd::cxx::xml::dom::namespace_infomap<char>;
@@ -88,7 +86,7 @@ int CityGMLModel::rowCount(const QModelIndex& parent) const
 
 int CityGMLModel::columnCount(const QModelIndex& /*parent*/) const
 {
-    return 2;
+    return featureColumnCount;
 }
 
 QVariant CityGMLModel::data(const QModelIndex& index, int role) const
@@ -144,14 +142,7 @@ QVariant CityGMLModel::headerData(int section, Qt::Orientation orientation, int 
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
         return QVariant();
     }
-    switch (section) {
-    case nameColumn:
-        return tr("Name");
-    case typeColumn:
-        return tr("Type");
-    default:
-        return tr("unknown");
-    }
+    return tr(featureColumnTitle(section));
 }
 
 bool CityGMLModel::setHeaderData(int /*section*/, Qt::Orientation /*orientation*/, const QVariant& /*value*/,

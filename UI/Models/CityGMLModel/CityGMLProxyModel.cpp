@@ -7,6 +7,7 @@
 #include "UI/Models/CityGMLModel/CityGMLModel.h"
 #include "UI/Models/CityGMLModel/CityGMLProxyModelTraverseChildrenGMLVisitor.h"
 #include "UI/Models/CityGMLModel/CityGMLProxyModelTraverseNoApparencesVisitor.h"
+#include "UI/Models/CityGMLModel/FeatureColumns.h"
 
 #include <algorithm>
 #include <log4cplus/loggingmacros.h>
@@ -16,6 +17,7 @@
 #include <QGuiApplication>
 #include <QItemSelectionModel>
 #include <QMimeData>
+#include <QScopedValueRollback>
 #include <QSet>
 #include <QSharedPointer>
 #include <vector>
@@ -23,10 +25,6 @@
 namespace tolvik {
 
 namespace {
-
-constexpr int nameColumn = 0;
-constexpr int typeColumn = 1;
-constexpr int columns = 2;
 
 constexpr int selectionGroup = 2;
 
@@ -162,6 +160,8 @@ void CityGMLProxyModel::resetModel()
 
 bool CityGMLProxyModel::isAccepted(gml::AbstractFeatureType* feature) const
 {
+    // The question is about one feature: a visitor that would walk to those below it does not.
+    const QScopedValueRollback<bool> alone(traversalVisitor->walkChildren, false);
     return feature->accept(traversalVisitor.get());
 }
 
@@ -537,7 +537,7 @@ void CityGMLProxyModel::movePersistentIndexes(RowOf rowOf)
 
 int CityGMLProxyModel::columnCount(const QModelIndex& /*parent*/) const
 {
-    return columns;
+    return featureColumnCount;
 }
 
 QVariant CityGMLProxyModel::data(const QModelIndex& index, int role) const
@@ -593,14 +593,7 @@ QVariant CityGMLProxyModel::headerData(int section, Qt::Orientation orientation,
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
         return QVariant();
     }
-    switch (section) {
-    case nameColumn:
-        return tr("Name");
-    case typeColumn:
-        return tr("Type");
-    default:
-        return tr("unknown");
-    }
+    return tr(featureColumnTitle(section));
 }
 
 QVariant CityGMLProxyModel::recursiveCheckState(const QModelIndex& index) const

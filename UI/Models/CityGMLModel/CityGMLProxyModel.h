@@ -79,8 +79,8 @@ public:
     int defaultExpandDepth() override;
 
     /// Decides anew which rows have nodes, and builds the tree anew, also if the visitor is the same.
-    /// \param visitor on the heap, shared from now on, asked with `accept` for each feature. Null only
-    /// without a source.
+    /// \param visitor on the heap, shared from now on, asked with `accept` for each feature, and with
+    /// `walkChildren` false for that long. Null only without a source.
     void setTraversalVisitor(CityGMLFeaturesVisitor* visitor);
 
     /// Decides anew which node is below which, and builds the tree anew, also if the visitor is the same.

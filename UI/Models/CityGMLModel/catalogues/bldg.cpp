@@ -1,10 +1,4 @@
-#include "UI/Models/CityGMLModel/catalogues/Catalogue.h"
-
-#include "bldg/AbstractBuildingType.hxx"
-#include "bldg/BuildingFurnitureType.hxx"
-#include "bldg/BuildingInstallationType.hxx"
-#include "bldg/IntBuildingInstallationType.hxx"
-#include "bldg/RoomType.hxx"
+#include "bldg/AllTypes.h"
 #include "energy/ConstructionWeightValue.hxx"
 #include "energy/poly_buildingType.hxx"
 #include "energy/poly_isLandmarked.hxx"
@@ -22,42 +16,35 @@
 #include "pivotEnergy/poly_minSoundInsulation.hxx"
 #include "pivotEnergy/poly_shapeLevelDifference.hxx"
 #include "pivotEnergy/poly_yearOfRefurbishment.hxx"
+#include "UI/Models/CityGMLModel/catalogues/Catalogue.h"
 #include "utility/poly_buildingHabitants.hxx"
 
 #include "bldg.instantiations.h"
 
 namespace tolvik {
 
-void GmlCorePropertyCreator::visit_abstractBuilding_genericProperties(bldg::AbstractBuildingType* object)
-{
-    for (xml_schema::type& element : object->_GenericApplicationPropertyOfAbstractBuilding()) {
-        const GenericRows rows(this, element);
-        GENERIC("buildingHabitants", utility::poly_buildingHabitants, long long, "UtilityNetwork");
-        GENERIC("buildingType", energy::poly_buildingType, string, "Energy");
-        GENERIC_ENUM("constructionWeight", energy::ConstructionWeightValue, "Energy");
-        GENERIC("isLandmarked", energy::poly_isLandmarked, bool, "Energy");
-        GENERIC_HELD("referencePoint", energy::poly_referencePoint, Point, "Energy");
-        GENERIC_CHILD("durationOfConstruction", pivotEnergy::poly_durationOfConstruction, "pivotEnergy");
-        GENERIC_CHILD("buildingLifeExpectancy", pivotEnergy::poly_buildingLifeExpectancy, "pivotEnergy");
-        GENERIC_ENUM("environnementContext", pivotEnergy::EnvironnementContextTypeType, "pivotEnergy");
-        GENERIC("footprintArea", pivotEnergy::poly_footprintArea, gml::AreaType, "pivotEnergy");
-        GENERIC("minSoundInsulation", pivotEnergy::poly_minSoundInsulation, gml::MeasureType, "pivotEnergy");
-        GENERIC("shapeLevelDifference", pivotEnergy::poly_shapeLevelDifference, gml::MeasureType, "pivotEnergy");
-        GENERIC("facadeMainFillingMaterial", pivotEnergy::poly_facadeMainFillingMaterial, gml::CodeType, "pivotEnergy");
-        GENERIC("mainConstructionSystem", pivotEnergy::poly_mainConstructionSystem, gml::CodeType, "pivotEnergy");
-        GENERIC("mainMaterial", pivotEnergy::poly_mainMaterial, gml::CodeType, "pivotEnergy");
-        GENERIC("foundationConstructiveSystem", pivotEnergy::poly_foundationConstructiveSystem, gml::CodeType, "pivotEnergy");
-        GENERIC("yearOfRefurbishment", pivotEnergy::poly_yearOfRefurbishment, gyear, "pivotEnergy");
-        GENERIC("nextLifeCycleStage", pivotEnergy::LifeCycleStageType, pivotEnergy::LifeCycleStageType, "pivotEnergy");
-    }
+GENERIC_ROWS(abstractBuilding, bldg::AbstractBuildingType, AbstractBuilding) {
+    GENERIC("buildingHabitants", utility::poly_buildingHabitants, long long, "UtilityNetwork");
+    GENERIC("buildingType", energy::poly_buildingType, string, "Energy");
+    GENERIC_ENUM("constructionWeight", energy::ConstructionWeightValue, "Energy");
+    GENERIC("isLandmarked", energy::poly_isLandmarked, bool, "Energy");
+    GENERIC_EACH_HELD("referencePoint", energy::poly_referencePoint, Point, "Energy");
+    GENERIC_EACH("durationOfConstruction", pivotEnergy::poly_durationOfConstruction, "pivotEnergy");
+    GENERIC_EACH("buildingLifeExpectancy", pivotEnergy::poly_buildingLifeExpectancy, "pivotEnergy");
+    GENERIC_ENUM("environnementContext", pivotEnergy::EnvironnementContextTypeType, "pivotEnergy");
+    GENERIC("footprintArea", pivotEnergy::poly_footprintArea, gml::AreaType, "pivotEnergy");
+    GENERIC("minSoundInsulation", pivotEnergy::poly_minSoundInsulation, gml::MeasureType, "pivotEnergy");
+    GENERIC("shapeLevelDifference", pivotEnergy::poly_shapeLevelDifference, gml::MeasureType, "pivotEnergy");
+    GENERIC("facadeMainFillingMaterial", pivotEnergy::poly_facadeMainFillingMaterial, gml::CodeType, "pivotEnergy");
+    GENERIC("mainConstructionSystem", pivotEnergy::poly_mainConstructionSystem, gml::CodeType, "pivotEnergy");
+    GENERIC("mainMaterial", pivotEnergy::poly_mainMaterial, gml::CodeType, "pivotEnergy");
+    GENERIC("foundationConstructiveSystem", pivotEnergy::poly_foundationConstructiveSystem, gml::CodeType, "pivotEnergy");
+    GENERIC("yearOfRefurbishment", pivotEnergy::poly_yearOfRefurbishment, gyear, "pivotEnergy");
+    GENERIC("nextLifeCycleStage", pivotEnergy::LifeCycleStageType, pivotEnergy::LifeCycleStageType, "pivotEnergy");
 }
 
-bool GmlCorePropertyCreator::visit_bldg_AbstractBuildingType(bldg::AbstractBuildingType* object)
-{
-    const Rows<bldg::AbstractBuildingType> rows(this, object, Place::fields());
-    ATTR("Class", class_, optional<gml::CodeType>);
-    ATTR("Function", function, sequence<gml::CodeType>);
-    ATTR("Usage", usage, sequence<gml::CodeType>);
+ROWS(bldg, AbstractBuildingType, FIELDS) {
+    CLASS_FUNCTION_USAGE();
     ATTR("RoofType", roofType, optional<gml::CodeType>);
     ATTR("YearOfConstruction", yearOfConstruction, optional<gyear>);
     ATTR("YearOfDemolition", yearOfDemolition, optional<gyear>);
@@ -66,44 +53,25 @@ bool GmlCorePropertyCreator::visit_bldg_AbstractBuildingType(bldg::AbstractBuild
     ATTR("StoreysBelowGround", storeysBelowGround, optional<unsigned long long>);
     ATTR("StoreyHeightsAboveGround", storeyHeightsAboveGround, optional<gml::MeasureOrNullListType>);
     ATTR("StoreyHeightsBelowGround", storeyHeightsBelowGround, optional<gml::MeasureOrNullListType>);
-    visit_abstractBuilding_genericProperties(object);
-    return CityGMLPropertiesVisitor::visit_bldg_AbstractBuildingType(object);
+    creator.visit_abstractBuilding_genericProperties(&object);
 }
 
-bool GmlCorePropertyCreator::visit_bldg_BuildingFurnitureType(bldg::BuildingFurnitureType* object)
-{
-    const Rows<bldg::BuildingFurnitureType> rows(this, object, Place::fields());
-    ATTR("Class", class_, optional<gml::CodeType>);
-    ATTR("Function", function, sequence<gml::CodeType>);
-    ATTR("Usage", usage, sequence<gml::CodeType>);
-    return CityGMLPropertiesVisitor::visit_bldg_BuildingFurnitureType(object);
+ROWS(bldg, BuildingFurnitureType, FIELDS) {
+    CLASS_FUNCTION_USAGE();
 }
 
-bool GmlCorePropertyCreator::visit_bldg_BuildingInstallationType(bldg::BuildingInstallationType* object)
-{
-    const Rows<bldg::BuildingInstallationType> rows(this, object, Place::fields());
-    ATTR("Class", class_, optional<gml::CodeType>);
-    ATTR("Function", function, sequence<gml::CodeType>);
-    ATTR("Usage", usage, sequence<gml::CodeType>);
-    return CityGMLPropertiesVisitor::visit_bldg_BuildingInstallationType(object);
+ROWS(bldg, BuildingInstallationType, FIELDS) {
+    CLASS_FUNCTION_USAGE();
 }
 
-bool GmlCorePropertyCreator::visit_bldg_IntBuildingInstallationType(bldg::IntBuildingInstallationType* object)
-{
-    const Rows<bldg::IntBuildingInstallationType> rows(this, object, Place::fields());
-    ATTR("Class", class_, optional<gml::CodeType>);
-    ATTR("Function", function, sequence<gml::CodeType>);
-    ATTR("Usage", usage, sequence<gml::CodeType>);
-    return CityGMLPropertiesVisitor::visit_bldg_IntBuildingInstallationType(object);
+ROWS(bldg, IntBuildingInstallationType, FIELDS) {
+    CLASS_FUNCTION_USAGE();
 }
 
-bool GmlCorePropertyCreator::visit_bldg_RoomType(bldg::RoomType* object)
-{
-    const Rows<bldg::RoomType> rows(this, object, Place::fields());
-    ATTR("Class", class_, optional<gml::CodeType>);
-    ATTR("Function", function, sequence<gml::CodeType>);
-    ATTR("Usage", usage, sequence<gml::CodeType>);
-    return CityGMLPropertiesVisitor::visit_bldg_RoomType(object);
+ROWS(bldg, RoomType, FIELDS) {
+    CLASS_FUNCTION_USAGE();
 }
 
 } // namespace tolvik
+
+#include "UI/Models/CityGMLModel/catalogues/CatalogueEnd.h"

@@ -1,60 +1,32 @@
+#include "tun/AllTypes.h"
 #include "UI/Models/CityGMLModel/catalogues/Catalogue.h"
-
-#include "tun/AbstractTunnelType.hxx"
-#include "tun/HollowSpaceType.hxx"
-#include "tun/IntTunnelInstallationType.hxx"
-#include "tun/TunnelFurnitureType.hxx"
-#include "tun/TunnelInstallationType.hxx"
 
 #include "tun.instantiations.h"
 
 namespace tolvik {
 
-bool GmlCorePropertyCreator::visit_tun_AbstractTunnelType(tun::AbstractTunnelType* object)
-{
-    const Rows<tun::AbstractTunnelType> rows(this, object, Place::fields());
-    ATTR("Class", class_, optional<gml::CodeType>);
-    ATTR("Function", function, sequence<gml::CodeType>);
-    ATTR("Usage", usage, sequence<gml::CodeType>);
+ROWS(tun, AbstractTunnelType, FIELDS) {
+    CLASS_FUNCTION_USAGE();
     ATTR("YearOfConstruction", yearOfConstruction, optional<gyear>);
     ATTR("YearOfDemolition", yearOfDemolition, optional<gyear>);
-    return CityGMLPropertiesVisitor::visit_tun_AbstractTunnelType(object);
 }
 
-bool GmlCorePropertyCreator::visit_tun_HollowSpaceType(tun::HollowSpaceType* object)
-{
-    const Rows<tun::HollowSpaceType> rows(this, object, Place::fields());
-    ATTR("Class", class_, optional<gml::CodeType>);
-    ATTR("Function", function, sequence<gml::CodeType>);
-    ATTR("Usage", usage, sequence<gml::CodeType>);
-    return CityGMLPropertiesVisitor::visit_tun_HollowSpaceType(object);
+ROWS(tun, HollowSpaceType, FIELDS) {
+    CLASS_FUNCTION_USAGE();
 }
 
-bool GmlCorePropertyCreator::visit_tun_IntTunnelInstallationType(tun::IntTunnelInstallationType* object)
-{
-    const Rows<tun::IntTunnelInstallationType> rows(this, object, Place::fields());
-    ATTR("Class", class_, optional<gml::CodeType>);
-    ATTR("Function", function, sequence<gml::CodeType>);
-    ATTR("Usage", usage, sequence<gml::CodeType>);
-    return CityGMLPropertiesVisitor::visit_tun_IntTunnelInstallationType(object);
+ROWS(tun, IntTunnelInstallationType, FIELDS) {
+    CLASS_FUNCTION_USAGE();
 }
 
-bool GmlCorePropertyCreator::visit_tun_TunnelFurnitureType(tun::TunnelFurnitureType* object)
-{
-    const Rows<tun::TunnelFurnitureType> rows(this, object, Place::fields());
-    ATTR("Class", class_, optional<gml::CodeType>);
-    ATTR("Function", function, sequence<gml::CodeType>);
-    ATTR("Usage", usage, sequence<gml::CodeType>);
-    return CityGMLPropertiesVisitor::visit_tun_TunnelFurnitureType(object);
+ROWS(tun, TunnelFurnitureType, FIELDS) {
+    CLASS_FUNCTION_USAGE();
 }
 
-bool GmlCorePropertyCreator::visit_tun_TunnelInstallationType(tun::TunnelInstallationType* object)
-{
-    const Rows<tun::TunnelInstallationType> rows(this, object, Place::fields());
-    ATTR("Class", class_, optional<gml::CodeType>);
-    ATTR("Function", function, sequence<gml::CodeType>);
-    ATTR("Usage", usage, sequence<gml::CodeType>);
-    return CityGMLPropertiesVisitor::visit_tun_TunnelInstallationType(object);
+ROWS(tun, TunnelInstallationType, FIELDS) {
+    CLASS_FUNCTION_USAGE();
 }
 
 } // namespace tolvik
+
+#include "UI/Models/CityGMLModel/catalogues/CatalogueEnd.h"

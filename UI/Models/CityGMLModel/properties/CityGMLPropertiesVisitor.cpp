@@ -4,22 +4,7 @@
 #include "core/AddressPropertyType.hxx"
 #include "core/AddressType.hxx"
 #include "core/xalAddressPropertyType.hxx"
-#include "energy/BuildingUnitType.hxx"
-#include "energy/EnergyPerformanceCertificationPropertyType.hxx"
-#include "energy/EnergyPerformanceCertificationType.hxx"
-#include "energy/FloorAreaPropertyType.hxx"
-#include "energy/FloorAreaType.hxx"
-#include "energy/HeightAboveGroundPropertyType.hxx"
-#include "energy/HeightAboveGroundType.hxx"
-#include "energy/RefurbishmentMeasurePropertyType.hxx"
-#include "energy/RefurbishmentMeasureType.hxx"
-#include "energy/ThermalBoundaryType.hxx"
-#include "energy/ThermalZoneType.hxx"
-#include "energy/UsageZoneType.hxx"
-#include "energy/VolumeTypePropertyType.hxx"
-#include "energy/VolumeTypeType.hxx"
-#include "energy/WeatherDataPropertyType.hxx"
-#include "energy/WeatherDataType.hxx"
+#include "energy/AllTypes.h"
 #include "gen/AbstractGenericAttributeType.hxx"
 #include "gen/GenericAttributeSetType.hxx"
 #include "gml/AbstractFeatureType.hxx"
@@ -27,14 +12,7 @@
 #include "gml/EnvelopeType.hxx"
 #include "grp/CityObjectGroupMemberType.hxx"
 #include "grp/CityObjectGroupType.hxx"
-#include "xAL_2_0/Address.hxx"
-#include "xAL_2_0/AddressDetails.hxx"
-#include "xAL_2_0/AddressLinesType.hxx"
-#include "xAL_2_0/AdministrativeArea.hxx"
-#include "xAL_2_0/Country.hxx"
-#include "xAL_2_0/Locality.hxx"
-#include "xAL_2_0/PostalServiceElements.hxx"
-#include "xAL_2_0/Thoroughfare.hxx"
+#include "xAL_2_0/AllTypes.h"
 
 namespace tolvik {
 
@@ -48,7 +26,8 @@ void acceptPresent(xsd::cxx::tree::optional<T>& object, citygml::CityGMLBaseVisi
     }
 }
 
-/// Enters the object inside a property element of class \a Element. \a held is the element's member.
+/// Enters the object inside a property element of one class.
+/// \param held the member of the class that has the object
 /// \return whether the element is of that class
 template <class Element, class Held>
 bool acceptHeld(xml_schema::type& element, Held& (Element::*held)(), citygml::CityGMLBaseVisitor* visitor)

@@ -3,7 +3,7 @@
 #include "framework/CoreProperty.h"
 #include "gml/AbstractFeatureType.hxx"
 #include "gml/ReferenceType.hxx"
-#include "UI/Models/CityGMLModel/catalogues/Catalogue.h"
+#include "UI/Models/CityGMLModel/catalogues/Rows.h"
 
 #include <QUrl>
 
@@ -12,7 +12,7 @@ namespace tolvik {
 namespace {
 
 /// A new group at the end of \a parent.
-CoreProperty* addGroup(CoreProperty* parent, const QString& name)
+CoreProperty* groupBelow(CoreProperty* parent, const QString& name)
 {
     auto* const group = new CoreProperty(name, QVariant());
     parent->addProperty(group);
@@ -43,7 +43,7 @@ CoreProperty* GmlCorePropertyCreator::getProperty() const
 CoreProperty* GmlCorePropertyCreator::getOrCreateFieldPartProp()
 {
     if (m_fieldPart == nullptr) {
-        m_fieldPart = addGroup(m_property, QStringLiteral("Fields"));
+        m_fieldPart = groupBelow(m_property, QStringLiteral("Fields"));
     }
     return m_fieldPart;
 }
@@ -53,9 +53,9 @@ CoreProperty* GmlCorePropertyCreator::getOrCreateRootADEPartProp(const QString& 
     CoreProperty*& part = m_adeParts[name];
     if (part == nullptr) {
         if (m_adeRoot == nullptr) {
-            m_adeRoot = addGroup(m_property, QStringLiteral("Properties"));
+            m_adeRoot = groupBelow(m_property, QStringLiteral("Properties"));
         }
-        part = addGroup(m_adeRoot, name);
+        part = groupBelow(m_adeRoot, name);
     }
     return part;
 }
@@ -64,7 +64,13 @@ CoreProperty* GmlCorePropertyCreator::getOrCreateRootADEPartProp(const QString& 
 CoreProperty* GmlCorePropertyCreator::getOrCreateProperty(CoreProperty* parent, const QString& name)
 {
     CoreProperty* const group = parent->getProperty(name, false);
-    return group != nullptr ? group : addGroup(parent, name);
+    return group != nullptr ? group : groupBelow(parent, name);
+}
+
+/// A new group at the end of \a target.
+CoreProperty* GmlCorePropertyCreator::addGroup(const Target& target, const QString& label)
+{
+    return groupBelow(target.find(*this), label);
 }
 
 /// What a reference points to, or an invalid variant.
@@ -78,19 +84,17 @@ QVariant GmlCorePropertyCreator::getReferenceUrl(const gml::ReferenceType& refer
 /// Visits an object inside the feature; its rows go to \a group.
 void GmlCorePropertyCreator::enter(CoreProperty* group, xml_schema::type& object)
 {
-    CoreProperty* const outer = m_currentParent;
-    m_currentParent = group;
+    const QScopedValueRollback<CoreProperty*> inside(m_currentParent, group);
     object.accept(this);
-    m_currentParent = outer;
 }
 
-CoreProperty* GmlCorePropertyCreator::Place::find(GmlCorePropertyCreator& creator) const
+CoreProperty* GmlCorePropertyCreator::Target::find(GmlCorePropertyCreator& creator) const
 {
-    switch (m_kind) {
+    switch (kind) {
     case Kind::Extension:
-        return creator.getOrCreateRootADEPartProp(m_name);
+        return creator.getOrCreateRootADEPartProp(name);
     case Kind::Group:
-        return m_group;
+        return property;
     case Kind::Current:
         return creator.m_currentParent != nullptr ? creator.m_currentParent
                                                   : creator.getOrCreateFieldPartProp();

@@ -31,8 +31,7 @@ class CITYGMLMODEL_EXPORT GmlCorePropertyCreator : public CityGMLPropertiesVisit
 {
 public:
     /// \param existingOnly true: an absent attribute gets no property. False: it gets an empty one, and
-    /// setting that
-    ///                     brings the attribute into being.
+    /// setting that brings the attribute into being.
     explicit GmlCorePropertyCreator(bool existingOnly = true);
     ~GmlCorePropertyCreator() override;
 
@@ -48,7 +47,7 @@ public:
 #undef TOLVIK_DECLARE_VISIT
 
 private:
-    class Place;
+    class Target;
     template <class OwnerClass>
     class Rows;
     class GenericRows;
@@ -66,6 +65,7 @@ private:
     CoreProperty* getOrCreateFieldPartProp();
     CoreProperty* getOrCreateRootADEPartProp(const QString& name);
     CoreProperty* getOrCreateProperty(CoreProperty* parent, const QString& name);
+    CoreProperty* addGroup(const Target& target, const QString& label);
     QVariant getReferenceUrl(const gml::ReferenceType& reference);
     void enter(CoreProperty* group, xml_schema::type& object);
 

@@ -1,16 +1,27 @@
 #!/usr/bin/env python3
 """Writes the instantiations of the property classes that the rows of a catalogue bind.
 
-Usage: instantiate.py CATALOGUE.cpp OUTPUT.h
+Usage: instantiate.py CATALOGUE.cpp Catalogue.h OUTPUT.h
 
-Reads the lines ATTR, ENUM, ATTR_BY_NAME, GENERIC and GENERIC_ENUM; the owner of an attribute is the type of the `Rows`
-above it.
+Reads the lines ATTR, ENUM, ATTR_BY_NAME, GENERIC and GENERIC_ENUM, also where Catalogue.h defines a name for several of
+them; the owner of an attribute is the type of the ROWS or ROWS_OF above it.
 """
 
 import re
 import sys
 
-TOKEN = re.compile(r"\bRows<(?P<owner>[\w:]+)>|\b(?P<macro>ATTR|ENUM|ATTR_BY_NAME|GENERIC|GENERIC_ENUM)\((?P<row>.*?)\);", re.S)
+TOKEN = re.compile(
+    r"\bROWS\((?P<prefix>\w+), (?P<type>\w+),|\bROWS_OF\((?P<owner>[\w:]+)\)"
+    r"|\b(?P<macro>ATTR|ENUM|ATTR_BY_NAME|GENERIC|GENERIC_ENUM)\((?P<row>.*?)\);",
+    re.S,
+)
+
+
+def expand_row_groups(text, words):
+    """The text with the rows in place of the names that the header of the catalogues' words has for several."""
+    for name, rows in re.findall(r"^#define (\w+)\(\)((?:.*\\\n)+.*)", words, re.M):
+        text = text.replace(f"{name}();", rows.replace("\\\n", "\n") + ";")
+    return text
 
 
 def instantiations(text):
@@ -18,8 +29,8 @@ def instantiations(text):
     classes = {}
     owner = None
     for token in TOKEN.finditer(text):
-        if token["owner"]:
-            owner = token["owner"]
+        if not token["macro"]:
+            owner = token["owner"] or f"{token['prefix']}::{token['type']}"
             continue
         columns = [" ".join(column.split()) for column in token["row"].split(",")]
         if token["macro"] in ("GENERIC", "GENERIC_ENUM"):
@@ -33,10 +44,15 @@ def instantiations(text):
     return classes
 
 
+def read(path):
+    """The text of a source file without its comments."""
+    with open(path, encoding="utf-8") as source:
+        return re.sub(r"//.*", "", source.read())
+
+
 def main():
-    catalogue, output = sys.argv[1:]
-    with open(catalogue, encoding="utf-8") as source:
-        classes = instantiations(re.sub(r"//.*", "", source.read()))
+    catalogue, words, output = sys.argv[1:]
+    classes = instantiations(expand_row_groups(read(catalogue), read(words)))
     lines = ['#include "UI/Models/CityGMLModel/properties/PropertyDefinitions.h"', "", "namespace tolvik {", ""]
     lines += [f"template class CITYGMLMODEL_EXPORT {name};" for name in classes]
     lines += ["", "} // namespace tolvik", ""]
