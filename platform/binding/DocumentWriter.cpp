@@ -2,8 +2,8 @@
 
 #include "platform/binding/KeptContent.h"
 #include "platform/binding/SchemaIndex.h"
-#include "platform/binding/TextValues.h"
-#include "platform/binding/XmlText.h"
+#include "platform/binding/values/TextValues.h"
+#include "platform/binding/xml/XmlText.h"
 
 #include <algorithm>
 #include <map>

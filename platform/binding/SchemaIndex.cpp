@@ -1,6 +1,6 @@
 #include "platform/binding/SchemaIndex.h"
 
-#include "platform/binding/TextValues.h"
+#include "platform/binding/values/TextValues.h"
 
 #include <algorithm>
 
