@@ -1,5 +1,5 @@
 #include "citygml/CityGMLBaseVisitor.h"
-#include "platform/binding/KeptContent.h"
+#include "platform/binding/kept/KeptContent.h"
 #include "platform/binding/Tables.h"
 
 #include <array>
@@ -18,8 +18,9 @@ const std::unordered_map<std::type_index, const TypeRecord*>& records()
     static auto* map = [] {
         auto* result = new std::unordered_map<std::type_index, const TypeRecord*>;
         result->reserve(2 * allTypesCount);
-        for (std::size_t i = 0; i < allTypesCount; ++i)
+        for (std::size_t i = 0; i < allTypesCount; ++i) {
             result->emplace(*allTypes[i]->info, allTypes[i]);
+        }
         return result;
     }();
     return *map;
@@ -28,8 +29,9 @@ const std::unordered_map<std::type_index, const TypeRecord*>& records()
 std::size_t depthOf(const TypeRecord* record)
 {
     std::size_t depth = 0;
-    for (; record != nullptr; record = record->base)
+    for (; record != nullptr; record = record->base) {
         ++depth;
+    }
     return depth;
 }
 
@@ -39,8 +41,9 @@ const TypeRecord* nearestBase(const xml_schema::type& object)
     const TypeRecord* nearest = nullptr;
     for (std::size_t i = 0; i < allTypesCount; ++i) {
         const TypeRecord* candidate = allTypes[i];
-        if (candidate->isInstance(object) && (nearest == nullptr || depthOf(candidate) > depthOf(nearest)))
+        if (candidate->isInstance(object) && (nearest == nullptr || depthOf(candidate) > depthOf(nearest))) {
             nearest = candidate;
+        }
     }
     return nearest;
 }
@@ -67,13 +70,6 @@ const TypeRecord* recordOf(const xml_schema::type& object)
         slot.info = &info;
     }
     return slot.record;
-}
-
-KeptContent& KeptContent::of(xml_schema::type& object)
-{
-    if (!object.m_kept)
-        object.m_kept = std::make_unique<KeptContent>();
-    return *object.m_kept;
 }
 
 } // namespace binding
@@ -108,14 +104,9 @@ type::type(const type& other, ::xsd::cxx::tree::flags flags, type_base* containe
 
 type& type::operator=(const type& other)
 {
-    if (this == &other)
-        return *this;
-    type_base::operator=(other);
-    // A value made by a program says nothing about the document, so that what the document said here stays.
-    if (other.m_elementName != 0) {
-        m_elementName = other.m_elementName;
-        m_spelledOut = other.m_spelledOut;
-        m_kept = other.m_kept ? std::make_unique<KeptContent>(*other.m_kept) : nullptr;
+    if (this != &other) {
+        type_base::operator=(other);
+        KeptContent::assign(*this, other);
     }
     return *this;
 }

@@ -1,0 +1,33 @@
+#include "platform/binding/reader/DocumentReader.h"
+
+#include "platform/binding/reader/DocumentHandler.h"
+#include "platform/binding/reader/KeptContentLog.h"
+#include "platform/binding/reader/NamespaceScopes.h"
+#include "platform/binding/reader/XmlParser.h"
+#include "platform/binding/SchemaIndex.h"
+
+#include <log4cplus/logger.h>
+#include <log4cplus/loggingmacros.h>
+
+namespace citygml {
+namespace binding {
+
+std::unique_ptr<core::CityModelType> readDocument(std::istream& stream)
+{
+    const log4cplus::Logger logger =
+        log4cplus::Logger::getInstance(LOG4CPLUS_TEXT("tolvik.citygml.DocumentReader"));
+    KeptContentLog log(logger);
+    NamespaceScopes scopes(SchemaIndex::instance());
+    DocumentHandler handler(scopes, log);
+    XmlParser parser(scopes, handler);
+    parser.parse(stream);
+    log.write();
+    if (handler.isOlderVersion()) {
+        LOG4CPLUS_WARN(logger, "the document is of CityGML 1.0; it is read as CityGML 2.0, and a save "
+                               "writes CityGML 2.0");
+    }
+    return handler.takeRoot();
+}
+
+} // namespace binding
+} // namespace citygml
