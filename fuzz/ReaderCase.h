@@ -41,6 +41,7 @@ inline std::string described(const char* what, const xsd::cxx::tree::exception<c
 
 /// Reads a document, writes it, reads that and writes it again, also from a copy. A document that cannot be
 /// read is a good answer; whatever was read must be written, be read again, and come out the same.
+///
 /// \return what went wrong; empty if nothing did.
 inline std::string runReaderCase(std::string_view document)
 {
@@ -57,8 +58,9 @@ inline std::string runReaderCase(std::string_view document)
         return described("what was read cannot be written", error);
     }
     const Document copy(first->_clone());
-    if (write(*copy) != saved)
+    if (write(*copy) != saved) {
         return "a copy is written differently";
+    }
     first.reset();
     try {
         const std::string again = write(*read(saved));

@@ -1,7 +1,7 @@
 #include "citygml/CityModel.h"
 
-#include "platform/binding/DocumentReader.h"
-#include "platform/binding/DocumentWriter.h"
+#include "platform/binding/reader/DocumentReader.h"
+#include "platform/binding/writer/DocumentWriter.h"
 
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 

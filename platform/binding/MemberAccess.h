@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/binding/Tables.h"
-#include "platform/binding/TextValues.h"
+#include "platform/binding/values/TextValues.h"
 
 #include <type_traits>
 
@@ -26,7 +26,7 @@ bool visit(xml_schema::type& object, CityGMLBaseVisitor& visitor)
     return (visitor.*operation)(static_cast<T*>(&object));
 }
 
-/// Number of values in a member's container, and the value at a place in it.
+/// Number of values in a member's container, and the value at an index in it.
 template <typename T, bool fundamental>
 std::size_t countOf(const xsd::cxx::tree::one<T, fundamental>& c)
 {
@@ -77,26 +77,30 @@ struct Access<field>
 
     static void add(xml_schema::type& owner, xml_schema::type* child)
     {
-        if constexpr (!fundamental)
+        if constexpr (!fundamental) {
             addTo(of(owner), std::auto_ptr<T>(static_cast<T*>(child)));
+        }
     }
     static void addText(xml_schema::type& owner, std::string_view text)
     {
-        if constexpr (fundamental)
+        if constexpr (fundamental) {
             addTo(of(owner), parseNumber<T>(text));
+        }
     }
     static std::size_t count(const xml_schema::type& owner) { return countOf(of(owner)); }
     static const xml_schema::type& at(const xml_schema::type& owner, std::size_t index)
     {
-        if constexpr (!fundamental)
+        if constexpr (!fundamental) {
             return valueAt(of(owner), index);
-        else
+        } else {
             return owner;
+        }
     }
     static void format(const xml_schema::type& owner, std::size_t index, std::string& text)
     {
-        if constexpr (fundamental)
+        if constexpr (fundamental) {
             formatNumber(valueAt(of(owner), index), text);
+        }
     }
     static constexpr MemberOps ops = {
         &add,    &addText,

@@ -38,8 +38,9 @@ object_sequence::object_sequence(const object_sequence& other, flags f, containe
     : object_sequence(owner)
 {
     reserve(other.size());
-    for (size_type i = 0; i < other.size(); ++i)
+    for (size_type i = 0; i < other.size(); ++i) {
         insertOwned(i, other.objects()[i]->_clone(f, owner));
+    }
 }
 
 object_sequence& object_sequence::operator=(const object_sequence& other)
@@ -47,8 +48,9 @@ object_sequence& object_sequence::operator=(const object_sequence& other)
     if (this != &other) {
         clear();
         reserve(other.size());
-        for (size_type i = 0; i < other.size(); ++i)
+        for (size_type i = 0; i < other.size(); ++i) {
             insertOwned(i, other.objects()[i]->_clone(0, owner()));
+        }
     }
     return *this;
 }
@@ -63,13 +65,16 @@ object_sequence::~object_sequence()
 
 void object_sequence::reserve(size_type count)
 {
-    if (count <= capacity())
+    if (count <= capacity()) {
         return;
-    if (count > max_size())
+    }
+    if (count > max_size()) {
         throw std::length_error("too many elements in a sequence of a schema object");
+    }
     void* memory = std::realloc(hasBlock() ? block() : nullptr, sizeof(Block) + count * sizeof(type*));
-    if (memory == nullptr)
+    if (memory == nullptr) {
         throw std::bad_alloc();
+    }
     Block* const grown = static_cast<Block*>(memory);
     if (!hasBlock()) {
         grown->owner = owner();
@@ -81,19 +86,22 @@ void object_sequence::reserve(size_type count)
 
 void object_sequence::truncate(size_type count)
 {
-    if (!hasBlock())
+    if (!hasBlock()) {
         return;
+    }
     // An object that looks at the sequence while it dies must not find itself.
-    while (block()->size > count)
+    while (block()->size > count) {
         delete objects()[--block()->size];
+    }
 }
 
 type** object_sequence::open(size_type index, size_type count)
 {
     const size_type needed = size() + count;
-    if (needed > capacity())
+    if (needed > capacity()) {
         // Most sequences of a document have one element.
         reserve(std::max(needed, 2 * capacity()));
+    }
     type** const first = objects() + index;
     if (count != 0) {
         std::memmove(first + count, first, (size() - index) * sizeof(type*));
@@ -119,8 +127,9 @@ void object_sequence::insertCopies(size_type index, size_type count, const type&
 
 void object_sequence::erase(size_type first, size_type last)
 {
-    for (size_type i = first; i < last; ++i)
+    for (size_type i = first; i < last; ++i) {
         delete objects()[i];
+    }
     if (first < last) {
         std::memmove(objects() + first, objects() + last, (size() - last) * sizeof(type*));
         block()->size -= static_cast<std::uint32_t>(last - first);

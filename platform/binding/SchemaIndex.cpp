@@ -1,8 +1,9 @@
 #include "platform/binding/SchemaIndex.h"
 
-#include "platform/binding/TextValues.h"
+#include "platform/binding/values/TextValues.h"
 
 #include <algorithm>
+#include <stdexcept>
 
 namespace citygml {
 namespace binding {
@@ -25,10 +26,21 @@ bool areSpelledVariously(const TextOps* text)
          {&textOps<Boolean>, &textOps<xml_schema::date>, &textOps<xml_schema::date_time>,
           &textOps<xml_schema::time>, &textOps<xml_schema::duration>, &textOps<xml_schema::gyear>,
           &textOps<xml_schema::gyear_month>}) {
-        if (text == kind)
+        if (text == kind) {
             return true;
+        }
     }
     return false;
+}
+
+/// \throws std::length_error where a type has more of a kind of members than there are bits.
+template <typename Bits>
+Bits bit(std::size_t number)
+{
+    if (number >= 8 * sizeof(Bits)) {
+        throw std::length_error("too many members of a schema type");
+    }
+    return Bits(1) << number;
 }
 
 } // namespace
@@ -36,17 +48,19 @@ bool areSpelledVariously(const TextOps* text)
 bool TypeIndex::isDerivedFrom(const TypeIndex* other) const
 {
     const TypeIndex* type = this;
-    while (type != nullptr && type != other)
-        type = type->m_base;
+    while (type != nullptr && type != other) {
+        type = type->base;
+    }
     // Everything is an xs:anyType.
     return type != nullptr || *other->record()->info == typeid(xml_schema::type);
 }
 
 const TypeIndex::FlatMember* TypeIndex::attribute(NameId name) const
 {
-    for (std::size_t i = m_elementCount; i < m_members.size(); ++i) {
-        if (m_members[i].name == name)
-            return &m_members[i];
+    for (std::size_t i = elements; i < allMembers.size(); ++i) {
+        if (allMembers[i].name == name) {
+            return &allMembers[i];
+        }
     }
     return nullptr;
 }
@@ -57,82 +71,101 @@ const SchemaIndex& SchemaIndex::instance()
     return index;
 }
 
-SchemaIndex::SchemaIndex() : m_names(1)
+SchemaIndex::SchemaIndex() : names(1)
 {
     for (std::size_t i = 0; i < allElementsCount; ++i) {
         const ElementRecord& element = allElements[i];
-        m_elements[addName(element.uri, element.name)] = &element;
-        m_elementsOfType[element.type].push_back(&element);
+        elements[addName(element.uri, element.name)] = &element;
+        elementsOfType[element.type].push_back(&element);
     }
     for (std::size_t i = 0; i < allTypesCount; ++i) {
         const TypeIndex* type = indexType(allTypes[i]);
-        m_typeByName[keyOf(allTypes[i]->uri, allTypes[i]->name)] = type;
-        if (std::find(m_namespaces.begin(), m_namespaces.end(), allTypes[i]->uri) == m_namespaces.end())
-            m_namespaces.push_back(allTypes[i]->uri);
+        typeByName[keyOf(allTypes[i]->uri, allTypes[i]->name)] = type;
+        if (std::find(uris.begin(), uris.end(), allTypes[i]->uri) == uris.end()) {
+            uris.push_back(allTypes[i]->uri);
+        }
     }
     // Members point to types that were indexed behind them.
-    for (TypeIndex& type : m_types) {
-        for (TypeIndex::FlatMember& member : type.m_members)
-            member.type = member.member->type != nullptr ? m_typeOfRecord.at(member.member->type) : nullptr;
+    for (TypeIndex& type : types) {
+        for (TypeIndex::FlatMember& member : type.allMembers) {
+            const TypeRecord* const record = member.declaration->type;
+            member.type = record != nullptr ? typeOfRecord.at(record) : nullptr;
+        }
     }
 }
 
 NameId SchemaIndex::addName(const char* uri, const char* name)
 {
-    const auto inserted = m_nameIds.emplace(keyOf(uri, name), static_cast<NameId>(m_names.size()));
-    if (inserted.second)
-        m_names.push_back({uri, name});
+    const auto inserted = nameIds.emplace(keyOf(uri, name), static_cast<NameId>(names.size()));
+    if (inserted.second) {
+        names.push_back({uri, name});
+    }
     return inserted.first->second;
 }
 
 const TypeIndex* SchemaIndex::indexType(const TypeRecord* record)
 {
-    const auto known = m_typeOfRecord.find(record);
-    if (known != m_typeOfRecord.end())
+    const auto known = typeOfRecord.find(record);
+    if (known != typeOfRecord.end()) {
         return known->second;
+    }
 
     const TypeIndex* base = record->base != nullptr ? indexType(record->base) : nullptr;
-    m_types.emplace_back();
-    TypeIndex& type = m_types.back();
-    type.m_record = record;
-    type.m_base = base;
-    type.m_mixed = record->isMixed || (base != nullptr && base->m_mixed);
-    type.m_hasSpellings = areSpelledVariously(record->text);
-
-    std::vector<TypeIndex::FlatMember> elements, attributes;
-    int groups = 0;
-    if (base != nullptr) {
-        const auto middle = base->m_members.begin() + static_cast<std::ptrdiff_t>(base->m_elementCount);
-        elements.assign(base->m_members.begin(), middle);
-        attributes.assign(middle, base->m_members.end());
-        for (const TypeIndex::FlatMember& member : elements)
-            groups = std::max(groups, member.group);
-    }
-    for (std::size_t i = 0; i < record->memberCount; ++i) {
-        const Member& member = record->members[i];
-        auto& list = member.isAttribute ? attributes : elements;
-        list.push_back({&member, addName(member.uri, member.name), nullptr,
-                        member.group != 0 ? groups + member.group : 0, 0, -1, -1});
-    }
-    type.m_elementCount = elements.size();
-    type.m_members = std::move(elements);
-    type.m_members.insert(type.m_members.end(), attributes.begin(), attributes.end());
-    int defaulted = 0;
-    for (std::size_t i = 0; i < type.m_members.size(); ++i) {
-        TypeIndex::FlatMember& member = type.m_members[i];
-        const bool alternates = i != 0 && member.group != 0 && type.m_members[i - 1].group == member.group;
-        member.place = alternates ? type.m_members[i - 1].place : static_cast<int>(i);
-        member.required = member.member->isRequired ? type.m_requiredCount++ : -1;
-        member.defaulted = member.member->defaultText != nullptr ? defaulted++ : -1;
-    }
-    m_typeOfRecord[record] = &type;
+    types.emplace_back();
+    TypeIndex& type = types.back();
+    type.typeRecord = record;
+    type.base = base;
+    type.mixed = record->isMixed || (base != nullptr && base->mixed);
+    type.spelledVariously = areSpelledVariously(record->text);
+    joinMembers(type);
+    numberMembers(type);
+    typeOfRecord[record] = &type;
     return &type;
+}
+
+void SchemaIndex::joinMembers(TypeIndex& type)
+{
+    std::vector<TypeIndex::FlatMember> inherited, attributes;
+    int groups = 0;
+    if (type.base != nullptr) {
+        inherited = type.base->allMembers;
+        const auto middle = inherited.begin() + static_cast<std::ptrdiff_t>(type.base->elements);
+        attributes.assign(middle, inherited.end());
+        inherited.erase(middle, inherited.end());
+        for (const TypeIndex::FlatMember& member : inherited) {
+            groups = std::max(groups, member.group);
+        }
+    }
+    type.allMembers = std::move(inherited);
+    for (std::size_t i = 0; i < type.typeRecord->memberCount; ++i) {
+        TypeIndex::FlatMember member;
+        member.declaration = &type.typeRecord->members[i];
+        member.name = addName(member.declaration->uri, member.declaration->name);
+        member.group = member.declaration->group != 0 ? groups + member.declaration->group : 0;
+        (member.declaration->isAttribute ? attributes : type.allMembers).push_back(member);
+    }
+    type.elements = type.allMembers.size();
+    type.allMembers.insert(type.allMembers.end(), attributes.begin(), attributes.end());
+}
+
+void SchemaIndex::numberMembers(TypeIndex& type)
+{
+    std::size_t required = 0, defaults = 0;
+    for (std::size_t i = 0; i < type.allMembers.size(); ++i) {
+        TypeIndex::FlatMember& member = type.allMembers[i];
+        const bool alternates = i != 0 && member.group != 0 && type.allMembers[i - 1].group == member.group;
+        member.index = static_cast<MemberIndex>(i);
+        member.groupBegin = alternates ? type.allMembers[i - 1].groupBegin : member.index;
+        member.requiredBit = member.declaration->isRequired ? bit<std::uint64_t>(required++) : 0;
+        member.defaultBit = member.declaration->defaultText != nullptr ? bit<std::uint32_t>(defaults++) : 0;
+        type.required |= member.requiredBit;
+    }
 }
 
 NameId SchemaIndex::nameId(std::string_view uri, std::string_view name) const
 {
-    const auto found = m_nameIds.find(keyOf(uri, name));
-    return found != m_nameIds.end() ? found->second : 0;
+    const auto found = nameIds.find(keyOf(uri, name));
+    return found != nameIds.end() ? found->second : 0;
 }
 
 const TypeIndex& SchemaIndex::typeOf(const xml_schema::type& object) const
@@ -142,71 +175,77 @@ const TypeIndex& SchemaIndex::typeOf(const xml_schema::type& object) const
 
 const TypeIndex& SchemaIndex::typeOf(const TypeRecord& record) const
 {
-    return *m_typeOfRecord.at(&record);
+    return *typeOfRecord.at(&record);
 }
 
 const TypeIndex* SchemaIndex::findType(std::string_view uri, std::string_view name) const
 {
-    const auto found = m_typeByName.find(keyOf(uri, name));
-    return found != m_typeByName.end() ? found->second : nullptr;
+    const auto found = typeByName.find(keyOf(uri, name));
+    return found != typeByName.end() ? found->second : nullptr;
 }
 
-const Place& SchemaIndex::place(const TypeIndex& type, NameId name) const
+const MemberSlot* SchemaIndex::slotOf(const TypeIndex& type, NameId name) const
 {
-    // Of all types, a document has few.
-    if (type.m_places.empty())
-        type.m_places.resize(m_names.size());
-    std::uint16_t& number = type.m_places[name];
-    if (number == 0) {
-        type.m_found.push_back(name != 0 ? findPlace(type, name) : Place());
-        number = static_cast<std::uint16_t>(type.m_found.size());
+    if (type.slotNumbers.empty()) {
+        type.slotNumbers.resize(names.size());
     }
-    return type.m_found[number - 1];
+    std::uint16_t& number = type.slotNumbers[name];
+    if (number == 0) {
+        type.slots.push_back(name != 0 ? findSlot(type, name) : std::nullopt);
+        number = static_cast<std::uint16_t>(type.slots.size());
+    }
+    const std::optional<MemberSlot>& slot = type.slots[number - 1];
+    return slot ? &*slot : nullptr;
 }
 
-Place SchemaIndex::findPlace(const TypeIndex& type, NameId name) const
+std::optional<MemberSlot> SchemaIndex::findSlot(const TypeIndex& type, NameId name) const
 {
-    const auto element = m_elements.find(name);
-    const ElementRecord* const global = element != m_elements.end() ? element->second : nullptr;
+    const auto element = elements.find(name);
+    const ElementRecord* const global = element != elements.end() ? element->second : nullptr;
     // The element itself, then the heads of the substitution groups that it stands in.
     const ElementRecord* head = global;
     for (NameId candidate = name; candidate != 0;) {
-        for (std::size_t i = 0; i < type.m_elementCount; ++i) {
-            const TypeIndex::FlatMember& member = type.m_members[i];
-            if (member.name != candidate)
+        for (std::size_t i = 0; i < type.elements; ++i) {
+            const TypeIndex::FlatMember& member = type.allMembers[i];
+            if (member.name != candidate) {
                 continue;
-            Place place;
-            place.member = static_cast<int>(i);
-            place.type = member.type;
-            if (candidate != name)
-                place.type = global->type != nullptr ? &typeOf(*global->type) : nullptr;
+            }
+            MemberSlot slot;
+            slot.member = static_cast<MemberIndex>(i);
+            slot.type = member.type;
+            if (candidate != name) {
+                slot.type = global->type != nullptr ? &typeOf(*global->type) : nullptr;
+            }
             // Only a reference to the global element takes over that it is abstract.
             const bool isGlobal =
-                global != nullptr && global->type == (place.type ? place.type->record() : nullptr);
-            place.isAbstract =
-                (isGlobal && global->isAbstract) || (place.type && place.type->record()->isAbstract);
-            return place;
+                global != nullptr && global->type == (slot.type != nullptr ? slot.type->record() : nullptr);
+            slot.isAbstract =
+                (isGlobal && global->isAbstract) || (slot.type != nullptr && slot.type->record()->isAbstract);
+            return slot;
         }
         head = head != nullptr ? head->head : nullptr;
         candidate = head != nullptr ? nameId(head->uri, head->name) : 0;
     }
-    return Place();
+    return std::nullopt;
 }
 
-NameId SchemaIndex::elementName(const TypeIndex& parent, int member, const TypeIndex& type,
+NameId SchemaIndex::elementName(const TypeIndex& parent, MemberIndex member, const TypeIndex& type,
                                 bool& needsType) const
 {
-    const TypeIndex::FlatMember& flat = parent.members()[static_cast<std::size_t>(member)];
+    const TypeIndex::FlatMember& flat = parent.members()[member];
     needsType = false;
-    const Place& own = place(parent, flat.name);
-    if (own.type == &type && !own.isAbstract)
+    const MemberSlot* const own = slotOf(parent, flat.name);
+    if (own != nullptr && own->type == &type && !own->isAbstract) {
         return flat.name;
-    const auto elements = m_elementsOfType.find(type.record());
-    if (elements != m_elementsOfType.end()) {
-        for (const ElementRecord* element : elements->second) {
+    }
+    const auto candidates = elementsOfType.find(type.record());
+    if (candidates != elementsOfType.end()) {
+        for (const ElementRecord* element : candidates->second) {
             const NameId name = nameId(element->uri, element->name);
-            if (!element->isAbstract && place(parent, name).member == member)
+            const MemberSlot* const slot = element->isAbstract ? nullptr : slotOf(parent, name);
+            if (slot != nullptr && slot->member == member) {
                 return name;
+            }
         }
     }
     needsType = true;

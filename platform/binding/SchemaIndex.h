@@ -2,7 +2,9 @@
 
 #include "platform/binding/Tables.h"
 
+#include <cstdint>
 #include <deque>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -11,8 +13,10 @@
 namespace citygml {
 namespace binding {
 
-/// Number of a qualified name that the schema knows; 0 is any other.
+/// Identifier of a qualified name that the schema knows; 0 is any other name.
 using NameId = std::uint32_t;
+/// Index of a member among those of a type and its bases.
+using MemberIndex = std::uint16_t;
 
 struct QualifiedName
 {
@@ -23,10 +27,10 @@ struct QualifiedName
 class TypeIndex;
 
 /// Where a child element goes: the member that takes it, and its type.
-struct Place
+struct MemberSlot
 {
-    /// Number of the member in TypeIndex::members(), or -1 where the type has no place for the element.
-    int member = -1;
+    /// In TypeIndex::members().
+    MemberIndex member = 0;
     /// Null for a fundamental type.
     const TypeIndex* type = nullptr;
     /// Whether the element or its type is abstract, so that only `xsi:type` makes an object of it.
@@ -37,30 +41,36 @@ struct Place
 class TypeIndex
 {
 public:
+    /// A member that the type or a base declares.
     struct FlatMember
     {
-        const Member* member;
-        NameId name;
-        const TypeIndex* type;
-        /// Number that tells the repeated particles of all bases apart; 0 for none.
-        int group;
-        /// Number of the first member that it may alternate with, else its own.
-        int place;
-        /// Place among the required members, or -1.
-        int required;
-        /// Place among the attributes with a default or fixed value, or -1.
-        int defaulted;
+        const Member* declaration = nullptr;
+        /// Null for a fundamental type.
+        const TypeIndex* type = nullptr;
+        /// The member's bit among the required ones; 0 for one that may be absent.
+        std::uint64_t requiredBit = 0;
+        /// The member's bit among the attributes with a default or fixed value; 0 for any other.
+        std::uint32_t defaultBit = 0;
+        NameId name = 0;
+        /// Tells the repeated particles of all bases apart; 0 outside of one.
+        int group = 0;
+        /// Among all members of the type.
+        MemberIndex index = 0;
+        /// Index of the first member of the repeated particle, with which the member may alternate; outside of
+        /// one the member's own.
+        MemberIndex groupBegin = 0;
     };
 
-    const TypeRecord* record() const { return m_record; }
+    const TypeRecord* record() const { return typeRecord; }
     /// Elements first, each kind in the order of the schema, those of the bases in front.
-    const std::vector<FlatMember>& members() const { return m_members; }
-    std::size_t elementCount() const { return m_elementCount; }
-    int requiredCount() const { return m_requiredCount; }
-    bool hasText() const { return m_record->text != nullptr; }
-    bool isMixed() const { return m_mixed; }
+    const std::vector<FlatMember>& members() const { return allMembers; }
+    std::size_t elementCount() const { return elements; }
+    /// The bits of all required members.
+    std::uint64_t requiredBits() const { return required; }
+    bool hasText() const { return typeRecord->text != nullptr; }
+    bool isMixed() const { return mixed; }
     /// Whether one value of the type's text can be spelled in several ways, other than a number.
-    bool hasSpellings() const { return m_hasSpellings; }
+    bool hasSpellings() const { return spelledVariously; }
     bool isDerivedFrom(const TypeIndex* other) const;
 
     /// Member of an attribute, or null.
@@ -69,16 +79,18 @@ public:
 private:
     friend class SchemaIndex;
 
-    const TypeRecord* m_record = nullptr;
-    const TypeIndex* m_base = nullptr;
-    std::vector<FlatMember> m_members;
-    std::size_t m_elementCount = 0;
-    int m_requiredCount = 0;
-    bool m_mixed = false;
-    bool m_hasSpellings = false;
-    // By name: 0 not looked up yet, else one more than a number in m_found.
-    mutable std::vector<std::uint16_t> m_places;
-    mutable std::deque<Place> m_found;
+    const TypeRecord* typeRecord = nullptr;
+    const TypeIndex* base = nullptr;
+    std::vector<FlatMember> allMembers;
+    std::size_t elements = 0;
+    std::uint64_t required = 0;
+    bool mixed = false;
+    bool spelledVariously = false;
+    // By name: 0 not looked up yet, else one more than an index of slots. Of all types a document has few, so
+    // that a type gets its slots when a document first asks for them.
+    mutable std::vector<std::uint16_t> slotNumbers;
+    // Null for a name that has no slot.
+    mutable std::deque<std::optional<MemberSlot>> slots;
 };
 
 /// Look-ups over the schema tables, made once for the process.
@@ -87,8 +99,9 @@ class SchemaIndex
 public:
     static const SchemaIndex& instance();
 
+    /// \return 0 for a name that no element and no attribute of the schema has.
     NameId nameId(std::string_view uri, std::string_view name) const;
-    const QualifiedName& name(NameId id) const { return m_names[id]; }
+    const QualifiedName& name(NameId id) const { return names[id]; }
 
     /// Index of an object's dynamic type.
     const TypeIndex& typeOf(const xml_schema::type& object) const;
@@ -97,30 +110,38 @@ public:
     const TypeIndex* findType(std::string_view uri, std::string_view name) const;
 
     /// Where an element with that name goes in an object of the type.
-    const Place& place(const TypeIndex& type, NameId name) const;
+    ///
+    /// \return null where the type has no member for the element.
+    const MemberSlot* slotOf(const TypeIndex& type, NameId name) const;
 
     /// Name under which an object stands in a member of its parent, when no document gave it one.
-    /// \param needsType set where the name does not tell the object's type.
-    NameId elementName(const TypeIndex& parent, int member, const TypeIndex& type, bool& needsType) const;
+    ///
+    /// \param[out] needsType set where the name does not tell the object's type
+    NameId elementName(const TypeIndex& parent, MemberIndex member, const TypeIndex& type,
+                       bool& needsType) const;
 
     /// The namespaces of the tables.
-    const std::vector<std::string>& namespaces() const { return m_namespaces; }
+    const std::vector<std::string>& namespaces() const { return uris; }
 
 private:
     SchemaIndex();
 
     NameId addName(const char* uri, const char* name);
     const TypeIndex* indexType(const TypeRecord* record);
-    Place findPlace(const TypeIndex& type, NameId name) const;
+    /// Gives a type the members of its bases and its own.
+    void joinMembers(TypeIndex& type);
+    /// Finds the groups of a type's members, and gives each required and each defaulted one its bit.
+    static void numberMembers(TypeIndex& type);
+    std::optional<MemberSlot> findSlot(const TypeIndex& type, NameId name) const;
 
-    std::vector<QualifiedName> m_names;
-    std::unordered_map<std::string, NameId> m_nameIds;
-    std::unordered_map<NameId, const ElementRecord*> m_elements;
-    std::unordered_map<const TypeRecord*, std::vector<const ElementRecord*>> m_elementsOfType;
-    std::deque<TypeIndex> m_types;
-    std::unordered_map<const TypeRecord*, const TypeIndex*> m_typeOfRecord;
-    std::unordered_map<std::string, const TypeIndex*> m_typeByName;
-    std::vector<std::string> m_namespaces;
+    std::vector<QualifiedName> names;
+    std::unordered_map<std::string, NameId> nameIds;
+    std::unordered_map<NameId, const ElementRecord*> elements;
+    std::unordered_map<const TypeRecord*, std::vector<const ElementRecord*>> elementsOfType;
+    std::deque<TypeIndex> types;
+    std::unordered_map<const TypeRecord*, const TypeIndex*> typeOfRecord;
+    std::unordered_map<std::string, const TypeIndex*> typeByName;
+    std::vector<std::string> uris;
 };
 
 } // namespace binding

@@ -1,5 +1,5 @@
 #include "citygml/CityGMLBaseVisitor.h"
-#include "platform/binding/KeptContent.h"
+#include "platform/binding/kept/KeptContent.h"
 #include "platform/binding/Tables.h"
 
 #include <array>
@@ -72,14 +72,6 @@ const TypeRecord* recordOf(const xml_schema::type& object)
         slot.info = &info;
     }
     return slot.record;
-}
-
-KeptContent& KeptContent::of(xml_schema::type& object)
-{
-    if (!object.kept) {
-        object.kept = std::make_unique<KeptContent>();
-    }
-    return *object.kept;
 }
 
 } // namespace binding
@@ -155,15 +147,9 @@ type::type(const type& other, ::xsd::cxx::tree::flags flags, type_base* containe
 
 type& type::operator=(const type& other)
 {
-    if (this == &other) {
-        return *this;
-    }
-    type_base::operator=(other);
-    // A value made by a program says nothing about the document, so that what the document said here stays.
-    if (other.elementName != 0) {
-        spelledOut = other.spelledOut;
-        elementName = other.elementName;
-        kept = other.kept ? std::make_unique<KeptContent>(*other.kept) : nullptr;
+    if (this != &other) {
+        type_base::operator=(other);
+        KeptContent::assign(*this, other);
     }
     return *this;
 }

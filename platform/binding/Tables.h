@@ -1,6 +1,7 @@
 #pragma once
 
 #include "BindingExport.h"
+#include "platform/binding/values/ValueError.h"
 #include "xml-schema.hxx"
 
 #include <cstddef>
@@ -23,22 +24,21 @@ class NameScope
 {
 public:
     virtual ~NameScope() = default;
-    /// \return the namespace bound to the prefix; throws ValueError for an unbound one.
+    /// The namespace that a prefix is bound to; that of the empty prefix may be none.
+    ///
+    /// \throws ValueError for a prefix that is not bound.
     virtual std::string namespaceOf(std::string_view prefix) const = 0;
-    /// \return a prefix that is bound to the namespace.
+    /// A prefix that is bound to the namespace; empty for the default namespace, and where there is none.
     virtual std::string prefixOf(const std::string& uri) const = 0;
-};
-
-/// A text that is no value of its type; the message says which text and which type.
-struct ValueError
-{
-    std::string message;
 };
 
 /// Reads and writes the text of an object with simple content.
 struct TextOps
 {
-    /// Sets the object's value from text; throws ValueError.
+    /// Sets the object's value from text.
+    ///
+    /// \param scope what the prefixes in the text mean
+    /// \throws ValueError for a text that is no value of the type.
     void (*parse)(xml_schema::type& object, std::string_view text, const NameScope& scope);
     /// Appends the object's value, not escaped.
     void (*format)(const xml_schema::type& object, std::string& text, const NameScope& scope);
@@ -49,10 +49,15 @@ struct MemberOps
 {
     /// Gives an object to the member: sets a single one, appends to a sequence. Takes ownership.
     void (*add)(xml_schema::type& owner, xml_schema::type* child);
-    /// The same for a fundamental value; throws ValueError.
+    /// The same for a fundamental value.
+    ///
+    /// \throws ValueError for a text that is no value of the type.
     void (*addText)(xml_schema::type& owner, std::string_view text);
+    /// Number of objects or values in the member.
     std::size_t (*count)(const xml_schema::type& owner);
+    /// An object of the member; of a member of fundamental values the owner.
     const xml_schema::type& (*at)(const xml_schema::type& owner, std::size_t index);
+    /// Appends a fundamental value; nothing for an object.
     void (*format)(const xml_schema::type& owner, std::size_t index, std::string& text);
     /// Whether `add` replaces what is there.
     bool single;
@@ -67,7 +72,7 @@ struct Member
     bool isRequired;
     /// Text of a default or fixed attribute, else null.
     const char* defaultText;
-    /// Members of a type with the same number, other than 0, stand in a repeated particle and may alternate.
+    /// Tells the repeated particles of the type apart, in which members may alternate; 0 outside of one.
     int group;
     /// Null for a fundamental type.
     const TypeRecord* type;

@@ -377,7 +377,7 @@ def write_tables(output, classes, schema):
             record(cpp_builtin(node.get("type")[1]))
     with open(os.path.join(output, "tables.h"), "w") as f:
         f.write('#pragma once\n\n#include "citygml/AllTypes.h"\n#include "citygml/CityGMLBaseVisitor.h"\n')
-        f.write('#include "platform/binding/MemberAccess.h"\n#include "platform/binding/TextValues.h"\n\n')
+        f.write('#include "platform/binding/MemberAccess.h"\n\n')
         f.write("namespace citygml {\nnamespace binding {\n\n")
         for key in operations:
             f.write("extern const TypeRecord type_%s_%s;\n" % key)

@@ -9,11 +9,14 @@
 namespace citygml {
 namespace binding {
 
+/// The namespaces that a host wants declared, with the places of their schemas, by prefix.
+using NamespaceMap = xsd::cxx::xml::dom::namespace_infomap<char>;
+
 /// Writes a document straight to a stream, by the schema tables, together with what the reader kept.
-/// \param namespaces declared on the root besides those that the document was read with.
+///
+/// \param namespaces declared on the root besides those that the document was read with
 /// \throws xsd::cxx::tree::exception<char> where the document cannot be XML.
-void writeDocument(std::ostream& stream, const core::CityModelType& model,
-                   const xsd::cxx::xml::dom::namespace_infomap<char>& namespaces);
+void writeDocument(std::ostream& stream, const core::CityModelType& model, const NamespaceMap& namespaces);
 
 } // namespace binding
 } // namespace citygml

@@ -1,4 +1,4 @@
-#include "platform/binding/XmlText.h"
+#include "platform/binding/xml/XmlText.h"
 
 #include <array>
 #include <cstdint>
@@ -13,13 +13,15 @@ enum Class : std::uint8_t { Plain, Markup, Invalid, Multibyte };
 constexpr std::array<std::uint8_t, 256> classes(bool attribute)
 {
     std::array<std::uint8_t, 256> table{};
-    for (unsigned c = 0; c < 0x20; ++c)
+    for (unsigned c = 0; c < 0x20; ++c) {
         table[c] = Invalid;
+    }
     table['\t'] = table['\n'] = attribute ? Markup : Plain;
     table['\r'] = table['&'] = table['<'] = table['>'] = Markup;
     table['"'] = attribute ? Markup : Plain;
-    for (unsigned c = 0x80; c < 0x100; ++c)
+    for (unsigned c = 0x80; c < 0x100; ++c) {
         table[c] = Multibyte;
+    }
     return table;
 }
 
@@ -54,8 +56,9 @@ std::size_t multibyteLength(std::string_view text)
     };
     const auto continues = [&byte](std::size_t i) { return (byte(i) & 0xC0u) == 0x80u; };
     const unsigned first = byte(0);
-    if (first >= 0xC2 && first < 0xE0)
+    if (first >= 0xC2 && first < 0xE0) {
         return continues(1) ? 2 : 0;
+    }
     if (first >= 0xE0 && first < 0xF0) {
         const unsigned code = (first & 0x0Fu) << 12 | (byte(1) & 0x3Fu) << 6 | (byte(2) & 0x3Fu);
         const bool isSurrogate = code >= 0xD800 && code < 0xE000;
@@ -83,8 +86,9 @@ bool append(std::string_view text, std::string& xml, const std::array<std::uint8
             break;
         case Multibyte: {
             const std::size_t length = multibyteLength(text.substr(i));
-            if (length == 0)
+            if (length == 0) {
                 return false;
+            }
             i += length;
             break;
         }
@@ -106,11 +110,6 @@ bool appendEscaped(std::string_view text, std::string& xml)
 bool appendEscapedAttribute(std::string_view text, std::string& xml)
 {
     return append(text, xml, attributeClasses);
-}
-
-bool isBlank(std::string_view text)
-{
-    return text.find_first_not_of(" \t\r\n") == std::string_view::npos;
 }
 
 } // namespace binding

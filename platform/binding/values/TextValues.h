@@ -1,7 +1,12 @@
 #pragma once
 
 #include "platform/binding/Tables.h"
+#include "platform/binding/values/Numbers.h"
+#include "platform/binding/values/QualifiedNames.h"
+#include "platform/binding/values/TimeValues.h"
+#include "platform/binding/values/WhiteSpace.h"
 
+#include <memory>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -10,47 +15,7 @@
 namespace citygml {
 namespace binding {
 
-/// Numbers and booleans, independent of any locale. Reading throws ValueError. Writing gives the shortest
-/// decimal text that reads back to the same bits.
-template <typename T>
-T parseNumber(std::string_view text);
-void formatNumber(double value, std::string& text);
-void formatNumber(float value, std::string& text);
-void formatNumber(long long value, std::string& text);
-void formatNumber(unsigned long long value, std::string& text);
-void formatNumber(bool value, std::string& text);
-inline void formatNumber(int value, std::string& text)
-{
-    formatNumber(static_cast<long long>(value), text);
-}
-
-/// Reads a list of numbers; throws ValueError.
-void parseNumbers(std::string_view text, std::vector<double>& values);
-void formatNumbers(const std::vector<double>& values, std::string& text);
-
-/// The text without white space at its ends.
-std::string_view trimmed(std::string_view text);
-/// Takes the next word off the front of a list; false at its end.
-bool nextWord(std::string_view& list, std::string_view& word);
-/// Runs of white space become one blank, none at the ends.
-std::string collapsed(std::string_view text);
-
-void parseValue(xml_schema::date& value, std::string_view text);
-void parseValue(xml_schema::date_time& value, std::string_view text);
-void parseValue(xml_schema::time& value, std::string_view text);
-void parseValue(xml_schema::duration& value, std::string_view text);
-void parseValue(xml_schema::gyear& value, std::string_view text);
-void parseValue(xml_schema::gyear_month& value, std::string_view text);
-void formatValue(const xml_schema::date& value, std::string& text);
-void formatValue(const xml_schema::date_time& value, std::string& text);
-void formatValue(const xml_schema::time& value, std::string& text);
-void formatValue(const xml_schema::duration& value, std::string& text);
-void formatValue(const xml_schema::gyear& value, std::string& text);
-void formatValue(const xml_schema::gyear_month& value, std::string& text);
-
-void parseName(xml_schema::qname& value, std::string_view text, const NameScope& scope);
-void formatName(const xml_schema::qname& value, std::string& text, const NameScope& scope);
-
+/// Whether a class is made of a fundamental value, and of which type.
 template <typename T>
 struct IsFundamentalBase : std::false_type
 {
@@ -61,28 +26,30 @@ struct IsFundamentalBase<xsd::cxx::tree::fundamental_base<T, C, B, S>> : std::tr
     using Value = T;
 };
 
+/// A new object for the caller to own. What it holds means nothing yet.
 template <typename T>
 T* newValue()
 {
-    // These have no public default constructor; the reader sets the value at once.
-    if constexpr (std::is_same_v<T, xml_schema::date>)
+    // Most of these have no public default constructor; the reader sets the value at once.
+    if constexpr (std::is_same_v<T, xml_schema::date>) {
         return new T(1, 1, 1);
-    else if constexpr (std::is_same_v<T, xml_schema::date_time>)
+    } else if constexpr (std::is_same_v<T, xml_schema::date_time>) {
         return new T(1, 1, 1, 0, 0, 0.0);
-    else if constexpr (std::is_same_v<T, xml_schema::time>)
+    } else if constexpr (std::is_same_v<T, xml_schema::time>) {
         return new T(0, 0, 0.0);
-    else if constexpr (std::is_same_v<T, xml_schema::duration>)
+    } else if constexpr (std::is_same_v<T, xml_schema::duration>) {
         return new T(false, 0, 0, 0, 0, 0, 0.0);
-    else if constexpr (std::is_same_v<T, xml_schema::gyear>)
+    } else if constexpr (std::is_same_v<T, xml_schema::gyear>) {
         return new T(1);
-    else if constexpr (std::is_same_v<T, xml_schema::gyear_month>)
+    } else if constexpr (std::is_same_v<T, xml_schema::gyear_month>) {
         return new T(1, 1);
-    else if constexpr (std::is_same_v<T, xml_schema::qname>)
+    } else if constexpr (std::is_same_v<T, xml_schema::qname>) {
         return new T(xml_schema::ncname("_"));
-    else if constexpr (!std::is_default_constructible_v<T>)
+    } else if constexpr (!std::is_default_constructible_v<T>) {
         return new T(std::string());
-    else
+    } else {
         return new T();
+    }
 }
 
 /// Reading and writing of the values that `T` and the classes derived from it hold.
@@ -144,14 +111,16 @@ struct Text
         } else {
             bool first = true;
             for (const auto& item : value) {
-                if (!first)
+                if (!first) {
                     text += ' ';
+                }
                 first = false;
                 using Item = typename T::value_type;
-                if constexpr (std::is_fundamental_v<Item>)
+                if constexpr (std::is_fundamental_v<Item>) {
                     formatNumber(item, text);
-                else
+                } else {
                     Text<typename Root<Item>::Type>::format(item, text, scope);
+                }
             }
         }
     }

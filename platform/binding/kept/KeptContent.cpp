@@ -1,0 +1,158 @@
+#include "platform/binding/kept/KeptContent.h"
+
+#include "platform/binding/values/WhiteSpace.h"
+#include "platform/binding/xml/Namespaces.h"
+
+#include <algorithm>
+
+namespace citygml {
+namespace binding {
+
+namespace {
+
+template <typename Item, typename IsBefore>
+void sortOnce(std::vector<Item>& items, IsBefore isBefore)
+{
+    // Most documents stand in the order of the schema already.
+    if (!std::is_sorted(items.begin(), items.end(), isBefore)) {
+        std::stable_sort(items.begin(), items.end(), isBefore);
+    }
+}
+
+bool isWhiteSpace(const KeptContent::Node& node)
+{
+    return node.kind == KeptContent::Kind::Text && isBlank(node.xml);
+}
+
+bool isVisibleText(const KeptContent::Node& node)
+{
+    return node.kind == KeptContent::Kind::Text && !isBlank(node.xml);
+}
+
+} // namespace
+
+const std::string* KeptContent::Scope::namespaceOf(std::string_view prefix) const
+{
+    for (const Scope* scope = this; scope != nullptr; scope = scope->outer.get()) {
+        for (auto i = scope->declarations.rbegin(); i != scope->declarations.rend(); ++i) {
+            if (i->first == prefix) {
+                return i->second.get();
+            }
+        }
+    }
+    return nullptr;
+}
+
+bool KeptContent::Attribute::isNil() const
+{
+    return is(xsiUri, "nil");
+}
+
+KeptContent::NodeCursor::NodeCursor(const KeptContent* kept)
+{
+    if (kept != nullptr) {
+        next = kept->keptNodes.data();
+        end = next + kept->keptNodes.size();
+    }
+}
+
+const KeptContent::Node* KeptContent::NodeCursor::takeInFrontOf(const Position& child)
+{
+    return next != end && next->position < child ? next++ : nullptr;
+}
+
+const KeptContent::Node* KeptContent::NodeCursor::take()
+{
+    return next != end ? next++ : nullptr;
+}
+
+KeptContent& KeptContent::of(xml_schema::type& object)
+{
+    if (!object.kept) {
+        object.kept = std::make_unique<KeptContent>();
+    }
+    return *object.kept;
+}
+
+void KeptContent::assign(xml_schema::type& target, const xml_schema::type& source)
+{
+    const bool isOfDocument = source.elementName != 0;
+    if (isOfDocument) {
+        target.elementName = source.elementName;
+        target.spelledOut = source.spelledOut;
+        target.kept = source.kept ? std::make_unique<KeptContent>(*source.kept) : nullptr;
+    }
+}
+
+void KeptContent::addSpelling(std::optional<MemberIndex> member, std::string_view text)
+{
+    Value value;
+    value.member = member;
+    value.spelling = text;
+    addValue(std::move(value));
+}
+
+void KeptContent::seal()
+{
+    sortOnce(keptValues, [](const Value& a, const Value& b) {
+        return a.member != b.member ? a.member < b.member : a.index < b.index;
+    });
+    sortOnce(keptNodes, [](const Node& a, const Node& b) { return a.position < b.position; });
+    if (std::none_of(keptNodes.begin(), keptNodes.end(), &isVisibleText)) {
+        keptNodes.erase(std::remove_if(keptNodes.begin(), keptNodes.end(), &isWhiteSpace), keptNodes.end());
+    }
+}
+
+void KeptContent::seal(xml_schema::type& object)
+{
+    if (object.kept) {
+        object.kept->seal();
+        if (object.kept->isEmpty()) {
+            object.kept = nullptr;
+        }
+    }
+}
+
+bool KeptContent::isEmpty() const
+{
+    return keptAttributes.empty() && keptNodes.empty() && keptValues.empty() && order.empty() && !ofDocument;
+}
+
+bool KeptContent::hasNilAttribute() const
+{
+    return std::any_of(keptAttributes.begin(), keptAttributes.end(),
+                       [](const Attribute& attribute) { return attribute.isNil(); });
+}
+
+bool KeptContent::hasText() const
+{
+    return std::any_of(keptNodes.begin(), keptNodes.end(),
+                       [](const Node& node) { return node.kind == Kind::Text; });
+}
+
+KeptContent::Values KeptContent::valuesOf(std::optional<MemberIndex> member) const
+{
+    const Value* const end = keptValues.data() + keptValues.size();
+    const Value* const first =
+        std::lower_bound(keptValues.data(), end, member,
+                         [](const Value& value, std::optional<MemberIndex> m) { return value.member < m; });
+    const Value* const last =
+        std::upper_bound(first, end, member,
+                         [](std::optional<MemberIndex> m, const Value& value) { return m < value.member; });
+    return Values(first, last);
+}
+
+bool KeptContent::hasNilValue(MemberIndex member) const
+{
+    return std::any_of(keptValues.begin(), keptValues.end(),
+                       [member](const Value& value) { return value.isNil && value.member == member; });
+}
+
+std::string_view KeptContent::spellingOf(std::optional<MemberIndex> member) const
+{
+    const Values values = valuesOf(member);
+    return values.begin() != values.end() ? std::string_view(values.begin()->spelling) : std::string_view();
+}
+
+} // namespace binding
+} // namespace citygml

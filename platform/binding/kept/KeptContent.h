@@ -1,0 +1,260 @@
+#pragma once
+
+#include "BindingExport.h"
+#include "xml-schema.hxx"
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace citygml {
+namespace binding {
+
+/// What a document said about an object that the object's class has no member for: unknown attributes and
+/// elements, comments, processing instructions, text between elements, spellings, values that are nil.
+///
+/// Only an object about which there is something to say has one; copies of the object have copies of it. The
+/// reader adds to it in the order of the document and seals it at the end of the element. The writer goes
+/// over the object's children, and asks before each of them for the nodes in front of it:
+///
+///     <Building>                 members: name 2, function 7
+///       <!--a-->                 Position::inFront()
+///       <name/>
+///       <!--b-->                 Position::behind(2, 1)
+///       <function/><function/>
+///       <x:c/>                   Position::behind(7, 2)
+///     </Building>
+///
+/// A position speaks of members and numbers of children, not of objects. So it holds when the children
+/// themselves are edited, and what stood behind a child that is there no more moves to the next one.
+///
+/// Of sealed content is true:
+/// - The nodes are in the order of their positions, those at the same one in the order of the document.
+/// - The values are in the order of their members and indices, the object's own text in front.
+/// - Text that is white space alone is there only beside other text.
+class TOLVIK_BINDING_EXPORT KeptContent
+{
+public:
+    /// Index of a member in TypeIndex::members().
+    using MemberIndex = std::uint16_t;
+
+    /// A place between the children of an object, or in its text.
+    class Position
+    {
+    public:
+        /// In front of all children.
+        static Position inFront() { return Position(0, 0); }
+        /// Behind so many children of a member, from one up. Children of members that may alternate count
+        /// together, under the first of these members. The child itself has that position too.
+        static Position behind(MemberIndex member, std::size_t children)
+        {
+            return Position(member, static_cast<std::uint32_t>(children));
+        }
+        /// Behind all children of a member, however many there are.
+        static Position behindAll(MemberIndex member)
+        {
+            return Position(static_cast<MemberIndex>(member + 1), 0);
+        }
+        /// Behind so many bytes of a text.
+        static Position inText(std::size_t bytes) { return Position(0, static_cast<std::uint32_t>(bytes)); }
+
+        MemberIndex member() const { return memberIndex; }
+        /// Number of children of the member in front of it, or of bytes in a text.
+        std::size_t count() const { return inFrontOfIt; }
+
+        friend bool operator<(const Position& a, const Position& b)
+        {
+            return a.memberIndex != b.memberIndex ? a.memberIndex < b.memberIndex
+                                                  : a.inFrontOfIt < b.inFrontOfIt;
+        }
+
+    private:
+        Position(MemberIndex member, std::uint32_t count) : inFrontOfIt(count), memberIndex(member) {}
+
+        std::uint32_t inFrontOfIt;
+        MemberIndex memberIndex;
+    };
+
+    /// Namespace declarations of an element, and of the elements around it.
+    struct Scope
+    {
+        /// Prefix and namespace.
+        std::vector<std::pair<std::string, std::shared_ptr<const std::string>>> declarations;
+        std::shared_ptr<const Scope> outer;
+
+        /// \return null for a prefix that is not declared.
+        const std::string* namespaceOf(std::string_view prefix) const;
+    };
+
+    /// An attribute that the type does not declare, with the prefix that it had.
+    struct Attribute
+    {
+        std::string prefix;
+        /// Shared, since a namespace may be longer than what stands in it; null for none.
+        std::shared_ptr<const std::string> uri;
+        std::string name;
+        std::string value;
+
+        bool is(std::string_view otherUri, std::string_view otherName) const
+        {
+            return name == otherName && uri != nullptr && *uri == otherUri;
+        }
+        /// Whether it is `xsi:nil`, whatever its value.
+        bool isNil() const;
+    };
+
+    enum class Kind : std::uint8_t { Text, Comment, Instruction, Element };
+
+    /// A piece of content.
+    struct Node
+    {
+        // A document may have many nodes: the kind stands in the bytes that the position leaves.
+        [[no_unique_address]] Position position;
+        Kind kind;
+        /// Markup as it is written, names and entities included.
+        std::string xml;
+        /// Of an element: what its prefixes mean.
+        std::shared_ptr<const Scope> scope;
+    };
+
+    /// What a document said about a value that is no object of its own: a child of a fundamental type, an
+    /// attribute, or the object's own text.
+    struct Value
+    {
+        /// Empty for the object's own text.
+        std::optional<MemberIndex> member;
+        /// Index of the value in the member. A value that is nil is not in the member, and only this tells
+        /// that it is there: it has the index of the value behind it.
+        std::uint32_t index = 0;
+        bool isNil = false;
+        std::vector<Attribute> attributes;
+        /// In the order of the text.
+        std::vector<Node> nodes;
+        /// The document's text, where one value can be spelled in several ways; else empty.
+        std::string spelling;
+    };
+
+    /// Some values that follow each other.
+    class Values
+    {
+    public:
+        Values() = default;
+        Values(const Value* first, const Value* last) : first(first), last(last) {}
+        const Value* begin() const { return first; }
+        const Value* end() const { return last; }
+
+    private:
+        const Value* first = nullptr;
+        const Value* last = nullptr;
+    };
+
+    /// What belongs to the document as a whole; kept with its root.
+    struct Document
+    {
+        /// Prefix and namespace of each declaration.
+        std::vector<std::pair<std::string, std::string>> namespaces;
+        /// The same as content of the root sees it. Null where the root is not written back with the
+        /// namespaces that it had.
+        std::shared_ptr<const Scope> scope;
+        /// Namespace and location, as pairs.
+        std::vector<std::pair<std::string, std::string>> schemaLocations;
+        bool hasSchemaLocation = false;
+        /// Comments and processing instructions around the root.
+        std::vector<std::string> prologue;
+        std::vector<std::string> epilogue;
+    };
+
+    /// Hands out the nodes of an object in their order, each once.
+    class NodeCursor
+    {
+    public:
+        /// \param kept may be null; it outlives the cursor and is not changed meanwhile
+        explicit NodeCursor(const KeptContent* kept);
+
+        /// \return the next node in front of the child at that position, or null.
+        const Node* takeInFrontOf(const Position& child);
+        /// \return the next node, or null.
+        const Node* take();
+
+    private:
+        const Node* next = nullptr;
+        const Node* end = nullptr;
+    };
+
+    /// \return null where nothing is kept.
+    static const KeptContent* find(const xml_schema::type& object) { return object.kept.get(); }
+    /// The object's kept content, made on first use.
+    static KeptContent& of(xml_schema::type& object);
+
+    /// Identifier of the name under which a document held the object; 0 for an object that a program made.
+    static std::uint32_t elementName(const xml_schema::type& object) { return object.elementName; }
+    static void setElementName(xml_schema::type& object, std::uint32_t name) { object.elementName = name; }
+    /// Whether the document spelled out an attribute that has a default or fixed value.
+    ///
+    /// \param attribute the bit of TypeIndex::FlatMember
+    static bool isSpelledOut(const xml_schema::type& object, std::uint32_t attribute)
+    {
+        return (object.spelledOut & attribute) != 0;
+    }
+    static void setSpelledOut(xml_schema::type& object, std::uint32_t attribute)
+    {
+        object.spelledOut = static_cast<std::uint16_t>(object.spelledOut | attribute);
+    }
+    /// What an edit keeps, when it assigns one object to another.
+    ///
+    /// An object that a document held brings all that the document said about it, in place of what was there.
+    /// An object that a program made says nothing about any document: the target keeps its element name, its
+    /// attributes, its nodes and its spellings, and only the members change. The writer then leaves out what
+    /// no longer fits, such as the spelling of another value.
+    static void assign(xml_schema::type& target, const xml_schema::type& source);
+
+    void addAttribute(Attribute attribute) { keptAttributes.push_back(std::move(attribute)); }
+    void addNode(Node node) { keptNodes.push_back(std::move(node)); }
+    void addValue(Value value) { keptValues.push_back(std::move(value)); }
+    /// \param member an attribute; empty for the object's own text
+    void addSpelling(std::optional<MemberIndex> member, std::string_view text);
+    /// Sets the members of the children that may alternate, in the order of the document.
+    void setChildOrder(std::vector<MemberIndex> members) { order = std::move(members); }
+    void setDocument(std::shared_ptr<const Document> whole) { ofDocument = std::move(whole); }
+    /// Makes the invariants true that the class promises; to be called when all is added.
+    void seal();
+    /// Seals what is kept about an object, and forgets it where that is nothing.
+    static void seal(xml_schema::type& object);
+
+    const std::vector<Attribute>& attributes() const { return keptAttributes; }
+    /// Whether the document said that the object is nil, or is not.
+    bool hasNilAttribute() const;
+    /// Those of sealed content.
+    const std::vector<Node>& nodes() const { return keptNodes; }
+    /// Whether there is text between the children, to which white space matters.
+    bool hasText() const;
+    /// What is kept about the values of a member, of sealed content.
+    Values valuesOf(std::optional<MemberIndex> member) const;
+    /// Whether a member has a value that is nil; before the content is sealed, too.
+    bool hasNilValue(MemberIndex member) const;
+    /// The document's text of an attribute or, with an empty member, of the object itself.
+    ///
+    /// \return empty where none is kept.
+    std::string_view spellingOf(std::optional<MemberIndex> member) const;
+    /// Empty where the children stand in the order of the schema.
+    const std::vector<MemberIndex>& childOrder() const { return order; }
+    /// Null for any object but the root of a document.
+    const Document* document() const { return ofDocument.get(); }
+
+private:
+    bool isEmpty() const;
+
+    std::vector<Attribute> keptAttributes;
+    std::vector<Node> keptNodes;
+    std::vector<Value> keptValues;
+    std::vector<MemberIndex> order;
+    std::shared_ptr<const Document> ofDocument;
+};
+
+} // namespace binding
+} // namespace citygml

@@ -1,0 +1,433 @@
+#include "platform/binding/reader/DocumentHandler.h"
+
+#include "platform/binding/reader/NamespaceScopes.h"
+#include "platform/binding/values/WhiteSpace.h"
+#include "platform/binding/xml/Namespaces.h"
+#include "platform/binding/xml/PrefixedName.h"
+#include "platform/binding/xml/XmlText.h"
+
+#include <cstring>
+#include <utility>
+
+namespace citygml {
+namespace binding {
+
+namespace {
+
+using Content = OpenElement::Content;
+using Kind = KeptContent::Kind;
+using Position = KeptContent::Position;
+
+bool isTrue(const char* value)
+{
+    const std::string_view text = trimmed(value);
+    return text == "true" || text == "1";
+}
+
+/// Whether a member has its only value already, or a nil one in its place.
+bool isTaken(const xml_schema::type& owner, const TypeIndex::FlatMember& member, const MemberSlot& slot)
+{
+    if (!member.declaration->ops->single) {
+        return false;
+    }
+    if (member.declaration->ops->count(owner) != 0) {
+        return true;
+    }
+    const KeptContent* const kept = slot.type == nullptr ? KeptContent::find(owner) : nullptr;
+    return kept != nullptr && kept->hasNilValue(slot.member);
+}
+
+} // namespace
+
+DocumentHandler::DocumentHandler(NamespaceScopes& scopes, KeptContentLog& log)
+    : scopes(scopes), log(log), index(SchemaIndex::instance()), names(index, scopes),
+      values(scopes, names, log), unknown(names)
+{
+}
+
+void DocumentHandler::startElement(const char* name, const XmlAttributes& attributes)
+{
+    if (unknown.isOpen()) {
+        unknown.startElement(name, attributes);
+        return;
+    }
+    const NameId id = names.elementId(name);
+    if (open.isEmpty()) {
+        startRoot(name, id, attributes);
+        return;
+    }
+    const MemberSlot* slot = nullptr;
+    if (open.top().content == Content::Children) {
+        keepText(open.top());
+        slot = index.slotOf(*open.top().type, id);
+        if (slot != nullptr && startChild(*slot, id, attributes)) {
+            return;
+        }
+    }
+    startUnknown(name, slot, attributes);
+}
+
+void DocumentHandler::startRoot(const char* name, NameId id, const XmlAttributes& attributes)
+{
+    const PrefixedName parts(name);
+    const std::string uri = scopes.namespaceOf(parts.prefix);
+    const std::string stem(cityGmlStem);
+    if (parts.local != rootName || uri.compare(0, stem.size(), stem) != 0) {
+        throw DocumentError{"the root element is '" + std::string(name) +
+                            "', not the CityModel of CityGML 2.0"};
+    }
+    const std::string version = uri.substr(stem.size());
+    isOlder = version == olderCityGmlVersion;
+    if (isOlder) {
+        scopes.readOlderVersion();
+        id = names.elementId(name);
+    } else if (version != cityGmlVersion) {
+        throw DocumentError{"the document is of CityGML " + version + "; versions 1.0 and 2.0 are read"};
+    }
+    root = std::make_unique<core::CityModelType>();
+    document = std::make_shared<KeptContent::Document>();
+    KeptContent::of(*root).setDocument(document);
+    document->prologue.swap(prologue);
+    for (const NamespaceScopes::Declaration& declaration : scopes.declarations()) {
+        if (declaration.depth == 1) {
+            document->namespaces.emplace_back(declaration.prefix, *declaration.uri);
+        }
+    }
+    if (!isOlder) {
+        document->scope = scopes.around(2);
+    }
+    KeptContent::setElementName(*root, id);
+    startObject(*root, index.typeOf(*root), id, attributes);
+}
+
+/// \return false where the member cannot take the element.
+bool DocumentHandler::startChild(const MemberSlot& slot, NameId id, const XmlAttributes& attributes)
+{
+    xml_schema::type& owner = *open.top().object;
+    const TypeIndex::FlatMember& member = open.top().type->members()[slot.member];
+    if (isTaken(owner, member, slot)) {
+        return false;
+    }
+    const TypeIndex* const type = typeOfChild(slot, id, attributes);
+    open.beginChild(member);
+    if (type == nullptr) {
+        startValue(member, id, attributes);
+        return true;
+    }
+    std::unique_ptr<xml_schema::type> created(type->record()->create());
+    xml_schema::type& object = *created;
+    KeptContent::setElementName(object, id);
+    member.declaration->ops->add(owner, created.release());
+    startObject(object, *type, id, attributes);
+    return true;
+}
+
+/// The type of the slot or the one that `xsi:type` tells; null for a fundamental type.
+const TypeIndex* DocumentHandler::typeOfChild(const MemberSlot& slot, NameId id,
+                                              const XmlAttributes& attributes) const
+{
+    const TypeIndex* type = slot.type;
+    bool isAbstract = slot.isAbstract;
+    for (const XmlAttribute attribute : attributes) {
+        const char* const colon = std::strchr(attribute.name, ':');
+        if (colon != nullptr && std::strcmp(colon + 1, "type") == 0 &&
+            isXsi(PrefixedName(attribute.name), "type") && type != nullptr) {
+            type = &typeNamed(attribute.value, *type, isAbstract);
+        }
+    }
+    if (isAbstract) {
+        throw DocumentError{"the element '" + names.textOf(id) + "' is abstract"};
+    }
+    return type;
+}
+
+/// The type of a qualified name, where it is one that can stand for the declared type and is known.
+const TypeIndex& DocumentHandler::typeNamed(const char* text, const TypeIndex& declared,
+                                            bool& isAbstract) const
+{
+    const std::string value = collapsed(text);
+    const PrefixedName name(value);
+    const TypeIndex* const named = index.findType(scopes.namespaceOf(name.prefix), name.local);
+    if (named != nullptr && !named->isDerivedFrom(&declared)) {
+        throw DocumentError{"the type '" + value + "' cannot stand for '" + declared.record()->name + "'"};
+    }
+    const TypeIndex& type = named != nullptr ? *named : declared;
+    isAbstract = type.record()->isAbstract;
+    return type;
+}
+
+void DocumentHandler::startObject(xml_schema::type& object, const TypeIndex& type, NameId id,
+                                  const XmlAttributes& attributes)
+{
+    text.clear();
+    open.open({type.hasText() ? Content::Text : Content::Children, id, &object, &type, nullptr});
+    for (const XmlAttribute attribute : attributes) {
+        if (!attribute.isDeclaration()) {
+            readAttribute(open.top(), attribute);
+        }
+    }
+}
+
+void DocumentHandler::startValue(const TypeIndex::FlatMember& member, NameId id,
+                                 const XmlAttributes& attributes)
+{
+    text.clear();
+    open.open({Content::Value, id, open.top().object, nullptr, &member});
+    OpenElement& element = open.top();
+    for (const XmlAttribute attribute : attributes) {
+        if (attribute.isDeclaration()) {
+            continue;
+        }
+        names.attributeId(attribute.name);
+        const PrefixedName name(attribute.name);
+        element.isNil = element.isNil || (isXsi(name, "nil") && isTrue(attribute.value));
+        log.add("attribute", attribute.name);
+        keptValue().attributes.push_back(keptAttribute(name, attribute.value));
+    }
+}
+
+/// Begins the copy of an element that no member takes.
+///
+/// \param slot the member for such elements, which has as many as it can take; null where there is none
+void DocumentHandler::startUnknown(const char* name, const MemberSlot* slot, const XmlAttributes& attributes)
+{
+    OpenElement& parent = open.top();
+    Position position =
+        parent.content == Content::Children ? parent.lastChild : Position::inText(text.size());
+    if (slot != nullptr) {
+        // One too many of a member must not come in front of the others.
+        const MemberIndex member = parent.type->members()[slot->member].groupBegin;
+        if (position.member() < member) {
+            position = Position::behindAll(member);
+        }
+    }
+    log.add("element", name);
+    unknown.begin(position, scopes.around(open.count() + 1));
+    unknown.startElement(name, attributes);
+}
+
+void DocumentHandler::readAttribute(OpenElement& element, const XmlAttribute& attribute)
+{
+    const NameId id = names.attributeId(attribute.name);
+    const TypeIndex::FlatMember* const member = id != 0 ? element.type->attribute(id) : nullptr;
+    if (member == nullptr) {
+        keepAttribute(element, attribute);
+        return;
+    }
+    element.met |= member->requiredBit;
+    KeptContent::setSpelledOut(*element.object, member->defaultBit);
+    try {
+        values.readAttribute(*element.object, *member, attribute.value);
+    } catch (const ValueError& error) {
+        throw ValueError{error.message + ", in the attribute '" + attribute.name + "'"};
+    }
+}
+
+void DocumentHandler::keepAttribute(OpenElement& element, const XmlAttribute& attribute)
+{
+    const PrefixedName name(attribute.name);
+    if (isXsi(name, "nil")) {
+        element.isNil = isTrue(attribute.value);
+    }
+    const bool isOfRoot = element.object == root.get();
+    if (isOfRoot && isXsi(name, "schemaLocation") && readSchemaLocation(attribute.value)) {
+        return;
+    }
+    log.add("attribute", attribute.name);
+    KeptContent::of(*element.object).addAttribute(keptAttribute(name, attribute.value));
+}
+
+/// \return false where the text is not made of pairs, so that nothing can be joined to it.
+bool DocumentHandler::readSchemaLocation(std::string_view list)
+{
+    std::vector<std::pair<std::string, std::string>> locations;
+    std::string_view uri, location;
+    while (nextWord(list, uri)) {
+        if (!nextWord(list, location)) {
+            return false;
+        }
+        // What the schema of the older version says does not hold for what is written.
+        const auto declared = std::make_shared<const std::string>(uri);
+        if (!isOlder || scopes.newer(declared) == declared) {
+            locations.emplace_back(uri, location);
+        }
+    }
+    document->hasSchemaLocation = true;
+    document->schemaLocations.swap(locations);
+    return true;
+}
+
+KeptContent::Attribute DocumentHandler::keptAttribute(const PrefixedName& name, const char* value) const
+{
+    // In the namespace as the document declares it.
+    const auto uri = name.prefix.empty() ? nullptr : scopes.require(name.prefix).declaredUri;
+    return {std::string(name.prefix), uri, std::string(name.local), value};
+}
+
+bool DocumentHandler::isXsi(const PrefixedName& attribute, std::string_view name) const
+{
+    return attribute.local == name && !attribute.prefix.empty() &&
+           *scopes.require(attribute.prefix).uri == xsiUri;
+}
+
+void DocumentHandler::endElement(const char* name)
+{
+    if (unknown.isOpen()) {
+        unknown.endElement(name);
+        if (!unknown.isOpen()) {
+            keepUnknown(open.top());
+        }
+        return;
+    }
+    OpenElement& element = open.top();
+    switch (element.content) {
+    case Content::Value:
+        endValue(element);
+        break;
+    case Content::Text:
+        endText(element);
+        break;
+    case Content::Children:
+        endChildren(element);
+        break;
+    }
+    text.clear();
+    open.close();
+}
+
+void DocumentHandler::endChildren(OpenElement& element)
+{
+    keepText(element);
+    checkRequired(element);
+    std::vector<MemberIndex> order = open.alternatingOrder();
+    if (!order.empty()) {
+        KeptContent::of(*element.object).setChildOrder(std::move(order));
+    }
+    KeptContent::seal(*element.object);
+}
+
+void DocumentHandler::endText(const OpenElement& element)
+{
+    if (!element.isNil || !isBlank(text)) {
+        values.readText(*element.object, *element.type, element.name, text);
+    }
+    checkRequired(element);
+    KeptContent::seal(*element.object);
+}
+
+void DocumentHandler::endValue(const OpenElement& element)
+{
+    const MemberOps& ops = *element.member->declaration->ops;
+    const std::size_t index = ops.count(*element.object);
+    if (element.isNil && isBlank(text)) {
+        // A value that is not there is not in the member; the element itself comes back.
+        keptValue().isNil = true;
+    } else {
+        std::string spelling = values.readValue(*element.object, *element.member, element.name, text);
+        if (!spelling.empty()) {
+            keptValue().spelling = std::move(spelling);
+        }
+    }
+    if (ofValue) {
+        ofValue->member = element.member->index;
+        ofValue->index = static_cast<std::uint32_t>(index);
+        KeptContent::of(*element.object).addValue(std::move(*ofValue));
+        ofValue.reset();
+    }
+}
+
+void DocumentHandler::checkRequired(const OpenElement& element) const
+{
+    if (element.isNil || (element.met & element.type->requiredBits()) == element.type->requiredBits()) {
+        return;
+    }
+    for (const TypeIndex::FlatMember& member : element.type->members()) {
+        if ((member.requiredBit & ~element.met) != 0) {
+            throw DocumentError{std::string("the required ") +
+                                (member.declaration->isAttribute ? "attribute" : "element") + " '" +
+                                names.textOf(member.name) + "' is missing"};
+        }
+    }
+}
+
+void DocumentHandler::characters(std::string_view characters)
+{
+    if (unknown.isOpen()) {
+        unknown.addText(characters);
+    } else {
+        text += characters;
+    }
+}
+
+void DocumentHandler::comment(std::string markup)
+{
+    keepMarkup(Kind::Comment, "comment", std::move(markup));
+}
+
+void DocumentHandler::processingInstruction(std::string markup)
+{
+    keepMarkup(Kind::Instruction, "processing instruction", std::move(markup));
+}
+
+void DocumentHandler::keepMarkup(Kind kind, const char* what, std::string markup)
+{
+    if (unknown.isOpen()) {
+        unknown.addMarkup(markup);
+        return;
+    }
+    if (open.isEmpty()) {
+        (document ? document->epilogue : prologue).push_back(std::move(markup));
+        return;
+    }
+    OpenElement& element = open.top();
+    if (element.content != Content::Children) {
+        return;
+    }
+    log.add(what);
+    keepText(element);
+    KeptContent::of(*element.object).addNode({element.lastChild, kind, std::move(markup), nullptr});
+}
+
+/// Keeps the text in front of a child or an end tag, where it is not just the white space between elements.
+void DocumentHandler::keepText(const OpenElement& element)
+{
+    if (text.empty()) {
+        return;
+    }
+    const bool isVisible = !isBlank(text);
+    if (isVisible || element.type->isMixed()) {
+        if (isVisible && log.isOn()) {
+            log.add("text in", names.textOf(element.name));
+        }
+        std::string xml;
+        appendEscaped(text, xml);
+        KeptContent::of(*element.object).addNode({element.lastChild, Kind::Text, std::move(xml), nullptr});
+    }
+    text.clear();
+}
+
+void DocumentHandler::keepUnknown(const OpenElement& parent)
+{
+    if (parent.content == Content::Value) {
+        keptValue().nodes.push_back(unknown.take());
+    } else {
+        KeptContent::of(*parent.object).addNode(unknown.take());
+    }
+}
+
+KeptContent::Value& DocumentHandler::keptValue()
+{
+    return ofValue ? *ofValue : ofValue.emplace();
+}
+
+std::string DocumentHandler::path() const
+{
+    std::string path = open.path(names);
+    if (unknown.isOpen()) {
+        path += "/...";
+    }
+    return path;
+}
+
+} // namespace binding
+} // namespace citygml

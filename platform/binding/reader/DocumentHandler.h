@@ -1,0 +1,91 @@
+#pragma once
+
+#include "core/CityModelType.hxx"
+#include "platform/binding/kept/KeptContent.h"
+#include "platform/binding/reader/KeptContentLog.h"
+#include "platform/binding/reader/MarkupCopy.h"
+#include "platform/binding/reader/NameResolver.h"
+#include "platform/binding/reader/OpenElements.h"
+#include "platform/binding/reader/ValueReader.h"
+#include "platform/binding/reader/XmlParser.h"
+#include "platform/binding/SchemaIndex.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace citygml {
+namespace binding {
+
+class NamespaceScopes;
+struct PrefixedName;
+
+/// Makes the objects of a document from what the parser tells of it, each as a child of the one whose element
+/// is open around it, and keeps with them what the schema has no place for.
+class DocumentHandler : public XmlHandler
+{
+public:
+    /// \param scopes follows the parser
+    DocumentHandler(NamespaceScopes& scopes, KeptContentLog& log);
+
+    void startElement(const char* name, const XmlAttributes& attributes) override;
+    void endElement(const char* name) override;
+    void characters(std::string_view characters) override;
+    void comment(std::string markup) override;
+    void processingInstruction(std::string markup) override;
+    std::string path() const override;
+
+    /// The document, once the parser has come to its end.
+    std::unique_ptr<core::CityModelType> takeRoot() { return std::move(root); }
+    /// Whether the document is of the older version of CityGML.
+    bool isOlderVersion() const { return isOlder; }
+
+private:
+    void startRoot(const char* name, NameId id, const XmlAttributes& attributes);
+    bool startChild(const MemberSlot& slot, NameId id, const XmlAttributes& attributes);
+    const TypeIndex* typeOfChild(const MemberSlot& slot, NameId id, const XmlAttributes& attributes) const;
+    const TypeIndex& typeNamed(const char* text, const TypeIndex& declared, bool& isAbstract) const;
+    void startObject(xml_schema::type& object, const TypeIndex& type, NameId id,
+                     const XmlAttributes& attributes);
+    void startValue(const TypeIndex::FlatMember& member, NameId id, const XmlAttributes& attributes);
+    void startUnknown(const char* name, const MemberSlot* slot, const XmlAttributes& attributes);
+
+    void readAttribute(OpenElement& element, const XmlAttribute& attribute);
+    void keepAttribute(OpenElement& element, const XmlAttribute& attribute);
+    bool readSchemaLocation(std::string_view text);
+    KeptContent::Attribute keptAttribute(const PrefixedName& name, const char* value) const;
+    bool isXsi(const PrefixedName& attribute, std::string_view name) const;
+
+    void endChildren(OpenElement& element);
+    void endText(const OpenElement& element);
+    void endValue(const OpenElement& element);
+    void checkRequired(const OpenElement& element) const;
+
+    void keepText(const OpenElement& element);
+    void keepMarkup(KeptContent::Kind kind, const char* what, std::string markup);
+    void keepUnknown(const OpenElement& parent);
+    KeptContent::Value& keptValue();
+
+    NamespaceScopes& scopes;
+    KeptContentLog& log;
+    const SchemaIndex& index;
+    NameResolver names;
+    ValueReader values;
+    MarkupCopy unknown;
+    OpenElements open;
+    std::unique_ptr<core::CityModelType> root;
+    std::shared_ptr<KeptContent::Document> document;
+    // The text of the innermost element since its last child.
+    std::string text;
+    // What is kept about the value that is open.
+    std::optional<KeptContent::Value> ofValue;
+    // Comments and processing instructions in front of the root.
+    std::vector<std::string> prologue;
+    bool isOlder = false;
+};
+
+} // namespace binding
+} // namespace citygml

@@ -1,0 +1,35 @@
+#include "platform/binding/reader/KeptContentLog.h"
+
+#include <log4cplus/loggingmacros.h>
+
+namespace citygml {
+namespace binding {
+
+KeptContentLog::KeptContentLog(const log4cplus::Logger& logger)
+    : logger(logger), on(logger.isEnabledFor(log4cplus::DEBUG_LOG_LEVEL))
+{
+}
+
+void KeptContentLog::add(const char* kind)
+{
+    if (on) {
+        ++counts[kind];
+    }
+}
+
+void KeptContentLog::add(const char* kind, std::string_view name)
+{
+    if (on) {
+        ++counts[std::string(kind).append(1, ' ').append(name)];
+    }
+}
+
+void KeptContentLog::write() const
+{
+    for (const auto& kind : counts) {
+        LOG4CPLUS_DEBUG(logger, "kept as it stands: " << kind.first << " (" << kind.second << ")");
+    }
+}
+
+} // namespace binding
+} // namespace citygml

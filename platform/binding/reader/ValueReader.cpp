@@ -1,0 +1,128 @@
+#include "platform/binding/reader/ValueReader.h"
+
+#include "platform/binding/kept/KeptContent.h"
+#include "platform/binding/reader/KeptContentLog.h"
+#include "platform/binding/reader/NameResolver.h"
+#include "platform/binding/reader/NamespaceScopes.h"
+#include "platform/binding/values/WhiteSpace.h"
+
+#include <algorithm>
+#include <memory>
+
+namespace citygml {
+namespace binding {
+
+namespace {
+
+/// Whether a value of a fundamental type is spelled otherwise than it will be written. Only booleans count;
+/// numbers may be.
+bool isDigitOfBoolean(const xml_schema::type& owner, const MemberOps& ops, std::size_t index,
+                      std::string_view text)
+{
+    const std::string_view digit = trimmed(text);
+    if (digit != "0" && digit != "1") {
+        return false;
+    }
+    std::string written;
+    ops.format(owner, index, written);
+    return written == "true" || written == "false";
+}
+
+/// The identifiers of a document are listed by its root. An identifier enters the list when it gets its text,
+/// for which it must have its place in the document first.
+void addIdentifier(xml_schema::type& owner, const MemberOps& ops, std::unique_ptr<xml_schema::type> created,
+                   xml_schema::id& identifier, const char* text)
+{
+    ops.add(owner, created.release());
+    try {
+        identifier = collapsed(text);
+    } catch (...) {
+        // One that was refused must not leave the list when it dies, since the entry is another's.
+        static_cast<std::string&>(identifier).clear();
+        throw;
+    }
+}
+
+} // namespace
+
+void ValueReader::readText(xml_schema::type& object, const TypeIndex& type, NameId element,
+                           std::string_view text) const
+{
+    type.record()->text->parse(object, text, scopes);
+    checkLiteral(object, type);
+    if (type.hasSpellings() && isOtherSpelling(object, type, text)) {
+        logSpelling(element);
+        KeptContent::of(object).addSpelling(std::nullopt, trimmed(text));
+    }
+}
+
+void ValueReader::readAttribute(xml_schema::type& owner, const TypeIndex::FlatMember& member,
+                                const char* text) const
+{
+    const MemberOps& ops = *member.declaration->ops;
+    bool isToBeKept = false;
+    if (member.type == nullptr) {
+        ops.addText(owner, text);
+        isToBeKept = isDigitOfBoolean(owner, ops, 0, text);
+    } else {
+        std::unique_ptr<xml_schema::type> created(member.type->record()->create());
+        if (auto* identifier = dynamic_cast<xml_schema::id*>(created.get())) {
+            addIdentifier(owner, ops, std::move(created), *identifier, text);
+            return;
+        }
+        member.type->record()->text->parse(*created, text, scopes);
+        checkLiteral(*created, *member.type);
+        isToBeKept = member.type->hasSpellings() && isOtherSpelling(*created, *member.type, text);
+        ops.add(owner, created.release());
+    }
+    if (isToBeKept) {
+        logSpelling(member.name);
+        KeptContent::of(owner).addSpelling(member.index, trimmed(text));
+    }
+}
+
+std::string ValueReader::readValue(xml_schema::type& owner, const TypeIndex::FlatMember& member,
+                                   NameId element, std::string_view text) const
+{
+    const MemberOps& ops = *member.declaration->ops;
+    ops.addText(owner, text);
+    if (!isDigitOfBoolean(owner, ops, ops.count(owner) - 1, text)) {
+        return std::string();
+    }
+    logSpelling(element);
+    return std::string(trimmed(text));
+}
+
+/// Whether the text of an object is spelled otherwise than it will be written.
+bool ValueReader::isOtherSpelling(const xml_schema::type& object, const TypeIndex& type,
+                                  std::string_view text) const
+{
+    std::string written;
+    type.record()->text->format(object, written, scopes);
+    return trimmed(text) != written;
+}
+
+void ValueReader::checkLiteral(const xml_schema::type& object, const TypeIndex& type) const
+{
+    const TypeRecord& record = *type.record();
+    if (record.literals == nullptr) {
+        return;
+    }
+    std::string text;
+    record.text->format(object, text, scopes);
+    const auto* const end = record.literals + record.literalCount;
+    // An empty text is what an edit to something that is no literal leaves.
+    if (!text.empty() && std::find(record.literals, end, text) == end) {
+        throw ValueError{"'" + text + "' is not a value of " + record.name};
+    }
+}
+
+void ValueReader::logSpelling(NameId name) const
+{
+    if (log.isOn()) {
+        log.add("spelling of", names.textOf(name));
+    }
+}
+
+} // namespace binding
+} // namespace citygml

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "platform/binding/SchemaIndex.h"
+
+#include <string>
+#include <string_view>
+
+namespace citygml {
+namespace binding {
+
+class KeptContentLog;
+class NameResolver;
+class NamespaceScopes;
+
+/// Sets the values of objects from the texts of a document, and keeps the document's text where another one
+/// would be written for the value, such as `true` for `1`.
+///
+/// Every operation throws ValueError for a text that is no value of its type.
+class ValueReader
+{
+public:
+    /// \param scopes what the prefixes of names in values mean
+    ValueReader(const NamespaceScopes& scopes, const NameResolver& names, KeptContentLog& log)
+        : scopes(scopes), names(names), log(log)
+    {
+    }
+
+    /// Sets the text of an object.
+    ///
+    /// \param element the name of its element
+    void readText(xml_schema::type& object, const TypeIndex& type, NameId element,
+                  std::string_view text) const;
+    /// Sets an attribute of an object.
+    void readAttribute(xml_schema::type& owner, const TypeIndex::FlatMember& member, const char* text) const;
+    /// Adds a value to a member of fundamental type.
+    ///
+    /// \param element the name of its element
+    /// \return the document's text where it is to be kept, else empty.
+    std::string readValue(xml_schema::type& owner, const TypeIndex::FlatMember& member, NameId element,
+                          std::string_view text) const;
+
+private:
+    bool isOtherSpelling(const xml_schema::type& object, const TypeIndex& type, std::string_view text) const;
+    void checkLiteral(const xml_schema::type& object, const TypeIndex& type) const;
+    void logSpelling(NameId name) const;
+
+    const NamespaceScopes& scopes;
+    const NameResolver& names;
+    KeptContentLog& log;
+};
+
+} // namespace binding
+} // namespace citygml

@@ -1,0 +1,286 @@
+#include "platform/binding/reader/XmlParser.h"
+
+#include "platform/binding/reader/Encodings.h"
+#include "platform/binding/reader/NamespaceScopes.h"
+#include "platform/binding/reader/Shortened.h"
+#include "platform/binding/values/ValueError.h"
+#include "platform/binding/xml/PrefixedName.h"
+
+// The limits on entity expansion are declared under this name.
+#ifndef XML_DTD
+#define XML_DTD
+#endif
+#include <expat.h>
+
+#include <algorithm>
+#include <istream>
+#include <new>
+#include <utility>
+#include <vector>
+
+namespace citygml {
+namespace binding {
+
+namespace {
+
+constexpr std::size_t deepestNesting = 512;
+constexpr int chunkSize = 1 << 16;
+// An entity may make a document larger, but not without end.
+constexpr float largestExpansion = 20;
+constexpr unsigned long long freeExpansion = 1 << 20;
+constexpr std::size_t longestReason = 300;
+
+/// The prefix that an attribute declares; empty for the default namespace.
+std::string_view declaredPrefix(const XmlAttribute& declaration)
+{
+    const std::string_view name(declaration.name);
+    constexpr std::string_view start = "xmlns:";
+    if (name.size() < start.size()) {
+        return std::string_view();
+    }
+    // A colon that nothing follows declares no prefix; as one it is refused.
+    return name.size() == start.size() ? ":" : name.substr(start.size());
+}
+
+} // namespace
+
+/// The functions that the parser calls. It is C: what a handler throws is held back, the parser is stopped,
+/// and parse() throws it on.
+struct XmlParser::Callbacks
+{
+    template <typename Work>
+    static void guarded(void* self, Work work)
+    {
+        XmlParser& parser = *static_cast<XmlParser*>(self);
+        if (parser.failure) {
+            return;
+        }
+        try {
+            located(parser, work);
+        } catch (...) {
+            parser.failure = std::current_exception();
+            XML_StopParser(parser.parser.get(), XML_FALSE);
+        }
+    }
+    template <typename Work>
+    static void located(XmlParser& parser, Work work)
+    {
+        try {
+            work(parser);
+        } catch (const ValueError& error) {
+            parser.raise(error.message);
+        } catch (const DocumentError& error) {
+            parser.raise(error.message);
+        }
+    }
+
+    static void XMLCALL startElement(void* self, const XML_Char* name, const XML_Char** attributes)
+    {
+        guarded(self, [&](XmlParser& p) { p.startElement(name, attributes); });
+    }
+    static void XMLCALL endElement(void* self, const XML_Char* name)
+    {
+        guarded(self, [&](XmlParser& p) { p.endElement(name); });
+    }
+    static void XMLCALL characters(void* self, const XML_Char* text, int length)
+    {
+        guarded(self, [&](XmlParser& p) {
+            p.handler.characters(std::string_view(text, static_cast<std::size_t>(length)));
+        });
+    }
+    static void XMLCALL comment(void* self, const XML_Char* text)
+    {
+        guarded(self, [&](XmlParser& p) { p.handler.comment("<!--" + std::string(text) + "-->"); });
+    }
+    static void XMLCALL processingInstruction(void* self, const XML_Char* target, const XML_Char* data)
+    {
+        guarded(self, [&](XmlParser& p) {
+            const std::string text = *data != 0 ? std::string(target) + ' ' + data : std::string(target);
+            p.handler.processingInstruction("<?" + text + "?>");
+        });
+    }
+    static void XMLCALL doctypeDeclaration(void* self, const XML_Char*, const XML_Char* system,
+                                           const XML_Char* publicId, int)
+    {
+        guarded(self, [&](XmlParser&) {
+            if (system != nullptr || publicId != nullptr) {
+                throw DocumentError{"an external document type definition is not opened"};
+            }
+        });
+    }
+    static void XMLCALL entityDeclaration(void* self, const XML_Char* name, int, const XML_Char*, int,
+                                          const XML_Char*, const XML_Char* system, const XML_Char* publicId,
+                                          const XML_Char*)
+    {
+        guarded(self, [&](XmlParser&) {
+            if (system != nullptr || publicId != nullptr) {
+                throw DocumentError{"the external entity '" + std::string(name) + "' is not opened"};
+            }
+        });
+    }
+    static void XMLCALL attributeListDeclaration(void* self, const XML_Char*, const XML_Char*,
+                                                 const XML_Char*, const XML_Char* value, int)
+    {
+        static_cast<XmlParser*>(self)->hasDefaults |= value != nullptr;
+    }
+    static int XMLCALL externalEntity(XML_Parser parser, const XML_Char*, const XML_Char*, const XML_Char*,
+                                      const XML_Char*)
+    {
+        guarded(XML_GetUserData(parser),
+                [](XmlParser&) { throw DocumentError{"an external entity is not opened"}; });
+        return XML_STATUS_ERROR;
+    }
+    static void XMLCALL skippedEntity(void* self, const XML_Char* name, int)
+    {
+        guarded(self, [&](XmlParser&) {
+            throw DocumentError{"the entity '" + std::string(name) + "' is not declared"};
+        });
+    }
+    static int XMLCALL unknownEncoding(void*, const XML_Char* name, XML_Encoding* encoding)
+    {
+        encoding->data = nullptr;
+        encoding->convert = nullptr;
+        encoding->release = nullptr;
+        return mapSingleByteEncoding(name, encoding->map) ? XML_STATUS_OK : XML_STATUS_ERROR;
+    }
+
+    static void set(XML_Parser parser)
+    {
+        XML_SetElementHandler(parser, &startElement, &endElement);
+        XML_SetCharacterDataHandler(parser, &characters);
+        XML_SetCommentHandler(parser, &comment);
+        XML_SetProcessingInstructionHandler(parser, &processingInstruction);
+        XML_SetStartDoctypeDeclHandler(parser, &doctypeDeclaration);
+        XML_SetEntityDeclHandler(parser, &entityDeclaration);
+        XML_SetAttlistDeclHandler(parser, &attributeListDeclaration);
+        XML_SetExternalEntityRefHandler(parser, &externalEntity);
+        XML_SetSkippedEntityHandler(parser, &skippedEntity);
+        XML_SetUnknownEncodingHandler(parser, &unknownEncoding, nullptr);
+    }
+};
+
+XmlParser::XmlParser(NamespaceScopes& scopes, XmlHandler& handler)
+    : scopes(scopes), handler(handler), parser(XML_ParserCreate(nullptr), &XML_ParserFree)
+{
+    if (!parser) {
+        throw std::bad_alloc();
+    }
+    XML_SetUserData(parser.get(), this);
+    Callbacks::set(parser.get());
+    XML_SetBillionLaughsAttackProtectionMaximumAmplification(parser.get(), largestExpansion);
+    XML_SetBillionLaughsAttackProtectionActivationThreshold(parser.get(), freeExpansion);
+}
+
+XmlParser::~XmlParser() = default;
+
+void XmlParser::parse(std::istream& stream)
+{
+    for (bool atEnd = false; !atEnd;) {
+        void* buffer = XML_GetBuffer(parser.get(), chunkSize);
+        if (buffer == nullptr) {
+            throw std::bad_alloc();
+        }
+        stream.read(static_cast<char*>(buffer), chunkSize);
+        atEnd = !stream;
+        if (stream.bad()) {
+            raise("the input cannot be read");
+        }
+        const XML_Status status =
+            XML_ParseBuffer(parser.get(), static_cast<int>(stream.gcount()), static_cast<int>(atEnd));
+        if (failure) {
+            std::rethrow_exception(failure);
+        }
+        if (status != XML_STATUS_OK) {
+            raise(XML_ErrorString(XML_GetErrorCode(parser.get())));
+        }
+    }
+}
+
+void XmlParser::startElement(const char* name, const char** list)
+{
+    if (depth >= deepestNesting) {
+        throw DocumentError{"elements are nested deeper than " + std::to_string(deepestNesting)};
+    }
+    ++depth;
+    const XmlAttributes attributes(list);
+    for (const XmlAttribute attribute : attributes) {
+        if (attribute.isDeclaration()) {
+            scopes.declare(declaredPrefix(attribute), attribute.value, depth);
+        }
+    }
+    if (attributes.hasSeveral()) {
+        checkDistinct(attributes);
+    }
+    if (hasDefaults) {
+        limitDefaults(list);
+    }
+    handler.startElement(name, attributes);
+}
+
+void XmlParser::endElement(const char* name)
+{
+    handler.endElement(name);
+    --depth;
+    scopes.leave(depth);
+}
+
+/// The parser compares names as they are written; with two prefixes they may still be the same.
+void XmlParser::checkDistinct(const XmlAttributes& attributes) const
+{
+    std::string_view prefix;
+    bool isMixed = false;
+    for (const XmlAttribute attribute : attributes) {
+        const char* colon = std::strchr(attribute.name, ':');
+        if (colon == nullptr || attribute.isDeclaration()) {
+            continue;
+        }
+        const std::string_view other(attribute.name, static_cast<std::size_t>(colon - attribute.name));
+        isMixed = isMixed || (!prefix.empty() && other != prefix);
+        prefix = other;
+    }
+    if (!isMixed) {
+        return;
+    }
+    std::vector<std::pair<std::string_view, std::string_view>> meant;
+    for (const XmlAttribute attribute : attributes) {
+        const PrefixedName name(attribute.name);
+        if (!name.prefix.empty() && !attribute.isDeclaration()) {
+            meant.emplace_back(*scopes.require(name.prefix).uri, name.local);
+        }
+    }
+    std::sort(meant.begin(), meant.end());
+    const auto twice = std::adjacent_find(meant.begin(), meant.end());
+    if (twice != meant.end()) {
+        throw DocumentError{"the attribute '" + std::string(twice->second) + "' stands twice in an element"};
+    }
+}
+
+/// Values that a document type gives to attributes must not blow the document up either.
+void XmlParser::limitDefaults(const char** list)
+{
+    const XmlAttributes defaults(list + XML_GetSpecifiedAttributeCount(parser.get()));
+    for (const XmlAttribute attribute : defaults) {
+        defaultBytes += std::strlen(attribute.name) + std::strlen(attribute.value);
+    }
+    const auto read = static_cast<float>(XML_GetCurrentByteIndex(parser.get()));
+    if (defaultBytes > freeExpansion && static_cast<float>(defaultBytes) > largestExpansion * read) {
+        throw DocumentError{"the document type gives too many values to attributes"};
+    }
+}
+
+void XmlParser::raise(const std::string& reason) const
+{
+    std::string message = shortened(reason, longestReason);
+    const std::string path = handler.path();
+    if (!path.empty()) {
+        message += ", in " + path;
+    }
+    xsd::cxx::tree::diagnostics<char> diagnostics;
+    diagnostics.push_back(xsd::cxx::tree::error<char>(xsd::cxx::tree::severity::error, "document",
+                                                      XML_GetCurrentLineNumber(parser.get()),
+                                                      XML_GetCurrentColumnNumber(parser.get()) + 1, message));
+    throw xsd::cxx::tree::parsing<char>(diagnostics);
+}
+
+} // namespace binding
+} // namespace citygml

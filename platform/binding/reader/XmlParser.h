@@ -1,0 +1,128 @@
+#pragma once
+
+#include <cstddef>
+#include <cstring>
+#include <exception>
+#include <iosfwd>
+#include <memory>
+#include <string>
+#include <string_view>
+
+struct XML_ParserStruct;
+
+namespace citygml {
+namespace binding {
+
+class NamespaceScopes;
+
+/// Why a document cannot be read; the parser adds where.
+struct DocumentError
+{
+    std::string message;
+};
+
+/// An attribute of a start tag, by the name that the document gives it.
+struct XmlAttribute
+{
+    const char* name;
+    const char* value;
+
+    bool isDeclaration() const
+    {
+        return std::strncmp(name, "xmlns", 5) == 0 && (name[5] == 0 || name[5] == ':');
+    }
+};
+
+/// The attributes of a start tag, namespace declarations included, in the order of the document. They are
+/// there as long as the handler is told of the tag.
+class XmlAttributes
+{
+public:
+    class Iterator
+    {
+    public:
+        explicit Iterator(const char** at) : at(at) {}
+        XmlAttribute operator*() const { return {at[0], at[1]}; }
+        Iterator& operator++()
+        {
+            at += 2;
+            return *this;
+        }
+        /// The end is where the name is null, so that nobody has to count.
+        bool operator!=(std::nullptr_t) const { return *at != nullptr; }
+
+    private:
+        const char** at;
+    };
+
+    /// \param list names and values in turn, and a null
+    explicit XmlAttributes(const char** list) : list(list) {}
+    Iterator begin() const { return Iterator(list); }
+    std::nullptr_t end() const { return nullptr; }
+    bool hasSeveral() const { return list[0] != nullptr && list[2] != nullptr; }
+
+private:
+    const char** list;
+};
+
+/// Is told what a document holds, in the order of the document. Whatever it throws ends the parsing; to a
+/// DocumentError and a ValueError the parser adds where the document has it.
+class XmlHandler
+{
+public:
+    virtual ~XmlHandler() = default;
+    /// The namespaces that the tag declares are in scope.
+    virtual void startElement(const char* name, const XmlAttributes& attributes) = 0;
+    /// The namespaces that the element declares are still in scope.
+    virtual void endElement(const char* name) = 0;
+    /// A piece of text; a longer text comes in several.
+    virtual void characters(std::string_view text) = 0;
+    /// \param markup the whole comment, as it is written
+    virtual void comment(std::string markup) = 0;
+    /// \param markup the whole instruction, as it is written
+    virtual void processingInstruction(std::string markup) = 0;
+    /// The open elements, for messages; empty outside of the root.
+    virtual std::string path() const = 0;
+};
+
+/// Reads XML from a stream and tells a handler of it.
+///
+/// It trusts no document: external entities and document types are refused, and nesting, the expansion of
+/// entities and the number of namespace declarations are limited.
+class XmlParser
+{
+public:
+    /// \param scopes follows the parser, so that it always holds the namespaces of the place it has reached
+    XmlParser(NamespaceScopes& scopes, XmlHandler& handler);
+    ~XmlParser();
+    XmlParser(const XmlParser&) = delete;
+    XmlParser& operator=(const XmlParser&) = delete;
+
+    /// Parses a document to its end. A parser does so once.
+    ///
+    /// \throws xsd::cxx::tree::parsing<char> for the first error, with its line and column, counted from 1.
+    void parse(std::istream& stream);
+
+private:
+    struct Callbacks;
+
+    void startElement(const char* name, const char** list);
+    void endElement(const char* name);
+    void checkDistinct(const XmlAttributes& attributes) const;
+    void limitDefaults(const char** list);
+    [[noreturn]] void raise(const std::string& reason) const;
+
+    NamespaceScopes& scopes;
+    XmlHandler& handler;
+    std::unique_ptr<XML_ParserStruct, void (*)(XML_ParserStruct*)> parser;
+    // What a callback has thrown.
+    std::exception_ptr failure;
+    // Number of open elements.
+    std::size_t depth = 0;
+    // Whether a document type gives values to attributes, and how many bytes of these so far.
+    bool hasDefaults = false;
+    unsigned long long defaultBytes = 0;
+};
+
+} // namespace binding
+} // namespace citygml

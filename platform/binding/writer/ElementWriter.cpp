@@ -1,0 +1,291 @@
+#include "platform/binding/writer/ElementWriter.h"
+
+#include "platform/binding/values/WhiteSpace.h"
+#include "platform/binding/xml/Namespaces.h"
+#include "platform/binding/xml/PrefixedName.h"
+
+namespace citygml {
+namespace binding {
+
+namespace {
+
+using Position = KeptContent::Position;
+
+bool hasNilAttribute(const KeptContent* kept)
+{
+    return kept != nullptr && kept->hasNilAttribute();
+}
+
+} // namespace
+
+ElementWriter::ElementWriter(XmlOutput& out, NamespaceDeclarations& namespaces,
+                             const KeptContent::Scope* rootScope)
+    : out(out), namespaces(namespaces), index(SchemaIndex::instance()), names(index, namespaces),
+      values(namespaces), keptWriter(out, namespaces, rootScope)
+{
+}
+
+void ElementWriter::writeRoot(const xml_schema::type& root, const std::string& name,
+                              const std::vector<Attribute>& first)
+{
+    out.beginStartTag(name);
+    for (const Attribute& attribute : first) {
+        out.attribute(attribute.first, attribute.second);
+    }
+    finishElement(root, index.typeOf(root), {name, nullptr}, 0);
+}
+
+void ElementWriter::writeElement(const xml_schema::type& object, const TypeIndex& type,
+                                 const ElementNames::Tag& tag, int depth)
+{
+    const std::size_t outer = namespaces.localCount();
+    out.beginStartTag(tag.name);
+    finishElement(object, type, tag, depth);
+    namespaces.endLocal(outer);
+}
+
+/// Writes the rest of an element whose start tag has been begun.
+void ElementWriter::finishElement(const xml_schema::type& object, const TypeIndex& type,
+                                  const ElementNames::Tag& tag, int depth)
+{
+    const KeptContent* const kept = KeptContent::find(object);
+    writeAttributes(object, type, kept);
+    const bool tellsType = kept != nullptr && writeKeptAttributes(object, type, *kept);
+    if (tag.typeToTell != nullptr && !tellsType) {
+        writeType(*tag.typeToTell);
+    }
+    out.flushIfLarge();
+    if (type.hasText()) {
+        writeText(object, type, tag.name, kept);
+    } else {
+        writeContent(object, type, tag.name, kept, depth);
+    }
+}
+
+void ElementWriter::writeAttributes(const xml_schema::type& object, const TypeIndex& type,
+                                    const KeptContent* kept)
+{
+    for (std::size_t i = type.elementCount(); i < type.members().size(); ++i) {
+        const TypeIndex::FlatMember& member = type.members()[i];
+        if (member.declaration->ops->count(object) == 0) {
+            if (member.requiredBit != 0 && !hasNilAttribute(kept)) {
+                const QualifiedName& name = index.name(member.name);
+                throw xsd::cxx::tree::expected_attribute<char>(name.name, name.uri);
+            }
+            continue;
+        }
+        text.clear();
+        values.formatAttribute(object, member, kept, text);
+        const bool isImplied = member.defaultBit != 0 && text == member.declaration->defaultText &&
+                               !KeptContent::isSpelledOut(object, member.defaultBit);
+        if (!isImplied) {
+            out.attribute(names.ofAttribute(member), text);
+        }
+    }
+}
+
+void ElementWriter::writeType(const TypeIndex& type)
+{
+    const TypeRecord& record = *type.record();
+    out.attribute(prefixedName(namespaces.attributePrefixOf(xsiUri), "type"),
+                  namespaces.elementName(record.uri, record.name));
+}
+
+/// \return whether one of them tells the type.
+bool ElementWriter::writeKeptAttributes(const xml_schema::type& object, const TypeIndex& type,
+                                        const KeptContent& kept)
+{
+    bool tellsType = false;
+    for (const KeptContent::Attribute& attribute : kept.attributes()) {
+        if (attribute.isNil() && type.hasText() && !values.isUnset(object, type)) {
+            // It has a value now.
+            continue;
+        }
+        if (attribute.is(xsiUri, "type")) {
+            tellsType = true;
+            const PrefixedName named(trimmed(attribute.value));
+            const TypeRecord& record = *type.record();
+            if (named.local == record.name && !namespaces.rootMeans(named.prefix, record.uri)) {
+                writeType(type);
+                continue;
+            }
+        }
+        keptWriter.writeAttribute(attribute);
+    }
+    return tellsType;
+}
+
+/// Whether a value that the document left nil has not been set since.
+bool ElementWriter::isUnsetNil(const xml_schema::type& object, const TypeIndex& type,
+                               const KeptContent* kept) const
+{
+    return hasNilAttribute(kept) && values.isUnset(object, type);
+}
+
+void ElementWriter::writeText(const xml_schema::type& object, const TypeIndex& type, const std::string& name,
+                              const KeptContent* kept)
+{
+    text.clear();
+    if (!isUnsetNil(object, type, kept)) {
+        values.formatText(object, type, kept, text);
+    }
+    const bool hasNodes = kept != nullptr && !kept->nodes().empty();
+    if (text.empty() && !hasNodes) {
+        out.endEmptyTag();
+        return;
+    }
+    out.endStartTag();
+    if (hasNodes) {
+        const bool isString = dynamic_cast<const std::string*>(&object) != nullptr;
+        keptWriter.writeText(name, text, kept->nodes(), isString);
+    } else {
+        out.text(name, text);
+    }
+    out.endTag(name);
+}
+
+void ElementWriter::writeContent(const xml_schema::type& object, const TypeIndex& type,
+                                 const std::string& name, const KeptContent* kept, int depth)
+{
+    const bool isIndented = kept == nullptr || !kept->hasText();
+    Content content{object, type, kept, depth + 1, isIndented, KeptContent::NodeCursor(kept)};
+    writeChildren(content);
+    while (const KeptContent::Node* const node = content.nodes.take()) {
+        beginItem(content);
+        keptWriter.writeNode(*node);
+    }
+    if (content.isEmpty) {
+        out.endEmptyTag();
+        return;
+    }
+    if (content.isIndented) {
+        out.newLine(depth);
+    }
+    out.endTag(name);
+}
+
+/// Makes ready for a child or a node: ends the start tag in front of the first one, and begins a line.
+void ElementWriter::beginItem(Content& content)
+{
+    if (content.isEmpty) {
+        out.endStartTag();
+        content.isEmpty = false;
+    }
+    if (content.isIndented) {
+        out.newLine(content.depth);
+    }
+}
+
+void ElementWriter::writeNodesInFrontOf(Content& content, const Position& child)
+{
+    while (const KeptContent::Node* const node = content.nodes.takeInFrontOf(child)) {
+        beginItem(content);
+        keptWriter.writeNode(*node);
+    }
+}
+
+void ElementWriter::writeChildren(Content& content)
+{
+    const auto& members = content.type.members();
+    for (std::size_t begin = 0; begin < content.type.elementCount();) {
+        std::size_t end = begin + 1;
+        while (end < content.type.elementCount() && members[end].groupBegin == begin) {
+            ++end;
+        }
+        if (end == begin + 1) {
+            MemberCursor children = cursorOf(content, begin);
+            for (std::size_t child = 1; !children.atEnd(); ++child) {
+                writeChild(content, children, Position::behind(members[begin].index, child));
+            }
+        } else {
+            writeGroup(content, begin, end);
+        }
+        begin = end;
+    }
+}
+
+/// Writes members that may alternate: in the order of the document as far as that is known.
+void ElementWriter::writeGroup(Content& content, std::size_t begin, std::size_t end)
+{
+    std::vector<MemberCursor> cursors;
+    cursors.reserve(end - begin);
+    for (std::size_t i = begin; i < end; ++i) {
+        cursors.push_back(cursorOf(content, i));
+    }
+    std::size_t child = 0;
+    const auto writeNext = [&](MemberCursor& children) {
+        writeChild(content, children, Position::behind(static_cast<MemberIndex>(begin), ++child));
+    };
+    if (content.kept != nullptr) {
+        for (const MemberIndex member : content.kept->childOrder()) {
+            if (member >= begin && member < end && !cursors[member - begin].atEnd()) {
+                writeNext(cursors[member - begin]);
+            }
+        }
+    }
+    for (MemberCursor& children : cursors) {
+        while (!children.atEnd()) {
+            writeNext(children);
+        }
+    }
+}
+
+/// \throws xsd::cxx::tree::expected_element<char> where a required member has no child.
+MemberCursor ElementWriter::cursorOf(const Content& content, std::size_t member) const
+{
+    const TypeIndex::FlatMember& flat = content.type.members()[member];
+    const MemberCursor children(content.object, flat, content.kept);
+    if (children.atEnd() && flat.requiredBit != 0 && !hasNilAttribute(content.kept)) {
+        const QualifiedName& name = index.name(flat.name);
+        throw xsd::cxx::tree::expected_element<char>(name.name, name.uri);
+    }
+    return children;
+}
+
+void ElementWriter::writeChild(Content& content, MemberCursor& children, const Position& position)
+{
+    writeNodesInFrontOf(content, position);
+    beginItem(content);
+    const TypeIndex::FlatMember& member = children.member();
+    const MemberCursor::Child child = children.take();
+    if (member.type == nullptr) {
+        writeValue(content, member, child);
+        return;
+    }
+    const xml_schema::type& object = member.declaration->ops->at(content.object, child.index);
+    const TypeIndex& type = index.typeOf(object);
+    writeElement(object, type, names.ofObject(content.type, member.index, object, type), content.depth);
+}
+
+void ElementWriter::writeValue(const Content& content, const TypeIndex::FlatMember& member,
+                               const MemberCursor::Child& child)
+{
+    const std::string& name = names.ofValue(member);
+    const std::size_t outer = namespaces.localCount();
+    out.beginStartTag(name);
+    if (child.kept != nullptr) {
+        for (const KeptContent::Attribute& attribute : child.kept->attributes) {
+            keptWriter.writeAttribute(attribute);
+        }
+    }
+    text.clear();
+    if (!child.isNil) {
+        values.formatValue(content.object, member, child.index, child.kept, text);
+    }
+    const bool hasNodes = child.kept != nullptr && !child.kept->nodes.empty();
+    if (child.isNil && !hasNodes) {
+        out.endEmptyTag();
+    } else {
+        out.endStartTag();
+        if (hasNodes) {
+            keptWriter.writeText(name, text, child.kept->nodes, false);
+        } else {
+            out.text(name, text);
+        }
+        out.endTag(name);
+    }
+    namespaces.endLocal(outer);
+}
+
+} // namespace binding
+} // namespace citygml

@@ -1,0 +1,85 @@
+#pragma once
+
+#include "platform/binding/kept/KeptContent.h"
+#include "platform/binding/SchemaIndex.h"
+#include "platform/binding/writer/ElementNames.h"
+#include "platform/binding/writer/KeptContentWriter.h"
+#include "platform/binding/writer/MemberCursor.h"
+#include "platform/binding/writer/NamespaceDeclarations.h"
+#include "platform/binding/writer/ValueWriter.h"
+#include "platform/binding/writer/XmlOutput.h"
+
+#include <cstddef>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace citygml {
+namespace binding {
+
+/// Writes objects as elements: their attributes, texts and children by the schema tables, and between these
+/// what the reader has kept.
+class ElementWriter
+{
+public:
+    /// Name and value.
+    using Attribute = std::pair<std::string, std::string>;
+
+    /// \param rootScope see KeptContentWriter
+    ElementWriter(XmlOutput& out, NamespaceDeclarations& namespaces, const KeptContent::Scope* rootScope);
+
+    /// Writes a whole document, from the start tag of its root to the end tag.
+    ///
+    /// \param first the attributes that come in front of the root's own
+    void writeRoot(const xml_schema::type& root, const std::string& name,
+                   const std::vector<Attribute>& first);
+
+private:
+    /// An object whose content is being written.
+    struct Content
+    {
+        const xml_schema::type& object;
+        const TypeIndex& type;
+        const KeptContent* kept;
+        int depth;
+        /// Whether each child has a line of its own. Text would change with that.
+        bool isIndented;
+        KeptContent::NodeCursor nodes;
+        /// Whether there was anything yet.
+        bool isEmpty = true;
+    };
+
+    void writeElement(const xml_schema::type& object, const TypeIndex& type, const ElementNames::Tag& tag,
+                      int depth);
+    void finishElement(const xml_schema::type& object, const TypeIndex& type, const ElementNames::Tag& tag,
+                       int depth);
+    void writeAttributes(const xml_schema::type& object, const TypeIndex& type, const KeptContent* kept);
+    void writeType(const TypeIndex& type);
+    bool writeKeptAttributes(const xml_schema::type& object, const TypeIndex& type, const KeptContent& kept);
+    bool isUnsetNil(const xml_schema::type& object, const TypeIndex& type, const KeptContent* kept) const;
+    void writeText(const xml_schema::type& object, const TypeIndex& type, const std::string& name,
+                   const KeptContent* kept);
+
+    void writeContent(const xml_schema::type& object, const TypeIndex& type, const std::string& name,
+                      const KeptContent* kept, int depth);
+    void beginItem(Content& content);
+    void writeNodesInFrontOf(Content& content, const KeptContent::Position& child);
+    void writeChildren(Content& content);
+    void writeGroup(Content& content, std::size_t begin, std::size_t end);
+    MemberCursor cursorOf(const Content& content, std::size_t member) const;
+    void writeChild(Content& content, MemberCursor& children, const KeptContent::Position& position);
+    void writeValue(const Content& content, const TypeIndex::FlatMember& member,
+                    const MemberCursor::Child& child);
+
+    XmlOutput& out;
+    NamespaceDeclarations& namespaces;
+    const SchemaIndex& index;
+    ElementNames names;
+    ValueWriter values;
+    KeptContentWriter keptWriter;
+    // The text of the attribute or element that is being written; here, so that its memory is used again.
+    std::string text;
+};
+
+} // namespace binding
+} // namespace citygml

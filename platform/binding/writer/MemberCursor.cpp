@@ -1,0 +1,37 @@
+#include "platform/binding/writer/MemberCursor.h"
+
+namespace citygml {
+namespace binding {
+
+void MemberCursor::findKept(const KeptContent& content)
+{
+    const KeptContent::Values values = content.valuesOf(ofMember->index);
+    kept = values.begin();
+    keptEnd = values.end();
+    // A single value that has been set since is no longer nil.
+    const bool isSet = ofMember->declaration->ops->single && count != 0;
+    while (isSet && kept != keptEnd && kept->isNil) {
+        ++kept;
+    }
+}
+
+MemberCursor::Child MemberCursor::take()
+{
+    Child child;
+    child.isNil = isNil();
+    if (child.isNil) {
+        child.kept = kept++;
+        return child;
+    }
+    while (kept != keptEnd && kept->index < value) {
+        ++kept;
+    }
+    if (kept != keptEnd && kept->index == value) {
+        child.kept = kept++;
+    }
+    child.index = value++;
+    return child;
+}
+
+} // namespace binding
+} // namespace citygml

@@ -1,0 +1,76 @@
+#include "platform/binding/writer/ValueWriter.h"
+
+#include <memory>
+
+namespace citygml {
+namespace binding {
+
+namespace {
+
+/// Takes over the document's text of a value of a fundamental type; of these only booleans have two.
+void respellBoolean(std::string_view spelling, std::string& text)
+{
+    if ((spelling == "1" && text == "true") || (spelling == "0" && text == "false")) {
+        text = spelling;
+    }
+}
+
+} // namespace
+
+void ValueWriter::formatText(const xml_schema::type& object, const TypeIndex& type, const KeptContent* kept,
+                             std::string& text) const
+{
+    const bool isSpelled = kept != nullptr && type.hasSpellings();
+    formatObject(object, type, isSpelled ? kept->spellingOf(std::nullopt) : std::string_view(), text);
+}
+
+void ValueWriter::formatAttribute(const xml_schema::type& owner, const TypeIndex::FlatMember& member,
+                                  const KeptContent* kept, std::string& text) const
+{
+    const MemberOps& ops = *member.declaration->ops;
+    const std::string_view spelling = kept != nullptr ? kept->spellingOf(member.index) : std::string_view();
+    if (member.type != nullptr) {
+        formatObject(ops.at(owner, 0), *member.type, spelling, text);
+    } else {
+        ops.format(owner, 0, text);
+        respellBoolean(spelling, text);
+    }
+}
+
+void ValueWriter::formatValue(const xml_schema::type& owner, const TypeIndex::FlatMember& member,
+                              std::size_t index, const KeptContent::Value* kept, std::string& text) const
+{
+    member.declaration->ops->format(owner, index, text);
+    if (kept != nullptr) {
+        respellBoolean(kept->spelling, text);
+    }
+}
+
+bool ValueWriter::isUnset(const xml_schema::type& object, const TypeIndex& type) const
+{
+    const std::unique_ptr<xml_schema::type> fresh(type.record()->create());
+    std::string text, unset;
+    type.record()->text->format(object, text, scope);
+    type.record()->text->format(*fresh, unset, scope);
+    return text == unset;
+}
+
+/// \param spelling the document's text of the object; empty where none is kept
+void ValueWriter::formatObject(const xml_schema::type& object, const TypeIndex& type,
+                               std::string_view spelling, std::string& text) const
+{
+    type.record()->text->format(object, text, scope);
+    if (spelling.empty()) {
+        return;
+    }
+    const std::unique_ptr<xml_schema::type> spelled(type.record()->create());
+    std::string written;
+    type.record()->text->parse(*spelled, spelling, scope);
+    type.record()->text->format(*spelled, written, scope);
+    if (written == text) {
+        text = spelling;
+    }
+}
+
+} // namespace binding
+} // namespace citygml
