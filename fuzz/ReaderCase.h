@@ -57,8 +57,9 @@ inline std::string runReaderCase(std::string_view document)
         return described("what was read cannot be written", error);
     }
     const Document copy(first->_clone());
-    if (write(*copy) != saved)
+    if (write(*copy) != saved) {
         return "a copy is written differently";
+    }
     first.reset();
     try {
         const std::string again = write(*read(saved));

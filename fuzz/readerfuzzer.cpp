@@ -6,11 +6,11 @@
 #include <log4cplus/logger.h>
 #include <log4cplus/nullappender.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <random>
 #include <vector>
 
@@ -32,8 +32,9 @@ std::vector<Element> elementsOf(std::string_view text)
     std::vector<std::size_t> open;
     for (std::size_t i = text.find('<'); i != std::string_view::npos; i = text.find('<', i + 1)) {
         const std::size_t close = text.find('>', i);
-        if (close == std::string_view::npos)
+        if (close == std::string_view::npos) {
             break;
+        }
         if (text[i + 1] == '/') {
             if (!open.empty()) {
                 result.push_back({open.back(), close + 1});
@@ -70,8 +71,9 @@ extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t s
     std::minstd_rand random(seed);
     const std::string_view text(reinterpret_cast<const char*>(data), size);
     const std::vector<Element> elements = random() % 2 != 0 ? elementsOf(text) : std::vector<Element>();
-    if (elements.size() < 2)
+    if (elements.size() < 2) {
         return LLVMFuzzerMutate(data, size, largest);
+    }
     const Element& a = elements[random() % elements.size()];
     const Element& b = elements[random() % elements.size()];
     const std::string_view other = text.substr(a.begin, a.end - a.begin);
@@ -90,9 +92,10 @@ extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t s
         result = replaced(text, b, other);
         break;
     }
-    if (result.empty() || result.size() > largest)
+    if (result.empty() || result.size() > largest) {
         return LLVMFuzzerMutate(data, size, largest);
-    std::memcpy(data, result.data(), result.size());
+    }
+    std::copy(result.begin(), result.end(), data);
     return result.size();
 }
 
