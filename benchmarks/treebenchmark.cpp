@@ -79,6 +79,7 @@ void lookUp(benchmark::State& state, const std::vector<QModelIndex>& rows, Opera
         rowByFeature.emplace_hint(rowByFeature.end(), model.getFeature(row), row);
     }
     std::vector<gml::AbstractFeatureType*> features;
+    features.reserve(rows.size());
     for (const QModelIndex& row : rows) {
         features.push_back(model.getFeature(row));
     }
@@ -120,6 +121,7 @@ void dataOfOneIndex(benchmark::State& state)
     tree.setSourceModel(&model);
     const std::vector<QModelIndex> rows = sampleRows(model, tree, static_cast<int>(state.range(0)));
     std::vector<QModelIndex> nodes;
+    nodes.reserve(rows.size());
     for (const QModelIndex& row : rows) {
         nodes.push_back(tree.mapFromSource(row));
     }

@@ -6,11 +6,11 @@
 #include <log4cplus/logger.h>
 #include <log4cplus/nullappender.h>
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <random>
 #include <vector>
 
@@ -95,7 +95,7 @@ extern "C" std::size_t LLVMFuzzerCustomMutator(std::uint8_t* data, std::size_t s
     if (result.empty() || result.size() > largest) {
         return LLVMFuzzerMutate(data, size, largest);
     }
-    std::memcpy(data, result.data(), result.size());
+    std::copy(result.begin(), result.end(), data);
     return result.size();
 }
 
