@@ -5,6 +5,9 @@
 #include "support/TestPaths.h"
 #include "UI/Models/CityGMLModel/properties/GmlCorePropertyCreator.h"
 
+#include <log4cplus/initializer.h>
+#include <log4cplus/logger.h>
+#include <log4cplus/nullappender.h>
 #include <QDir>
 #include <QTest>
 
@@ -68,6 +71,11 @@ class ThreadsTest : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase()
+    {
+        log4cplus::Logger::getRoot().addAppender(log4cplus::SharedAppenderPtr(new log4cplus::NullAppender));
+    }
+
     /// The threads come first, so that they meet in whatever the process makes once.
     void threadsWithADocumentEachDoNotDisturbEachOther()
     {
@@ -94,6 +102,9 @@ private slots:
             }
         }
     }
+
+private:
+    log4cplus::Initializer logging;
 };
 
 QTEST_APPLESS_MAIN(ThreadsTest)
