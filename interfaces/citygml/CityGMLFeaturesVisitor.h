@@ -35,8 +35,13 @@ class TOLVIK_PLATFORM_EXPORT CityGMLFeaturesVisitor : public citygml::CityGMLInh
 {
 public:
     CityGMLFeaturesVisitor();
+
+    /// Takes the flags of the other visitor.
+    /// @{
     CityGMLFeaturesVisitor(const CityGMLFeaturesVisitor& other);
     CityGMLFeaturesVisitor& operator=(const CityGMLFeaturesVisitor& other);
+    /// @}
+
     ~CityGMLFeaturesVisitor() override;
 
 #define TOLVIK_DECLARE_VISIT(prefix, Type, members)                                                          \
@@ -44,8 +49,8 @@ public:
     TOLVIK_FEATURE_VISITS(TOLVIK_DECLARE_VISIT)
 #undef TOLVIK_DECLARE_VISIT
 
-    bool walkChildren = true;
-    bool walkStart = false;
+    bool walkChildren = true; ///< whether the walk leaves the object it started on
+    bool walkStart = false;   ///< whether the walk ends with the features directly below the start
 
 private:
     class ObjectVisit;

@@ -10,11 +10,12 @@ namespace tolvik {
 /// An XML namespace that a written document declares.
 struct NamespacesMap
 {
-    std::string prefix;
-    std::string name;
-    std::string schemaLocation;
+    std::string prefix;         ///< the prefix that it is bound to
+    std::string name;           ///< its URI
+    std::string schemaLocation; ///< where its schema lies
 };
 
+/// What is known of CityGML as a whole.
 class TOLVIK_PLATFORM_EXPORT CityGmlUtils
 {
 public:

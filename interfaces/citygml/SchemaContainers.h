@@ -1,9 +1,9 @@
 #pragma once
 
-// Takes the place of the run-time's <xsd/cxx/tree/containers.hxx>; include that instead. It has the same classes
-// for the members of schema classes, with the same operations, but one word each where a member holds objects. A
-// city model is millions of mostly empty members, and with the run-time's own (24 bytes for an optional one, 40
-// for a sequence) they are most of its memory.
+// Takes the place of the run-time's <xsd/cxx/tree/containers.hxx>; include that instead. It has the same
+// classes for the members of schema classes, with the same operations, but one word each where a member holds
+// objects. A city model is millions of mostly empty members, and with the run-time's own (24 bytes for an
+// optional one, 40 for a sequence) they are most of its memory.
 
 #include "BindingExport.h"
 
@@ -58,7 +58,8 @@ protected:
     void setCopy(const type& value, flags f);
     /// Takes an object that has the right container already, or null.
     void replace(type* value);
-    /// Leaves the member empty. \return what was there, without a container.
+    /// Leaves the member empty.
+    /// \return what was there, without a container
     type* release();
 
 private:
@@ -294,7 +295,8 @@ protected:
 
     void truncate(size_type count);
     void appendCopies(size_type count, const type& value);
-    /// Makes room for \a count null pointers at \a index. \return the first of them.
+    /// Makes room for \a count null pointers at \a index.
+    /// \return the first of them
     type** open(size_type index, size_type count);
     void insertCopies(size_type index, size_type count, const type& value);
     /// Takes ownership of the object, which has the right container already.
@@ -513,7 +515,8 @@ public:
         object_sequence::erase(static_cast<size_type>(index), static_cast<size_type>(last - begin()));
         return begin() + index;
     }
-    /// Gives the object to \a result. \param eraseToo whether its place goes too; else it holds no object
+    /// Gives the object to \a result.
+    /// \param eraseToo whether its position goes too; else that holds no object
     iterator detach(iterator position, std::auto_ptr<T>& result, bool eraseToo = true)
     {
         result.reset(static_cast<T*>(release(static_cast<size_type>(position - begin()))));

@@ -30,9 +30,14 @@ class type;
 class TOLVIK_BINDING_EXPORT TypeLabel
 {
 public:
+    /// Takes the text alone, see above.
+    /// @{
     TypeLabel(const TypeLabel& other);
     TypeLabel& operator=(const TypeLabel& other);
+    /// @}
 
+    /// The text, and what a `const std::string` answers to the operation of the same name.
+    /// @{
     const std::string& str() const;
     operator const std::string&() const { return str(); }
     operator std::string_view() const { return str(); }
@@ -48,7 +53,6 @@ public:
     char front() const { return str().front(); }
     char back() const { return str().back(); }
 
-    // With the arguments of the operations of std::string.
     template <typename... Arguments>
     int compare(const Arguments&... arguments) const
     {
@@ -68,6 +72,7 @@ public:
     {
         return str().substr(position, count);
     }
+    /// @}
 
     friend bool operator==(const TypeLabel& a, const TypeLabel& b) { return a.str() == b.str(); }
     friend bool operator==(const TypeLabel& a, std::string_view b) { return a.str() == b; }
@@ -107,8 +112,13 @@ public:
     type(const C* text) : type_base(text)
     {
     }
+
+    /// Takes over what a document said about the other object.
+    /// @{
     type(const type& other, ::xsd::cxx::tree::flags flags = 0, type_base* container = nullptr);
     type& operator=(const type& other);
+    /// @}
+
     ~type() override;
 
     type* _clone(::xsd::cxx::tree::flags flags = 0, type_base* container = nullptr) const override;
@@ -120,7 +130,7 @@ public:
     /// \return what that operation returned; true for a type without any
     virtual bool accept(citygml::CityGMLBaseVisitor* visitor);
 
-    const TypeLabel typeLabel;
+    const TypeLabel typeLabel; ///< name of the object's kind
 
 private:
     friend class citygml::binding::KeptContent;
@@ -144,6 +154,7 @@ inline std::ostream& operator<<(std::ostream& stream, const TypeLabel& label)
 //
 // Operations that change the characters of an identifier as a std::string, such as append(), go past the
 // register: assign the whole text instead.
+/// \cond specialisations that Doxygen does not recognise
 namespace xsd::cxx::tree {
 
 /// \throws duplicate_id<char> where the text is in use; the identifier is as before then
@@ -161,3 +172,4 @@ template <>
 TOLVIK_BINDING_EXPORT void xml_schema::id::unregister_id();
 
 } // namespace xsd::cxx::tree
+/// \endcond

@@ -56,8 +56,8 @@ public:
         int group = 0;
         /// Among all members of the type.
         MemberIndex index = 0;
-        /// Index of the first member of the repeated particle, with which the member may alternate; outside of
-        /// one the member's own.
+        /// Index of the first member of the repeated particle, with which the member may alternate; outside
+        /// of one the member's own.
         MemberIndex groupBegin = 0;
     };
 

@@ -163,7 +163,8 @@ void removeComments(XmlNode& node)
         removeComments(child);
 }
 
-/// Sorts the children of each element by all that they say. \return what the element says.
+/// Sorts the children of each element by all that they say.
+/// \return what the element says
 QString sortChildren(XmlNode& node)
 {
     QStringList words = node.text.simplified().split(' ');

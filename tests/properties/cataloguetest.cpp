@@ -57,7 +57,8 @@ bool losesEdits(const ValueType& type)
     return type.base == "duration" || type.base == "gml::DirectPositionType" || type.base == "simple_type";
 }
 
-/// Edits the property, and compares it with the document. \return what is wrong
+/// Edits the property, and compares it with the document.
+/// \return what is wrong
 QString editProperty(CoreProperty& property, const Node& node)
 {
     const ValueType type(node.valueType);
@@ -88,7 +89,8 @@ QString editProperty(CoreProperty& property, const Node& node)
     return QString();
 }
 
-/// Edits all bound properties of a tree, in the order of the tree. \return the first thing that is wrong
+/// Edits all bound properties of a tree, in the order of the tree.
+/// \return the first thing that is wrong
 QString editAll(CoreProperty& property, const Node& node)
 {
     if (node.owner != nullptr) {

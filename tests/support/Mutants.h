@@ -119,7 +119,8 @@ private:
         return end;
     }
 
-    /// Reads white space and what follows it in a tag. \return the place behind
+    /// Reads white space and what follows it in a tag.
+    /// \return the position behind
     int readAttribute(int i, int element, Element& owner)
     {
         const int begin = i;

@@ -316,8 +316,8 @@ private:
         }
     }
 
-    /// Takes the first of the samples that is a value. \param start where to begin; then the place of that
-    /// one
+    /// Takes the first of the samples that is a value.
+    /// \param start where to begin; then the position of that one
     template <class Take>
     static bool takeFirst(const QStringList& samples, int& start, Take take)
     {

@@ -43,6 +43,7 @@ class CITYGMLMODEL_EXPORT CityGMLModel : public Model
 
 public:
     /// \param plugin what getModelPlugin() gives back; not owned, may be null
+    /// \param parent owner of the model, or null
     CityGMLModel(ModelInterface* plugin, QObject* parent);
     ~CityGMLModel() override;
 

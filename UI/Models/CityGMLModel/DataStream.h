@@ -21,8 +21,8 @@ namespace boost::iostreams {
 class DataStream
 {
 public:
-    using char_type = char;
-    using category = bidirectional_device_tag;
+    using char_type = char;                    ///< what the stream is made of
+    using category = bidirectional_device_tag; ///< both ways, without seeking
 
     /// \param stream not owned; it must outlive the device. Null gives a device that is at its end.
     explicit DataStream(QDataStream* stream);

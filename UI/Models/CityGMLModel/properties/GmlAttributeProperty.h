@@ -17,12 +17,14 @@ template <class Owner, class Value>
 class GmlAttributeProperty : public CoreProperty
 {
 public:
-    using ConstGetter = const Value& (Owner::*)() const;
-    using MutableGetter = Value& (Owner::*)();
+    using ConstGetter = const Value& (Owner::*)() const; ///< the accessor that reads
+    using MutableGetter = Value& (Owner::*)();           ///< the accessor that an edit goes through
 
     /// \param owner not owned; the property is valid as long as it lives
     /// \param label name of the property
-    /// \param uom   unit of a measure, which is also that of what an edit writes; an empty one is none
+    /// \param constGetter accessor of the attribute
+    /// \param mutableGetter accessor of the same attribute for an edit
+    /// \param uom unit of a measure, which is also that of what an edit writes; an empty one is none
     GmlAttributeProperty(Owner* owner, const QString& label, ConstGetter constGetter,
                          MutableGetter mutableGetter, const xml_schema::uri& uom);
     ~GmlAttributeProperty() override;

@@ -16,6 +16,7 @@ class CITYGMLMODEL_EXPORT GmlEditRangeDialog : public EditRangeDialog
 public:
     /// \param ranges the five numbers; missing ones are those of default settings, and further ones are
     /// ignored
+    /// \param parent window that the dialog belongs to, or null
     explicit GmlEditRangeDialog(const QVector<double>& ranges, QWidget* parent = nullptr);
     ~GmlEditRangeDialog() override;
 

@@ -15,6 +15,8 @@ public:
 
     /// \param owner not owned; the property is valid as long as it lives
     /// \param label name of the property
+    /// \param constGetter accessor of the attribute
+    /// \param mutableGetter accessor of the same attribute for an edit
     GmlEnumAttributeProperty(Owner* owner, const QString& label, ConstGetter constGetter,
                              MutableGetter mutableGetter);
     ~GmlEnumAttributeProperty() override;

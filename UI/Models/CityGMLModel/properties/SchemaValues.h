@@ -10,8 +10,11 @@ namespace tolvik {
 /// share: `using namespace schema;` there.
 namespace schema {
 
+/// A member that may be absent.
 template <typename T>
 using optional = xsd::cxx::tree::optional<T>;
+
+/// A member that may be repeated.
 template <typename T>
 using sequence = xsd::cxx::tree::sequence<T>;
 

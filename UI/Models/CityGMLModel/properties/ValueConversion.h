@@ -21,6 +21,7 @@ QVariant toQVariant(const T& value);
 /// The value that an edited variant stands for. Nothing is rejected: what does not fit becomes zero, false,
 /// an empty text or list, or the default state of an enumeration. An optional comes back present, whatever
 /// the variant holds, except the optional duration and the optional position, which come back absent.
+/// \param value what an editor made of toQVariant(), or any other variant
 /// \param uom unit of measure of a measure or list of measures; ignored for other types
 /// \throws what the constructor of a schema type throws
 template <typename T>
