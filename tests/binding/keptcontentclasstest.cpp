@@ -1,6 +1,7 @@
 #include "platform/binding/kept/KeptContent.h"
 
 #include "gml/CodeType.hxx"
+#include "gml/FeaturePropertyType.hxx"
 
 #include <QStringList>
 #include <QtTest>
@@ -255,9 +256,9 @@ private slots:
     // A value that a program made says nothing about the document.
     void anEditKeepsWhatTheDocumentSaid()
     {
-        gml::CodeType object = fromDocument("1000", "x");
-        object = gml::CodeType("2000");
-        QVERIFY(static_cast<const std::string&>(object) == "2000");
+        gml::FeaturePropertyType object;
+        mark(object, "x");
+        object = gml::FeaturePropertyType();
         QCOMPARE(markupOf(*KeptContent::find(object)), QStringList({"x"}));
         QCOMPARE(KeptContent::elementName(object), 7u);
         QVERIFY(KeptContent::isSpelledOut(object, 2));
@@ -265,15 +266,25 @@ private slots:
 
     void anObjectOfADocumentBringsItsOwn()
     {
-        gml::CodeType object = fromDocument("1000", "x");
-        object = fromDocument("2000", "y");
+        gml::FeaturePropertyType object, other, bare;
+        mark(object, "x");
+        mark(other, "y");
+        object = other;
         QCOMPARE(markupOf(*KeptContent::find(object)), QStringList({"y"}));
-        gml::CodeType bare("3000");
         KeptContent::setElementName(bare, 8);
         object = bare;
         QVERIFY(KeptContent::find(object) == nullptr);
         QCOMPARE(KeptContent::elementName(object), 8u);
         QVERIFY(!KeptContent::isSpelledOut(object, 2));
+    }
+
+    // The run-time assigns its characters alone.
+    void aStringKeepsItsOwn()
+    {
+        gml::CodeType object = fromDocument("1000", "x");
+        object = fromDocument("2000", "y");
+        QVERIFY(static_cast<const std::string&>(object) == "2000");
+        QCOMPARE(markupOf(*KeptContent::find(object)), QStringList({"x"}));
     }
 
     void assignmentToItselfChangesNothing()
@@ -285,14 +296,18 @@ private slots:
     }
 
 private:
-    /// A code under element name 7, with a node and the second defaulted attribute spelled out.
-    static gml::CodeType fromDocument(const char* code, const char* xml)
+    /// Gives an object element name 7 and a node, and spells out its second defaulted attribute.
+    static void mark(xml_schema::type& object, const char* xml)
     {
-        gml::CodeType object(code);
         KeptContent::setElementName(object, 7);
         KeptContent::setSpelledOut(object, 2);
         KeptContent::of(object).addNode(node(xml, Position::inFront()));
         KeptContent::of(object).seal();
+    }
+    static gml::CodeType fromDocument(const char* code, const char* xml)
+    {
+        gml::CodeType object(code);
+        mark(object, xml);
         return object;
     }
 };

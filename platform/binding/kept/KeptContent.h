@@ -211,6 +211,9 @@ public:
     /// An object that a program made says nothing about any document: the target keeps its element name, its
     /// attributes, its nodes and its spellings, and only the members change. The writer then leaves out what
     /// no longer fits, such as the spelling of another value.
+    ///
+    /// The run-time's classes of strings assign the characters alone, without a call of this. So an object
+    /// that is a string keeps its own in either case.
     static void assign(xml_schema::type& target, const xml_schema::type& source);
 
     void addAttribute(Attribute attribute) { keptAttributes.push_back(std::move(attribute)); }
