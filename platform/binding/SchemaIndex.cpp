@@ -40,7 +40,7 @@ Bits bit(std::size_t number)
     if (number >= 8 * sizeof(Bits)) {
         throw std::length_error("too many members of a schema type");
     }
-    return Bits(1) << number;
+    return static_cast<Bits>(Bits(1) << number);
 }
 
 } // namespace
@@ -157,7 +157,7 @@ void SchemaIndex::numberMembers(TypeIndex& type)
         member.index = static_cast<MemberIndex>(i);
         member.groupBegin = alternates ? type.allMembers[i - 1].groupBegin : member.index;
         member.requiredBit = member.declaration->isRequired ? bit<std::uint64_t>(required++) : 0;
-        member.defaultBit = member.declaration->defaultText != nullptr ? bit<std::uint32_t>(defaults++) : 0;
+        member.defaultBit = member.declaration->defaultText != nullptr ? bit<std::uint16_t>(defaults++) : 0;
         type.required |= member.requiredBit;
     }
 }

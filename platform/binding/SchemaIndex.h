@@ -49,11 +49,11 @@ public:
         const TypeIndex* type = nullptr;
         /// The member's bit among the required ones; 0 for one that may be absent.
         std::uint64_t requiredBit = 0;
-        /// The member's bit among the attributes with a default or fixed value; 0 for any other.
-        std::uint32_t defaultBit = 0;
         NameId name = 0;
         /// Tells the repeated particles of all bases apart; 0 outside of one.
         int group = 0;
+        /// The member's bit among the attributes with a default or fixed value; 0 for any other.
+        std::uint16_t defaultBit = 0;
         /// Among all members of the type.
         MemberIndex index = 0;
         /// Index of the first member of the repeated particle, with which the member may alternate; outside

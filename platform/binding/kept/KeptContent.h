@@ -197,11 +197,11 @@ public:
     /// Whether the document spelled out an attribute that has a default or fixed value.
     ///
     /// \param attribute the bit of TypeIndex::FlatMember
-    static bool isSpelledOut(const xml_schema::type& object, std::uint32_t attribute)
+    static bool isSpelledOut(const xml_schema::type& object, std::uint16_t attribute)
     {
         return (object.spelledOut & attribute) != 0;
     }
-    static void setSpelledOut(xml_schema::type& object, std::uint32_t attribute)
+    static void setSpelledOut(xml_schema::type& object, std::uint16_t attribute)
     {
         object.spelledOut = static_cast<std::uint16_t>(object.spelledOut | attribute);
     }
