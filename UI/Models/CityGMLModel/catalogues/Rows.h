@@ -64,7 +64,7 @@ bool exists(const T&) {
 template <typename T>
 constexpr bool isOptional = false;
 template <typename T>
-constexpr bool isOptional<optional<T>> = true;
+constexpr bool isOptional<optional<T>> = true; // NOLINT(misc-definitions-in-headers): a template still
 
 // Of types that are not complete here none is a measure.
 template <typename T>

@@ -45,6 +45,7 @@ bool GmlCorePropertyCreator::visit_core_xalAddressPropertyType(core::xalAddressP
     const QScopedValueRollback<CoreProperty*> inside(m_currentParent, addGroup(FIELDS, QStringLiteral("Address")));
     object->AddressDetails().accept(this);
     // Not by way of the direct base, which enters the details too.
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call)
     return CityGMLInheritVisitor::visit_core_xalAddressPropertyType(object);
 }
 

@@ -26,6 +26,7 @@ bool GmlCorePropertyCreator::visit_gml_AbstractFeatureType(gml::AbstractFeatureT
         object->boundedBy()->accept(this);
     }
     // Not by way of the direct base, which enters the bounding shape too.
+    // NOLINTNEXTLINE(bugprone-parent-virtual-call)
     return CityGMLFeaturesVisitor::visit_gml_AbstractFeatureType(object);
 }
 
