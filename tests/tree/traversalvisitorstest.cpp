@@ -92,6 +92,12 @@ struct House
 
 } // namespace
 
+// The children visitor of features has nothing that a subclass could by-pass.
+static_assert(std::is_same_v<decltype(&CityGMLProxyModelTraverseChildrenGMLVisitor::setTreeNode),
+                             void (CityGMLProxyModelTraverseChildrenVisitor::*)(TreeNodeGML*)>);
+static_assert(sizeof(CityGMLProxyModelTraverseChildrenGMLVisitor) ==
+              sizeof(CityGMLProxyModelTraverseChildrenVisitor));
+
 class TraversalVisitorsTest : public QObject
 {
     Q_OBJECT

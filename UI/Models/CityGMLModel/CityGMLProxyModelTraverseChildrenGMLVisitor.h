@@ -14,15 +14,7 @@ public:
     CityGMLProxyModelTraverseChildrenGMLVisitor(const CityGMLProxyModelTraverseChildrenGMLVisitor& other);
     ~CityGMLProxyModelTraverseChildrenGMLVisitor() override;
 
-    void setTreeNode(TreeNodeGML* node) override;
-
     bool visit_gml_AbstractFeatureType(gml::AbstractFeatureType* feature) override;
-
-private:
-    NodeMap::iterator find(gml::AbstractFeatureType* feature);
-
-    // Where the walk from the current node was last.
-    NodeMap::iterator last;
 };
 
 } // namespace tolvik
