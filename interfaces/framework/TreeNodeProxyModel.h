@@ -97,6 +97,12 @@ protected:
     /// of its children.
     virtual QVariant recursiveCheckState(const QModelIndex& index) const;
 
+    /// The index of a node, column 0.
+    QModelIndex nodeIndex(TreeNode* node) const;
+
+    /// Adds one row to a selection, as part of its last range if the row goes on where that ends.
+    static void appendRow(QItemSelection& selection, const QModelIndex& left, const QModelIndex& right);
+
 public:
     /// The node behind an index of such a model, null for an invalid index.
     static TreeNode* treeNode(const QModelIndex& index);
@@ -115,7 +121,6 @@ protected:
 
 private:
     QList<QModelIndex> sourceRows(const QList<QModelIndex>& indexes) const;
-    QModelIndex nodeIndex(TreeNode* node) const;
     void appendChildren(const TreeNode& node, QItemSelection& selected) const;
     void clearTree();
 

@@ -14,20 +14,6 @@ namespace {
 
 constexpr int selectionGroup = 2;
 
-/// Adds one row to a selection: to its last range if the row goes on where that ends.
-void appendRow(QItemSelection& selection, const QModelIndex& left, const QModelIndex& right)
-{
-    if (!selection.isEmpty()) {
-        QItemSelectionRange& last = selection.last();
-        if (last.bottom() + 1 == left.row() && last.left() == left.column() &&
-            last.right() == right.column() && last.parent() == left.parent()) {
-            last = QItemSelectionRange(last.topLeft(), right);
-            return;
-        }
-    }
-    selection.append(QItemSelectionRange(left, right));
-}
-
 /// The nodes with an index in a selection, each once, in the order of the selection.
 QList<TreeNode*> nodesOf(const QItemSelection& selection)
 {
@@ -216,6 +202,20 @@ void TreeNodeProxyModel::endResetModel()
 {
     rebuilt();
     QAbstractItemModel::endResetModel();
+}
+
+void TreeNodeProxyModel::appendRow(QItemSelection& selection, const QModelIndex& left,
+                                   const QModelIndex& right)
+{
+    if (!selection.isEmpty()) {
+        QItemSelectionRange& last = selection.last();
+        if (last.bottom() + 1 == left.row() && last.left() == left.column() &&
+            last.right() == right.column() && last.parent() == left.parent()) {
+            last = QItemSelectionRange(last.topLeft(), right);
+            return;
+        }
+    }
+    selection.append(QItemSelectionRange(left, right));
 }
 
 QItemSelection TreeNodeProxyModel::mapSelectionToSource(const QItemSelection& selection) const

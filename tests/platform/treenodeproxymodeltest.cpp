@@ -501,6 +501,29 @@ private slots:
         QCOMPARE(recorder.take(), QStringList());
     }
 
+    void newVisibilityIsNotReportedWhileTheSourceIsBusy()
+    {
+        class Careless : public TestTree
+        {
+        public:
+            using TreeNodeProxyModel::visibilityChangedInSourceModel;
+            QList<QModelIndex> listFromSource(const QModelIndex& /*index*/) const override
+            {
+                return {index(0, 0)};
+            }
+        } tree;
+        Fixture f;
+        tree.setSourceModel(f.model.get());
+        tree.setCheckColumnEnabled(true);
+        SignalRecorder recorder(&tree);
+        tree.sourceBusy = true;
+        tree.visibilityChangedInSourceModel(QList<QModelIndex>{f.model->index(0, 0)});
+        QCOMPARE(recorder.take(), QStringList());
+        tree.sourceBusy = false;
+        tree.visibilityChangedInSourceModel(QList<QModelIndex>{f.model->index(0, 0)});
+        QCOMPARE(recorder.take().size(), 1);
+    }
+
     void plainSourceHasNoVisibility()
     {
         Fixture f;

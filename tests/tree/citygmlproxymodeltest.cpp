@@ -256,6 +256,33 @@ private slots:
         city.check();
     }
 
+    void nothingIsMappedWhileAHostRebuilds()
+    {
+        CityTree city;
+        QStringList seen;
+        struct Asking : Progress
+        {
+            void begin(const QString& title, long long /*total*/, bool /*blocking*/, int /*level*/) override
+            {
+                ask(title);
+            }
+            std::function<void(const QString&)> ask;
+        } asking;
+        asking.ask = [&](const QString& title) {
+            const QModelIndex index = city.tree.index(0, 0, static_cast<TreeNode*>(city.node("w1")));
+            seen.append(QString("%1 %2 %3 %4")
+                            .arg(title)
+                            .arg(city.at("w1").isValid())
+                            .arg(city.tree.listFromSource(city.source("w1")).size())
+                            .arg(city.tree.mapToSource(index).isValid()));
+        };
+        city.tree.setTraverseChildrenVisitor(city.tree.traverseChildrenVisitor.get());
+        QCOMPARE(seen, QStringList({"Building Proxy Nodes 0 0 0",
+                                    "Building Nodes Parent/Children relashionship 0 0 0",
+                                    "Building Root nodes 0 0 0"}));
+        QVERIFY(city.at("w1").isValid());
+    }
+
     void settingAVisitorRebuilds_data()
     {
         QTest::addColumn<bool>("children");
@@ -547,9 +574,17 @@ private slots:
         QCOMPARE(recorder.take(), QStringList());
         QCOMPARE(city.tree.nodeMap.size(), std::size_t(7));
 
+        // Its first child is asked for again and again, so that others go only if that leaves.
         plain->children().emplace_back(city.node("b2"));
+        plain->children().emplace_back(city.node("d1"));
+        plain->children().emplace_back(city.node("d2"));
         QVERIFY(city.tree.deleteTreeNode(plain.get()));
         QCOMPARE(recorder.take(), QStringList({"removed b2"}));
+        connect(&city.tree, &CityGMLProxyModel::featureRemovedFromModel, &city.tree,
+                [&] { plain->children().erase(plain->children().begin()); });
+        plain->children().erase(plain->children().begin());
+        QVERIFY(city.tree.deleteTreeNode(plain.get()));
+        QCOMPARE(recorder.take(), QStringList({"removed d1", "removed d2"}));
     }
 
     void deleteTreeNodeOfOneOfTwo()

@@ -5,6 +5,7 @@
 #include <QDataStream>
 #include <QItemSelectionModel>
 #include <QMimeData>
+#include <QRegularExpression>
 #include <QtTest>
 
 using tolvik::CityGMLProxyModel;
@@ -71,6 +72,38 @@ QByteArray keys(const QList<qint64>& values)
     return bytes;
 }
 
+/// Exchanges the children of a node when the first index is made.
+class Exchanging : public OpenTree
+{
+public:
+    QModelIndex index(int row, int column, TreeNode* node) const override
+    {
+        const auto* const gmlNode = dynamic_cast<tolvik::TreeNodeGML*>(node);
+        if (parent != nullptr && gmlNode != nullptr) {
+            std::swap(parent->children()[1], parent->children()[2]);
+            parent = nullptr;
+        }
+        asked.append(QString("%1 %2").arg(CityTree::idOf(gmlNode->feature())).arg(row));
+        return OpenTree::index(row, column, node);
+    }
+    using OpenTree::index;
+
+    mutable TreeNode* parent = nullptr;
+    mutable QStringList asked;
+};
+
+/// A proxy with a slot of the same name as that of its base.
+class Shadowing : public OpenTree
+{
+    Q_OBJECT
+
+public:
+    int calls = 0;
+
+public slots:
+    void selectSiblingsWithSameType() { ++calls; }
+};
+
 } // namespace
 
 class CityGMLProxySelectionTest : public QObject
@@ -115,6 +148,7 @@ private slots:
         city.tree.selectSiblings(false, false);
         QCOMPARE(city.selected(), QString("r1 w1 w2"));
         QCOMPARE(city.selection.selection().indexes().size(), 6); // both columns of each
+        QCOMPARE(city.selection.selection().size(), 1);           // as one range
     }
 
     void secondArgumentHasNoEffect()
@@ -133,6 +167,22 @@ private slots:
         city.tree.selectSiblings(true, false);
         QCOMPARE(city.selected(), QString("b2 w1 w2"));
         QCOMPARE(city.selection.currentIndex(), city.at("w2"));
+    }
+
+    void siblingsAreThoseOfTheBeginning()
+    {
+        Streets city;
+        Exchanging tree;
+        tree.setSourceModel(&city.model);
+        QItemSelectionModel selection(&tree);
+        tree.setSelectionModel(&selection);
+        selection.setCurrentIndex(tree.index(city.feature("w1")), QItemSelectionModel::NoUpdate);
+        tree.parent = tree.treeNode(city.feature("b1"));
+        tree.asked.clear();
+        tree.selectSiblings(false, false);
+        tree.asked.removeDuplicates();
+        tree.asked.sort();
+        QCOMPARE(tree.asked.filter(QRegularExpression("^[rw]")), QStringList({"r1 1", "w1 0", "w2 2"}));
     }
 
     void siblingsThatAreNoFeatures()
@@ -180,9 +230,19 @@ private slots:
         QVERIFY(action->isValid(city.at("w1")));
         QVERIFY(!action->isValid(city.source("w1")));
 
+        QCOMPARE(action->action()->parent(), &city.tree);
+
         city.makeCurrent("w1");
         action->action()->trigger();
         QCOMPARE(city.selected(), QString("w1 w2"));
+    }
+
+    void actionIsConnectedByName()
+    {
+        Shadowing tree;
+        tree.createActions();
+        tree.actions.last()->action()->trigger();
+        QCOMPARE(tree.calls, 1);
     }
 
     void actionsOfTheBaseStandInFront()

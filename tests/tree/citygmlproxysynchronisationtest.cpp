@@ -196,6 +196,32 @@ private slots:
         town.check();
     }
 
+    void insertionBelowANodeWithoutFeature()
+    {
+        // It is signalled for the top.
+        Town town;
+        const RefPtr<TreeNode> plain = new TreeNode(nullptr);
+        town.tree.setTraverseChildrenVisitor(
+            new Claim(town.tree.nodeMap, [&](TreeNodeGML* node, auto& /*nodes*/) {
+                if (node->feature() == town.feature("b3")) {
+                    node->setParent(plain.get());
+                    node->setChildNumber(2);
+                }
+            }));
+        QList<QPersistentModelIndex> roots;
+        for (int i = 0; i < town.tree.rowCount(); ++i) {
+            roots.append(town.tree.index(i, 0));
+        }
+        const QList<RefPtr<TreeNode>> nodes = town.tree.rootNodes;
+        town.recorder.clear();
+        town.addBuilding("b3");
+        QCOMPARE(town.recorder.take(), inserted("- 2 2"));
+        for (int i = 0; i < roots.size(); ++i) {
+            QVERIFY(!roots[i].isValid() || roots[i] == QPersistentModelIndex(town.tree.index(i, 0)));
+            QVERIFY(!roots[i].isValid() || OpenTree::treeNode(roots[i]) == nodes[i].get());
+        }
+    }
+
     void secondInsertionOfAFeature()
     {
         Town town(cityDocument(""));
@@ -333,6 +359,45 @@ private slots:
         town.check();
     }
 
+    void parentOfARemovalIsLookedUpBelowThatOfTheSource()
+    {
+        // The node of d1 stands below that of row 0.
+        Town town;
+        town.tree.rowsAboutToBeRemovedInSourceModel(town.at("city"), town.row("d1"), town.row("d1"));
+        QCOMPARE(town.recorder.take(), removed("0/0:0 0 0", {"d1"}));
+        QCOMPARE(town.dump(), QString("city(b1(w1(d2) w2) b2)"));
+    }
+
+    void persistentIndexesStayWithTheirNodes()
+    {
+        // The removal on the third level is signalled for the second: of b1, which loses its indexes so.
+        Town town;
+        town.addBuilding("b3");
+        QMap<QString, QPersistentModelIndex> indexes;
+        for (const char* const id : {"city", "b1", "b2", "b3", "w2"}) {
+            indexes[id] = town.at(id, 1);
+        }
+        town.model.removeFeature(town.feature("w1"));
+        QVERIFY(!indexes.take("b1").isValid());
+        QVERIFY(!indexes.take("w2").isValid());
+        QCOMPARE(indexes.size(), 3);
+        for (auto each = indexes.cbegin(); each != indexes.cend(); ++each) {
+            QCOMPARE(QModelIndex(each.value()), town.at(qPrintable(each.key()), 1));
+        }
+    }
+
+    void persistentIndexesEndBeforeTheirNodes()
+    {
+        Town town;
+        const QPersistentModelIndex wall(town.at("w1"));
+        bool wasValid = true;
+        town.tree.setTraversalVisitor(new Accept([&](auto* /*feature*/) {
+            wasValid = wall.isValid();
+            return true;
+        }));
+        QVERIFY(!wasValid);
+    }
+
     void noPersistentIndexOutlivesItsNode()
     {
         // Both removals are signalled for row 1 of the city, which is b2.
@@ -448,6 +513,29 @@ private slots:
         QCOMPARE(wall->children().front().get(), static_cast<TreeNode*>(town.node("d2")));
     }
 
+    void parentThatNoLongerClaimsItsNodeIsRemoved()
+    {
+        Town town;
+        bool isClaimed = true;
+        town.tree.setTraverseChildrenVisitor(
+            new Claim(town.tree.nodeMap, [&](TreeNodeGML* node, auto& nodes) {
+                if (node->feature() == town.feature("w1") && isClaimed) {
+                    node->children().emplace_back(nodes.at(town.feature("d1")).front().get());
+                }
+            }));
+        const QPersistentModelIndex door(town.at("d1"));
+        isClaimed = false;
+        town.addBuilding("b3");
+        QCOMPARE(town.node("d1")->parent(), static_cast<TreeNode*>(town.node("w1")));
+        town.model.removeFeature(town.feature("w1"));
+        QVERIFY(town.node("d1")->parent() == nullptr);
+        QVERIFY(!door.isValid());
+        const int roots = town.tree.rowCount();
+        town.model.removeFeature(town.feature("d1"));
+        QCOMPARE(town.tree.rowCount(), roots); // it was none of them
+        QVERIFY(town.node("d1") == nullptr);
+    }
+
     void renamingShowsAtOnce()
     {
         Town town;
@@ -560,6 +648,18 @@ private slots:
         QCOMPARE(town.recorder.take(),
                  QStringList({"dataChanged 0/0/1:0 0/0/1:0 []", "dataChanged 0/0/1:0 0/0/1:0 [10]",
                               "dataChanged 0/0:0 0/0:0 [10]", "dataChanged 0:0 0:0 [10]"}));
+    }
+
+    void visibilityWhileTheSourceIsBusy()
+    {
+        Town town;
+        town.tree.setCheckColumnEnabled(true);
+        town.recorder.clear();
+        town.tree.sourceBusy = true;
+        town.model.hide(town.source("w2"));
+        town.model.showAll();
+        QCOMPARE(town.recorder.take(), QStringList());
+        town.tree.sourceBusy = false;
     }
 
     void selectionSurvivesWhatIsSignalledInFull()

@@ -73,14 +73,6 @@ gml::AbstractFeatureType* featureOf(TreeNode* node)
     return gmlNode != nullptr ? gmlNode->feature() : nullptr;
 }
 
-bool isBelow(const TreeNode* node, const TreeNode* top)
-{
-    while (node != nullptr && node != top) {
-        node = node->parent();
-    }
-    return node != nullptr;
-}
-
 int checkState(bool isVisible)
 {
     return isVisible ? Qt::Checked : Qt::Unchecked;
@@ -145,7 +137,7 @@ void CityGMLProxyModel::rebuildForHost()
 {
     if (source != nullptr && !sourceBusy) {
         emit aboutToBeChanged();
-        computeNodeMap();
+        rebuild();
         emit changed();
     }
 }
@@ -153,9 +145,17 @@ void CityGMLProxyModel::rebuildForHost()
 void CityGMLProxyModel::resetModel()
 {
     beginResetModel();
+    dropNodes();
+    endResetModel();
+}
+
+void CityGMLProxyModel::dropNodes()
+{
+    // Persistent indexes are let go at the end of a reset only, when their nodes are long gone.
+    const QModelIndexList indexes = persistentIndexList();
+    changePersistentIndexList(indexes, QVector<QModelIndex>(indexes.size()).toList());
     nodeMap.clear();
     rootNodes.clear();
-    endResetModel();
 }
 
 bool CityGMLProxyModel::isAccepted(gml::AbstractFeatureType* feature) const
@@ -171,8 +171,14 @@ void CityGMLProxyModel::computeNodeMap()
         return;
     }
     beginResetModel();
-    nodeMap.clear();
-    rootNodes.clear();
+    dropNodes();
+    makeNodes([](gml::AbstractFeatureType* feature) { return new TreeNodeGML(feature, nullptr); });
+    updateTreeNodes();
+    endResetModel();
+}
+
+void CityGMLProxyModel::makeNodes(TreeNodeGML* (*make)(gml::AbstractFeatureType* feature))
+{
     // A document's features lie in memory much in the order of its rows, so that an entry goes next to the
     // last one. The entries come in front of the nodes, so that a look-up in the map finds them close
     // together.
@@ -194,26 +200,23 @@ void CityGMLProxyModel::computeNodeMap()
         if (i + lookAhead < accepted.size()) {
             prefetch(accepted[i + lookAhead]->first);
         }
-        accepted[i]->second.emplace_back(new TreeNodeGML(accepted[i]->first, nullptr));
+        accepted[i]->second.emplace_back(make(accepted[i]->first));
     }
-    updateTreeNodes();
-    endResetModel();
 }
 
 void CityGMLProxyModel::updateTreeNodes()
 {
     if (traverseChildrenVisitor) {
-        fillChildren();
+        walkNodes([this](TreeNodeGML& node) { fillChildren(node); });
     }
     linkChildren();
     collectRoots();
 }
 
-void CityGMLProxyModel::fillChildren()
+void CityGMLProxyModel::walkNodes(const std::function<void(TreeNodeGML& node)>& walk)
 {
-    CityGMLProxyModelTraverseChildrenVisitor& visitor = *traverseChildrenVisitor;
     OperationStatus status(tr("Building Proxy Nodes"), static_cast<long long>(nodeMap.size()), true);
-    visitor.setTraversalVisitor(traversalVisitor.get());
+    traverseChildrenVisitor->setTraversalVisitor(traversalVisitor.get());
     auto ahead = nodeMap.cbegin();
     for (int i = 0; i < lookAhead && ahead != nodeMap.cend(); ++i) {
         ++ahead;
@@ -225,13 +228,18 @@ void CityGMLProxyModel::fillChildren()
         }
         for (const auto& node : nodes) {
             if (node) {
-                visitor.setTreeNode(node.get());
-                visitor.walkStart = true;
-                feature->accept(&visitor);
+                walk(*node);
             }
             status.addStep(1);
         }
     }
+}
+
+void CityGMLProxyModel::fillChildren(TreeNodeGML& node)
+{
+    traverseChildrenVisitor->setTreeNode(&node);
+    traverseChildrenVisitor->walkStart = true;
+    node.feature()->accept(traverseChildrenVisitor.get());
 }
 
 void CityGMLProxyModel::linkChildren()
@@ -422,119 +430,6 @@ std::string CityGMLProxyModel::logPrefix() const
     return "[" + name + "] " + name + "(" + source->objectName().toStdString() + ")";
 }
 
-void CityGMLProxyModel::sourceDataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight)
-{
-    if (topLeft != bottomRight) {
-        const QItemSelection changedNodes = mapSelectionFromSource(QItemSelection(topLeft, bottomRight));
-        for (const QItemSelectionRange& range : changedNodes) {
-            emit dataChanged(range.topLeft(), range.bottomRight());
-        }
-        return;
-    }
-    const QModelIndex changedNode = mapFromSource(topLeft);
-    if (!changedNode.isValid()) {
-        return;
-    }
-    if (TreeNodeGML* const node = asGML(treeNode(changedNode))) {
-        const auto& names = node->feature()->name();
-        if (!names.empty()) {
-            node->setName(Fondo::String::fromUTF8(names.front()));
-        }
-    }
-    emit dataChanged(changedNode, changedNode);
-}
-
-void CityGMLProxyModel::rowsInsertedInSourceModel(const QModelIndex& /*parent*/, int start, int /*end*/)
-{
-    if (source == nullptr) {
-        return;
-    }
-    gml::AbstractFeatureType* const feature = document()->getFeature(start);
-    if (feature == nullptr || !isAccepted(feature)) {
-        return;
-    }
-    TreeNodeGML* const node = new TreeNodeGML(feature, nullptr);
-    nodeMap[feature].emplace_back(node);
-    rootNodes.clear();
-    updateTreeNodes();
-
-    QModelIndex parentIndex;
-    if (TreeNodeGML* const parentNode = asGML(node->parent())) {
-        parentIndex = index(parentNode->childNumber(), nameColumn, parentNode);
-    }
-    const int row = node->childNumber();
-    // Nodes that the new one claims have moved without a signal. Those behind it move with the signal below.
-    movePersistentIndexes([&](const TreeNode* each) {
-        const bool isBehind = each->parent() == node->parent() && each->childNumber() > row;
-        return isBehind ? each->childNumber() - 1 : each->childNumber();
-    });
-    beginInsertRows(parentIndex, row, row);
-    endInsertRows();
-}
-
-void CityGMLProxyModel::rowsAboutToBeRemovedInSourceModel(const QModelIndex& parent, int start, int /*end*/)
-{
-    if (source == nullptr) {
-        return;
-    }
-    gml::AbstractFeatureType* const feature = document()->getFeature(start);
-    bool isGone = false;
-    for (auto entry = nodeMap.find(feature); !isGone && entry != nodeMap.end();
-         entry = nodeMap.find(feature)) {
-        const Fondo::RefPtr<TreeNodeGML> node = entry->second.front();
-        QModelIndex parentIndex;
-        if (const TreeNode* const parentNode = node->parent()) {
-            parentIndex = index(parentNode->childNumber(), nameColumn, parent);
-        }
-        beginRemoveRows(parentIndex, node->childNumber(), node->childNumber());
-        takeOut(node.get());
-        isGone = deleteTreeNode(node.get());
-        endRemoveRows();
-        // Below the second level the signals name another parent. Nothing may refer to a node when it dies.
-        movePersistentIndexes(
-            [&](const TreeNode* each) { return isBelow(each, node.get()) ? -1 : each->childNumber(); });
-    }
-    nodeMap.erase(feature);
-}
-
-/// Takes a node from where it stands, and numbers the nodes behind it.
-void CityGMLProxyModel::takeOut(TreeNode* node)
-{
-    const int row = node->childNumber();
-    if (TreeNode* const parentNode = node->parent()) {
-        auto& siblings = parentNode->children();
-        // A node whose feature was moved in the document still has the parent that no longer holds it.
-        if (row < static_cast<int>(siblings.size()) && siblings[static_cast<std::size_t>(row)] == node) {
-            siblings.erase(siblings.begin() + row);
-        }
-        parentNode->renumberChildren();
-        return;
-    }
-    rootNodes.removeAt(row);
-    for (int i = 0; i < rootNodes.size(); ++i) {
-        rootNodes[i]->setChildNumber(i);
-    }
-}
-
-/// Brings persistent indexes in step with the tree, since the signals do not tell all of what has changed.
-/// \param rowOf gives the row that a node's indexes are to have, -1 for none
-template <class RowOf>
-void CityGMLProxyModel::movePersistentIndexes(RowOf rowOf)
-{
-    QModelIndexList from;
-    QModelIndexList to;
-    const QModelIndexList indexes = persistentIndexList();
-    for (const QModelIndex& each : indexes) {
-        TreeNode* const node = treeNode(each);
-        const int row = rowOf(node);
-        if (row != each.row()) {
-            from.append(each);
-            to.append(row != -1 ? createIndex(row, each.column(), node) : QModelIndex());
-        }
-    }
-    changePersistentIndexList(from, to);
-}
-
 int CityGMLProxyModel::columnCount(const QModelIndex& /*parent*/) const
 {
     return featureColumnCount;
@@ -649,8 +544,7 @@ void CityGMLProxyModel::selectSiblings(bool sameType, bool /*reserved*/)
     for (const auto& child : children) {
         const gml::AbstractFeatureType* const childFeature = featureOf(child.get());
         if (childFeature != nullptr && (!sameType || childFeature->typeLabel == feature->typeLabel.str())) {
-            siblings.append(QItemSelectionRange(index(row, nameColumn, child.get()),
-                                                index(row, lastColumn, child.get())));
+            appendRow(siblings, index(row, nameColumn, child.get()), index(row, lastColumn, child.get()));
         }
         ++row;
     }

@@ -4,8 +4,10 @@
 #include "UI/Models/CityGMLModel/CityGMLModelExport.h"
 #include "UI/Models/CityGMLModel/CityGMLProxyModelTraverseChildrenVisitor.h"
 
+#include <functional>
 #include <QIcon>
 #include <QMap>
+#include <QSet>
 #include <string>
 
 namespace core {
@@ -155,6 +157,28 @@ protected:
 
     static TreeNode* treeNode(const QModelIndex& index);
 
+    /// The source, null without one.
+    CityGMLModel* document() const;
+
+    /// Whether the traversal visitor gives the feature a node.
+    bool isAccepted(gml::AbstractFeatureType* feature) const;
+
+    /// Drops all nodes, within a reset. Persistent indexes become invalid here.
+    void dropNodes();
+
+    /// Adds a node to the node map for each row that is accepted, in the order of the rows.
+    void makeNodes(TreeNodeGML* (*make)(gml::AbstractFeatureType* feature));
+
+    /// Calls \a walk for each node in the order of the node map, and reports the progress. There must be a
+    /// children visitor.
+    void walkNodes(const std::function<void(TreeNodeGML& node)>& walk);
+
+    /// Has the children visitor fill the children of one node.
+    void fillChildren(TreeNodeGML& node);
+
+    /// Takes a node from where it stands, and numbers the nodes behind it.
+    void takeOut(TreeNode* node);
+
     // For subclasses, whose children visitors work on the node map.
     NodeMap nodeMap;
     Fondo::RefPtr<CityGMLFeaturesVisitor> traversalVisitor;
@@ -162,13 +186,11 @@ protected:
     QMap<QString, QIcon> iconMap;
 
 private:
-    CityGMLModel* document() const;
     void rebuildForHost();
-    bool isAccepted(gml::AbstractFeatureType* feature) const;
-    void fillChildren();
     void linkChildren();
     void collectRoots();
-    void takeOut(TreeNode* node);
+    void releaseChildren(const QSet<const TreeNode*>& branch);
+    bool isLinked(const TreeNode* node) const;
     template <class RowOf>
     void movePersistentIndexes(RowOf rowOf);
     QIcon icon(const std::string& typeLabel) const;

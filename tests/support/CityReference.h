@@ -1,0 +1,220 @@
+#pragma once
+
+#include "support/CityGMLTreeFixture.h"
+
+#include <algorithm>
+#include <memory>
+#include <QString>
+#include <string>
+#include <vector>
+
+// A plain model of a document, of its rows and of its tree, which knows no signals and no indexes.
+
+/// What a feature of the document is.
+enum class Kind { City, Building, Wall, Door, Appearance };
+
+inline const char* typeOf(Kind kind)
+{
+    static const char* const types[] = {"CityModel", "Building", "WallSurface", "Door", "Appearance"};
+    return types[static_cast<int>(kind)];
+}
+
+/// A feature of the document, with its state in the list and in the tree.
+struct Item
+{
+    std::string id;
+    Kind kind = Kind::City;
+    QString name; // null without one
+    Item* owner = nullptr;
+    std::vector<Item*> members;
+    gml::AbstractFeatureType* feature = nullptr;
+
+    bool isVisible = true;
+    bool isDisabled = false;
+    bool isSelected = false;
+
+    bool isNode = false;
+    bool isSelectedNode = false;
+    QString nodeName;
+
+    QString label() const { return name.isNull() ? QString(typeOf(kind)) : name; }
+};
+
+/// The document, the rows and the tree, as they should be.
+class Reference
+{
+public:
+    std::vector<std::unique_ptr<Item>> items; // the root of the document in front
+    std::vector<Item*> rows;
+    bool showsAppearances = false;
+    bool isFlat = false;
+
+    Item* add(Kind kind, Item* owner, const QString& name)
+    {
+        items.push_back(std::make_unique<Item>());
+        Item* const item = items.back().get();
+        item->id = "f" + std::to_string(++lastId);
+        item->kind = kind;
+        item->owner = owner;
+        item->name = name;
+        if (owner != nullptr) {
+            owner->members.push_back(item);
+        }
+        return item;
+    }
+
+    bool hasRow(const Item* item) const { return std::find(rows.begin(), rows.end(), item) != rows.end(); }
+
+    int rowOf(const Item* item) const
+    {
+        return static_cast<int>(std::find(rows.begin(), rows.end(), item) - rows.begin());
+    }
+
+    bool isShown(const Item* item) const { return showsAppearances || item->kind != Kind::Appearance; }
+
+    Item* parentNode(const Item* item) const
+    {
+        return !isFlat && item->owner != nullptr && item->owner->isNode ? item->owner : nullptr;
+    }
+
+    std::vector<Item*> childNodes(const Item* item) const
+    {
+        std::vector<Item*> children;
+        if (!isFlat) {
+            std::copy_if(item->members.begin(), item->members.end(), std::back_inserter(children),
+                         [](const Item* member) { return member->isNode; });
+        }
+        return children;
+    }
+
+    std::vector<Item*> roots() const
+    {
+        std::vector<Item*> found;
+        for (const auto& item : items) {
+            if (item->isNode && parentNode(item.get()) == nullptr) {
+                found.push_back(item.get());
+            }
+        }
+        std::sort(found.begin(), found.end(),
+                  [](const Item* a, const Item* b) { return std::less<>()(a->feature, b->feature); });
+        return found;
+    }
+
+    void appendRow(Item* item)
+    {
+        rows.push_back(item);
+        item->isVisible = true;
+        item->isDisabled = false;
+        item->isSelected = false;
+        if (isShown(item)) {
+            item->isNode = true;
+            item->isSelectedNode = false;
+            item->nodeName = item->label();
+        }
+    }
+
+    void removeRow(Item* item)
+    {
+        rows.erase(std::find(rows.begin(), rows.end(), item));
+        if (item->isNode) {
+            removeNodes(item);
+        }
+    }
+
+    /// Rows for the whole document, or none.
+    void resetRows(bool all)
+    {
+        rows.clear();
+        if (all) {
+            appendBelow(items.front().get());
+        }
+        rebuildTree();
+    }
+
+    void rebuildTree()
+    {
+        for (const auto& item : items) {
+            item->isSelectedNode = false;
+            item->isNode = isShown(item.get()) && hasRow(item.get());
+            item->nodeName = item->label();
+        }
+    }
+
+    /// An item and all below it, an owner in front of its members.
+    static void collect(Item* item, std::vector<Item*>& found)
+    {
+        found.push_back(item);
+        for (Item* const member : item->members) {
+            collect(member, found);
+        }
+    }
+
+    void erase(Item* item)
+    {
+        std::vector<Item*> gone;
+        collect(item, gone);
+        auto& siblings = item->owner->members;
+        siblings.erase(std::find(siblings.begin(), siblings.end(), item));
+        for (const Item* const each : gone) {
+            items.erase(std::find_if(items.begin(), items.end(),
+                                     [each](const auto& held) { return held.get() == each; }));
+        }
+    }
+
+private:
+    void appendBelow(Item* item)
+    {
+        appendRow(item);
+        for (Item* const member : item->members) {
+            appendBelow(member);
+        }
+    }
+
+    void removeNodes(Item* item)
+    {
+        const std::vector<Item*> children = childNodes(item);
+        item->isNode = false;
+        for (Item* const child : children) {
+            removeNodes(child);
+        }
+    }
+
+    int lastId = 0;
+};
+
+inline QByteArray xmlOf(const Item& item)
+{
+    const QByteArray type = item.kind == Kind::Appearance ? QByteArray("app:Appearance")
+                                                          : QByteArray("bldg:") + typeOf(item.kind);
+    QByteArray text = '<' + type + " gml:id=\"" + QByteArray::fromStdString(item.id) + "\">";
+    if (!item.name.isNull()) {
+        text += "<gml:name>" + item.name.toUtf8() + "</gml:name>";
+    }
+    const QByteArray property = item.kind == Kind::Building ? "bldg:boundedBy" : "bldg:opening";
+    for (const Item* const member : item.members) {
+        text += '<' + property + '>' + xmlOf(*member) + "</" + property + '>';
+    }
+    return text + "</" + type + '>';
+}
+
+inline QByteArray documentOf(const Item& city)
+{
+    QByteArray members;
+    for (const Item* const member : city.members) {
+        const QByteArray property =
+            member->kind == Kind::Appearance ? "app:appearanceMember" : "cityObjectMember";
+        members += '<' + property + '>' + xmlOf(*member) + "</" + property + ">\n";
+    }
+    return cityDocument(members);
+}
+
+template <class T>
+T make(const Item& item)
+{
+    T feature;
+    feature.id(gml::AbstractGMLType::id_type(item.id));
+    if (!item.name.isNull()) {
+        feature.name().push_back(gml::CodeType(item.name.toStdString()));
+    }
+    return feature;
+}
