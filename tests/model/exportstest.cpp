@@ -16,6 +16,7 @@ const QStringList exportedClasses{
     "TreeNodeGML",
     "CityGMLProxyModelTraverseAllVisitor",
     "CityGMLProxyModelTraverseNoApparencesVisitor",
+    "CityGMLTreeModel",
     "CityGMLProxyModelTraverseChildrenVisitor",
     "CityGMLProxyModelTraverseChildrenGMLVisitor",
     "GmlCorePropertyCreator",

@@ -8,11 +8,15 @@ namespace tolvik {
 TreeNodeGML::TreeNodeGML(gml::AbstractFeatureType* feature, TreeNode* parent)
     : TreeNode(parent), schemaFeature(feature)
 {
-    if (feature == nullptr) {
-        return;
+    if (feature != nullptr) {
+        name = nameOf(*feature);
     }
-    const auto& names = feature->name();
-    name = names.empty() ? Fondo::String(feature->typeLabel.str()) : Fondo::String::fromUTF8(names.front());
+}
+
+Fondo::String TreeNodeGML::nameOf(const gml::AbstractFeatureType& feature)
+{
+    const auto& names = feature.name();
+    return names.empty() ? Fondo::String(feature.typeLabel.str()) : Fondo::String::fromUTF8(names.front());
 }
 
 TreeNodeGML::TreeNodeGML(const TreeNodeGML& other) = default;

@@ -25,6 +25,9 @@ public:
     /// Owned by the document, with which it goes.
     gml::AbstractFeatureType* feature() const { return schemaFeature; }
 
+    /// The name of a new node: the first of the feature's names, else its type.
+    static Fondo::String nameOf(const gml::AbstractFeatureType& feature);
+
 private:
     gml::AbstractFeatureType* schemaFeature;
 };
