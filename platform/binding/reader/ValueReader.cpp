@@ -4,9 +4,9 @@
 #include "platform/binding/reader/KeptContentLog.h"
 #include "platform/binding/reader/NameResolver.h"
 #include "platform/binding/reader/NamespaceScopes.h"
+#include "platform/binding/values/Literals.h"
 #include "platform/binding/values/WhiteSpace.h"
 
-#include <algorithm>
 #include <memory>
 
 namespace citygml {
@@ -49,8 +49,7 @@ void ValueReader::readText(xml_schema::type& object, const TypeIndex& type, Name
                            std::string_view text) const
 {
     type.record()->text->parse(object, text, scopes);
-    checkLiteral(object, type);
-    if (type.hasSpellings() && isOtherSpelling(object, type, text)) {
+    if (readLiteral(object, type) || (type.hasSpellings() && isOtherSpelling(object, type, text))) {
         logSpelling(element);
         KeptContent::of(object).addSpelling(std::nullopt, trimmed(text));
     }
@@ -71,8 +70,8 @@ void ValueReader::readAttribute(xml_schema::type& owner, const TypeIndex::FlatMe
             return;
         }
         member.type->record()->text->parse(*created, text, scopes);
-        checkLiteral(*created, *member.type);
-        isToBeKept = member.type->hasSpellings() && isOtherSpelling(*created, *member.type, text);
+        isToBeKept = readLiteral(*created, *member.type) ||
+                     (member.type->hasSpellings() && isOtherSpelling(*created, *member.type, text));
         ops.add(owner, created.release());
     }
     if (isToBeKept) {
@@ -102,19 +101,30 @@ bool ValueReader::isOtherSpelling(const xml_schema::type& object, const TypeInde
     return trimmed(text) != written;
 }
 
-void ValueReader::checkLiteral(const xml_schema::type& object, const TypeIndex& type) const
+/// Gives an object of an enumeration that has its text already the literal of the schema.
+///
+/// \return whether the document spells it otherwise.
+bool ValueReader::readLiteral(xml_schema::type& object, const TypeIndex& type) const
 {
     const TypeRecord& record = *type.record();
     if (record.literals == nullptr) {
-        return;
+        return false;
     }
     std::string text;
     record.text->format(object, text, scopes);
-    const auto* const end = record.literals + record.literalCount;
     // An empty text is what an edit to something that is no literal leaves.
-    if (!text.empty() && std::find(record.literals, end, text) == end) {
+    if (text.empty()) {
+        return false;
+    }
+    const char* const literal = findLiteral(record, text);
+    if (literal == nullptr) {
         throw ValueError{"'" + text + "' is not a value of " + record.name};
     }
+    const bool isOther = text != literal;
+    if (isOther) {
+        record.text->parse(object, literal, scopes);
+    }
+    return isOther;
 }
 
 void ValueReader::logSpelling(NameId name) const

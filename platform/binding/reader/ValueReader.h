@@ -13,7 +13,7 @@ class NameResolver;
 class NamespaceScopes;
 
 /// Sets the values of objects from the texts of a document, and keeps the document's text where another one
-/// would be written for the value, such as `true` for `1`.
+/// would be written for the value, such as `true` for `1` or `Medium` for `medium`.
 ///
 /// Every operation throws ValueError for a text that is no value of its type.
 class ValueReader
@@ -41,7 +41,7 @@ public:
 
 private:
     bool isOtherSpelling(const xml_schema::type& object, const TypeIndex& type, std::string_view text) const;
-    void checkLiteral(const xml_schema::type& object, const TypeIndex& type) const;
+    bool readLiteral(xml_schema::type& object, const TypeIndex& type) const;
     void logSpelling(NameId name) const;
 
     const NamespaceScopes& scopes;

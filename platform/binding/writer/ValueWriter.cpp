@@ -1,5 +1,7 @@
 #include "platform/binding/writer/ValueWriter.h"
 
+#include "platform/binding/values/Literals.h"
+
 #include <memory>
 
 namespace citygml {
@@ -20,7 +22,7 @@ void respellBoolean(std::string_view spelling, std::string& text)
 void ValueWriter::formatText(const xml_schema::type& object, const TypeIndex& type, const KeptContent* kept,
                              std::string& text) const
 {
-    const bool isSpelled = kept != nullptr && type.hasSpellings();
+    const bool isSpelled = kept != nullptr && (type.hasSpellings() || type.record()->literals != nullptr);
     formatObject(object, type, isSpelled ? kept->spellingOf(std::nullopt) : std::string_view(), text);
 }
 
@@ -61,6 +63,12 @@ void ValueWriter::formatObject(const xml_schema::type& object, const TypeIndex& 
 {
     type.record()->text->format(object, text, scope);
     if (spelling.empty()) {
+        return;
+    }
+    if (type.record()->literals != nullptr) {
+        if (differInFirstCase(spelling, text)) {
+            text = spelling;
+        }
         return;
     }
     const std::unique_ptr<xml_schema::type> spelled(type.record()->create());
