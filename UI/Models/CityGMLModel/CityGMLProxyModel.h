@@ -40,13 +40,15 @@ class CITYGMLMODEL_EXPORT CityGMLProxyModel : public TreeNodeProxyModel
     Q_OBJECT
 
 public:
+    /// The nodes of each feature.
     using NodeMap = CityGMLProxyModelTraverseChildrenVisitor::NodeMap;
 
     /// Of drag data: the row keys of encodeData() one behind the other.
     static const char* const MimeType;
 
     /// The source, when one is set, must be a CityGMLModel.
-    /// \param name the object name, which stands in log lines
+    /// \param name   the object name, which stands in log lines
+    /// \param parent owns the model, or null
     explicit CityGMLProxyModel(const QString& name = "", QObject* parent = nullptr);
     ~CityGMLProxyModel() override;
 
@@ -65,7 +67,7 @@ public:
 
     QStringList mimeTypes() const override;
 
-    /// \return the rows behind the indexes, owned by the caller; null for an empty list
+    /// The rows behind the indexes, owned by the caller; null for an empty list.
     QMimeData* mimeData(const QModelIndexList& indexes) const override;
 
     /// The row of the node's feature; the column stays.
@@ -139,6 +141,7 @@ public:
     /// The feature above that with the identifier \a id, null if it is at the top. There must be a source,
     /// and the feature must have a node.
     virtual gml::AbstractFeatureType* getFeatureParent(std::string id) const;
+    /// The same for a feature.
     virtual gml::AbstractFeatureType* getFeatureParent(gml::AbstractFeatureType* feature) const;
 
 signals:
@@ -155,6 +158,7 @@ protected:
     /// \return whether this was the last node of its feature
     virtual bool deleteTreeNode(TreeNode* node);
 
+    /// The node behind an index of such a model, null for an invalid index.
     static TreeNode* treeNode(const QModelIndex& index);
 
     /// The source, null without one.
@@ -179,10 +183,13 @@ protected:
     /// Takes a node from where it stands, and numbers the nodes behind it.
     void takeOut(TreeNode* node);
 
-    // For subclasses, whose children visitors work on the node map.
+    /// The nodes of each feature; the children visitors of subclasses work on it.
     NodeMap nodeMap;
+    /// Says which features have nodes; null only without a source.
     Fondo::RefPtr<CityGMLFeaturesVisitor> traversalVisitor;
+    /// Says which node is below which; null for a flat tree.
     Fondo::RefPtr<CityGMLProxyModelTraverseChildrenVisitor> traverseChildrenVisitor;
+    /// The icons that were asked for, by type.
     QMap<QString, QIcon> iconMap;
 
 private:

@@ -11,7 +11,9 @@ class CITYGMLMODEL_EXPORT CityGMLProxyModelTraverseAllVisitor : public CityGMLFe
 {
 public:
     CityGMLProxyModelTraverseAllVisitor();
+    /// Takes over the flags of the walk.
     CityGMLProxyModelTraverseAllVisitor(const CityGMLProxyModelTraverseAllVisitor& other);
+    /// Takes over the flags of the walk.
     CityGMLProxyModelTraverseAllVisitor& operator=(const CityGMLProxyModelTraverseAllVisitor& other);
     ~CityGMLProxyModelTraverseAllVisitor() override;
 

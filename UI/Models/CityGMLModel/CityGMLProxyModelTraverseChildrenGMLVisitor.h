@@ -10,7 +10,9 @@ class CITYGMLMODEL_EXPORT CityGMLProxyModelTraverseChildrenGMLVisitor
     : public CityGMLProxyModelTraverseChildrenVisitor
 {
 public:
+    /// \param nodes that of the proxy model; it must outlive the visitor's walks
     explicit CityGMLProxyModelTraverseChildrenGMLVisitor(NodeMap& nodes);
+    /// Shares the node map and the traversal visitor.
     CityGMLProxyModelTraverseChildrenGMLVisitor(const CityGMLProxyModelTraverseChildrenGMLVisitor& other);
     ~CityGMLProxyModelTraverseChildrenGMLVisitor() override;
 

@@ -12,7 +12,11 @@ namespace tolvik {
 
 /// Fills the children of one node of CityGMLProxyModel after the other: `accept` is called on the node's
 /// feature. This one adds none, so that the tree stays flat. A subclass adds to `treeNode` what its walk
-/// meets: \code visitor.setTreeNode(node); visitor.walkStart = true; node->feature()->accept(&visitor);
+/// meets:
+/// \code
+/// visitor.setTreeNode(node);
+/// visitor.walkStart = true;
+/// node->feature()->accept(&visitor);
 /// \endcode
 class CITYGMLMODEL_EXPORT CityGMLProxyModelTraverseChildrenVisitor : public CityGMLFeaturesVisitor
 {
@@ -37,8 +41,11 @@ public:
     virtual void setTreeNode(TreeNodeGML* node);
 
 protected:
+    /// The node to fill.
     TreeNodeGML* treeNode;
+    /// Those of the proxy model.
     NodeMap& nodeMap;
+    /// Says which features have nodes; null before one is set.
     Fondo::RefPtr<CityGMLFeaturesVisitor> traversalVisitor;
 };
 

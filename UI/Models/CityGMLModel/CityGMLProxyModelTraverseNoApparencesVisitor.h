@@ -10,7 +10,9 @@ class CITYGMLMODEL_EXPORT CityGMLProxyModelTraverseNoApparencesVisitor
 {
 public:
     CityGMLProxyModelTraverseNoApparencesVisitor();
+    /// Takes over the flags of the walk.
     CityGMLProxyModelTraverseNoApparencesVisitor(const CityGMLProxyModelTraverseNoApparencesVisitor& other);
+    /// Takes over the flags of the walk.
     CityGMLProxyModelTraverseNoApparencesVisitor&
     operator=(const CityGMLProxyModelTraverseNoApparencesVisitor& other);
     ~CityGMLProxyModelTraverseNoApparencesVisitor() override;

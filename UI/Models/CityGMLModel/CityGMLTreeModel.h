@@ -38,7 +38,8 @@ class CITYGMLMODEL_EXPORT CityGMLTreeModel : public CityGMLProxyModel
     Q_OBJECT
 
 public:
-    /// \param name the object name, which stands in log lines
+    /// \param name   the object name, which stands in log lines
+    /// \param parent owns the model, or null
     explicit CityGMLTreeModel(const QString& name = "", QObject* parent = nullptr);
     ~CityGMLTreeModel() override;
 

@@ -15,10 +15,14 @@ class CITYGMLMODEL_EXPORT TreeNodeGML : public TreeNode
 {
 public:
     /// A node named after the feature: by the first of its names, else by its type. The name stays when that
-    /// of the feature changes. \param feature what the node stands for, not owned; null leaves the name empty
+    /// of the feature changes.
+    /// \param feature what the node stands for, not owned; null leaves the name empty
+    /// \param parent  the node above, not owned; null for none
     TreeNodeGML(gml::AbstractFeatureType* feature, TreeNode* parent);
 
+    /// A node for the same feature, with the same name, parent and children.
     TreeNodeGML(const TreeNodeGML& other);
+    /// Takes over the feature, the name, the parent and the children.
     TreeNodeGML& operator=(const TreeNodeGML& other);
     ~TreeNodeGML() override;
 
