@@ -55,13 +55,15 @@ public:
 QStringList operationsOf(const QString& visitor)
 {
     QFile file(testpaths::generatedCode() + "/citygml/" + visitor + ".h");
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly)) {
         return QStringList();
+    }
     QStringList result;
     auto matches =
         QRegularExpression("bool visit_(\\w+)\\(([\\w:]+)\\* object\\)").globalMatch(file.readAll());
-    while (matches.hasNext())
+    while (matches.hasNext()) {
         result << matches.next().captured(1);
+    }
     return result;
 }
 
@@ -84,8 +86,9 @@ private slots:
         QFETCH(QString, visitor);
         const QStringList operations = operationsOf(visitor);
         QStringList expected;
-        for (const QStringList& row : schematables::table("types.tsv").mid(1))
+        for (const QStringList& row : schematables::table("types.tsv").mid(1)) {
             expected << row[0] + '_' + row[1];
+        }
         QCOMPARE(expected.size(), 1340);
         QStringList sorted = operations;
         sorted.sort();
@@ -104,9 +107,10 @@ private slots:
         const QStringList operations = operationsOf("CityGMLBaseVisitor");
         int at = 0;
         for (const auto& entry : table) {
-            for (int i = 0; i < entry.second; ++i, ++at)
+            for (int i = 0; i < entry.second; ++i, ++at) {
                 QVERIFY2(operations.value(at).startsWith(entry.first + '_'),
                          qPrintable(operations.value(at)));
+            }
         }
         QCOMPARE(operations.size(), at);
     }
@@ -120,16 +124,18 @@ private slots:
         int count = 0;
         auto matches =
             QRegularExpression(" T citygml::CityGMLInheritVisitor::visit_\\w+\\(").globalMatch(symbols);
-        for (; matches.hasNext(); matches.next())
+        for (; matches.hasNext(); matches.next()) {
             ++count;
+        }
         QCOMPARE(count, 1340);
     }
 
     void basesAreThoseOfTheTypes()
     {
         QMap<QString, const schematables::TypeRecord*> records;
-        for (const auto* record : schematables::types())
+        for (const auto* record : schematables::types()) {
             records[schematables::className(*record)] = record;
+        }
         QCOMPARE(records.size(), 1340);
         int compared = 0;
         for (const QStringList& row : schematables::table("types.tsv").mid(1)) {
@@ -156,8 +162,9 @@ private slots:
             const std::unique_ptr<xml_schema::type> object(record->create());
             QCOMPARE(citygml::binding::recordOf(*object), record);
             QString label = schematables::className(*record).section("::", 1);
-            if (label.endsWith("Type") && label.size() > 4)
+            if (label.endsWith("Type") && label.size() > 4) {
                 label.chop(4);
+            }
             QCOMPARE(QString::fromStdString(object->typeLabel), label);
             citygml::CityGMLInheritVisitor visitor;
             QVERIFY(object->accept(&visitor));
@@ -176,8 +183,9 @@ private slots:
         QCOMPARE(expected.size(), 103);
         for (const auto* record : schematables::types()) {
             const QString name = schematables::className(*record);
-            for (std::size_t i = 0; expected.contains(name) && i < record->literalCount; ++i)
+            for (std::size_t i = 0; expected.contains(name) && i < record->literalCount; ++i) {
                 actual[name] << QString::fromUtf8(record->literals[i]);
+            }
         }
         QCOMPARE(actual, expected);
     }

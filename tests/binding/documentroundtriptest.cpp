@@ -26,8 +26,9 @@ QStringList documents()
     QStringList result;
     for (const QString& directory : {testpaths::examples(), testpaths::sharedFiles() + "/data"}) {
         QDirIterator files(directory, {"*.gml"}, QDir::Files, QDirIterator::Subdirectories);
-        while (files.hasNext())
+        while (files.hasNext()) {
             result << files.next();
+        }
     }
     result.sort();
     return result;
@@ -56,18 +57,22 @@ QByteArray building(const QByteArray& content)
 /// Inserts elements, attributes and comments that no schema knows at random places.
 void addNoise(XmlNode& node, std::mt19937& random)
 {
-    for (XmlNode& child : node.children)
+    for (XmlNode& child : node.children) {
         addNoise(child, random);
-    if (node.kind != XmlNode::Element || node.name.isEmpty())
+    }
+    if (node.kind != XmlNode::Element || node.name.isEmpty()) {
         return;
-    if (random() % 4 == 0)
+    }
+    if (random() % 4 == 0) {
         node.attributes["{urn:noise}level"] = QString::number(random() % 100);
+    }
     const bool hasElements = std::any_of(node.children.begin(), node.children.end(),
                                          [](const XmlNode& child) { return child.kind == XmlNode::Element; });
     const bool hasText = std::any_of(node.children.begin(), node.children.end(),
                                      [](const XmlNode& child) { return child.kind == XmlNode::Text; });
-    if (!hasElements || hasText || random() % 3 != 0)
+    if (!hasElements || hasText || random() % 3 != 0) {
         return;
+    }
     XmlNode noise;
     if (random() % 2 == 0) {
         noise.name = "{urn:noise}Source";
@@ -88,10 +93,12 @@ bool isMixed(const XmlNode& node)
 /// Brings the children of each element into a random order.
 void reorder(XmlNode& node, std::mt19937& random)
 {
-    for (XmlNode& child : node.children)
+    for (XmlNode& child : node.children) {
         reorder(child, random);
-    if (!isMixed(node) && !node.name.isEmpty())
+    }
+    if (!isMixed(node) && !node.name.isEmpty()) {
         std::shuffle(node.children.begin(), node.children.end(), random);
+    }
 }
 
 /// The element at the top of an element's substitution group; its own name where it is in none.
@@ -104,8 +111,9 @@ QString topOf(const QString& name)
             const ElementRecord* element = &citygml::binding::allElements[i];
             const auto nameOf = [](const ElementRecord& e) { return QString("{%1}%2").arg(e.uri, e.name); };
             const QString own = nameOf(*element);
-            while (element->head != nullptr)
+            while (element->head != nullptr) {
                 element = element->head;
+            }
             result[own] = nameOf(*element);
         }
         return result;
@@ -117,8 +125,9 @@ const QSet<QString>& schemaNamespaces()
 {
     static const QSet<QString> uris = [] {
         QSet<QString> result;
-        for (const auto* record : schematables::types())
+        for (const auto* record : schematables::types()) {
             result.insert(record->uri);
+        }
         return result;
     }();
     return uris;
@@ -131,14 +140,17 @@ void reorderMembers(XmlNode& node, std::mt19937& random)
     const auto isKnown = [](const XmlNode& child) {
         return schemaNamespaces().contains(child.namespaceUri());
     };
-    if (isMixed(node) || !isKnown(node) || node.localName() == "metaDataProperty")
+    if (isMixed(node) || !isKnown(node) || node.localName() == "metaDataProperty") {
         return;
-    for (XmlNode& child : node.children)
+    }
+    for (XmlNode& child : node.children) {
         reorderMembers(child, random);
+    }
     // Elements of an address may alternate.
     if (node.namespaceUri().contains(":xAL:") ||
-        !std::all_of(node.children.begin(), node.children.end(), isKnown))
+        !std::all_of(node.children.begin(), node.children.end(), isKnown)) {
         return;
+    }
     QMap<QString, QVector<XmlNode>> members;
     QStringList order;
     for (const XmlNode& child : node.children) {
@@ -148,8 +160,9 @@ void reorderMembers(XmlNode& node, std::mt19937& random)
     }
     std::shuffle(order.begin(), order.end(), random);
     node.children.clear();
-    for (const QString& top : order)
+    for (const QString& top : order) {
         node.children.append(members[top].takeFirst());
+    }
 }
 
 void removeComments(XmlNode& node)
@@ -159,8 +172,9 @@ void removeComments(XmlNode& node)
     };
     node.children.erase(std::remove_if(node.children.begin(), node.children.end(), isOther),
                         node.children.end());
-    for (XmlNode& child : node.children)
+    for (XmlNode& child : node.children) {
         removeComments(child);
+    }
 }
 
 /// Sorts the children of each element by all that they say.
@@ -171,12 +185,14 @@ QString sortChildren(XmlNode& node)
     for (QString& word : words) {
         bool isNumber = false;
         const double value = word.toDouble(&isNumber);
-        if (isNumber)
+        if (isNumber) {
             word = QString::number(value, 'g', 17);
+        }
     }
     QString result = QString("%1 %2 %3").arg(node.kind).arg(node.name, words.join(' '));
-    for (auto i = node.attributes.begin(); i != node.attributes.end(); ++i)
+    for (auto i = node.attributes.begin(); i != node.attributes.end(); ++i) {
         result += ' ' + i.key() + '=' + i.value();
+    }
     QVector<QPair<QString, XmlNode>> children;
     for (XmlNode& child : node.children) {
         const QString text = sortChildren(child);
@@ -204,10 +220,12 @@ QByteArray toXml(const XmlNode& node)
         break;
     }
     QByteArray content;
-    for (const XmlNode& child : node.children)
+    for (const XmlNode& child : node.children) {
         content += toXml(child);
-    if (node.name.isEmpty())
+    }
+    if (node.name.isEmpty()) {
         return content;
+    }
     // Every element declares what it needs, which also moves the declarations away from the root.
     QByteArray tag = "<e:" + node.localName().toUtf8() + " xmlns:e='" + node.namespaceUri().toUtf8() + '\'';
     int number = 0;
@@ -241,9 +259,10 @@ private slots:
     void comesBack_data()
     {
         QTest::addColumn<QString>("path");
-        for (const QString& path : documents())
+        for (const QString& path : documents()) {
             QTest::newRow(qPrintable(QFileInfo(path).fileName() + ' ' + QFileInfo(path).dir().dirName()))
                 << path;
+        }
     }
     void comesBack()
     {
@@ -268,8 +287,9 @@ private slots:
         std::mt19937 random(20261121);
         XmlNode tree = XmlNode::parse(contentOf(path));
         const QStringList features = listOf(*read(contentOf(path)));
-        for (XmlNode& child : tree.children)
+        for (XmlNode& child : tree.children) {
             addNoise(child, random);
+        }
         const QByteArray noisy = toXml(tree);
         QString error;
         const XmlNode original = XmlNode::parse(noisy, &error);
@@ -286,8 +306,9 @@ private slots:
         QFETCH(QString, path);
         std::mt19937 random(20261121);
         XmlNode original = XmlNode::parse(contentOf(path));
-        for (XmlNode& child : original.children)
+        for (XmlNode& child : original.children) {
             reorder(child, random);
+        }
         const Document document = read(toXml(original));
         // The first name may be another one now.
         const auto features = [](core::CityModelType& model) {
@@ -314,8 +335,9 @@ private slots:
         XmlNode original = XmlNode::parse(contentOf(path));
         removeComments(original);
         XmlNode reordered = original;
-        for (XmlNode& child : reordered.children)
+        for (XmlNode& child : reordered.children) {
             reorderMembers(child, random);
+        }
         QVERIFY(!XmlNode::differences(original, reordered).isEmpty());
         const XmlNode saved = XmlNode::parse(write(*read(toXml(reordered))));
         const QStringList differences = XmlNode::differences(original, saved);
@@ -328,13 +350,15 @@ private slots:
     void rowsAreTheFeaturesOfTheXml()
     {
         QFETCH(QString, path);
-        if (path.startsWith(testpaths::examples()))
+        if (path.startsWith(testpaths::examples())) {
             QSKIP("only for the documents of others");
+        }
         QMap<QString, int> expected, actual;
         countFeatures(XmlNode::parse(contentOf(path)), expected);
         const Document document = read(contentOf(path));
-        for (const QString& line : listOf(*document))
+        for (const QString& line : listOf(*document)) {
             ++actual[line.section(' ', 0, 0)];
+        }
         QCOMPARE(actual, expected);
     }
 
@@ -342,23 +366,27 @@ private slots:
     {
         QSet<QString> found;
         for (const QString& path : documents()) {
-            if (path.startsWith(testpaths::examples()))
+            if (path.startsWith(testpaths::examples())) {
                 collectTypes(*read(contentOf(path)), found);
+            }
         }
         // A type without an element of its own has no place in a document.
         QSet<const schematables::TypeRecord*> elements;
         for (std::size_t i = 0; i < citygml::binding::allElementsCount; ++i) {
-            if (!citygml::binding::allElements[i].isAbstract)
+            if (!citygml::binding::allElements[i].isAbstract) {
                 elements.insert(citygml::binding::allElements[i].type);
+            }
         }
         QStringList missing;
         for (const auto* record : schematables::types()) {
             bool isFeature = false;
-            for (const auto* base = record; base != nullptr; base = base->base)
+            for (const auto* base = record; base != nullptr; base = base->base) {
                 isFeature = isFeature || *base->info == typeid(gml::AbstractFeatureType);
+            }
             const QString name = schematables::className(*record);
-            if (isFeature && !record->isAbstract && elements.contains(record) && !found.contains(name))
+            if (isFeature && !record->isAbstract && elements.contains(record) && !found.contains(name)) {
                 missing << name;
+            }
         }
         QCOMPARE(missing.join(' '), QString());
     }
@@ -409,8 +437,9 @@ private slots:
         QVERIFY(saved.startsWith("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<core:CityModel "));
         QVERIFY(saved.contains(
             "\n  <core:cityObjectMember>\n    <bldg:Building/>\n  </core:cityObjectMember>\n"));
-        for (const tolvik::NamespacesMap& entry : tolvik::CityGmlUtils::getNamespaces())
+        for (const tolvik::NamespacesMap& entry : tolvik::CityGmlUtils::getNamespaces()) {
             QVERIFY2(saved.contains('"' + QByteArray::fromStdString(entry.name) + '"'), entry.name.c_str());
+        }
     }
 
     void keepsWhatTheClassesHaveNoMemberFor_data()
@@ -611,10 +640,11 @@ private slots:
         QFETCH(QString, expected);
         const QString error = errorOf(xml).trimmed();
         const QString start = "document:";
-        if (expected.endsWith(' '))
+        if (expected.endsWith(' ')) {
             QVERIFY2(error.startsWith(start + expected), qPrintable(error));
-        else
+        } else {
             QCOMPARE(error, start + expected);
+        }
     }
 
     void duplicateIdentifiersAreTold()
@@ -653,8 +683,9 @@ private:
         for (; record != nullptr; record = record->base) {
             for (std::size_t i = 0; i < record->memberCount; ++i) {
                 const auto& member = record->members[i];
-                for (std::size_t j = 0; member.type != nullptr && j < member.ops->count(object); ++j)
+                for (std::size_t j = 0; member.type != nullptr && j < member.ops->count(object); ++j) {
                     collectTypes(member.ops->at(object, j), found);
+                }
             }
         }
     }
@@ -675,13 +706,16 @@ private:
                 .split(' ');
         const bool isFeature = node.namespaceUri().startsWith("http://www.opengis.net/citygml/") &&
                                features.contains(node.localName());
-        if (isFeature)
+        if (isFeature) {
             ++counts[node.localName()];
+        }
         // The address of an opening stands below a feature that leads no further.
-        if (node.localName() == "Door" || node.localName() == "Window")
+        if (node.localName() == "Door" || node.localName() == "Window") {
             return;
-        for (const XmlNode& child : node.children)
+        }
+        for (const XmlNode& child : node.children) {
             countFeatures(child, counts);
+        }
     }
 
     log4cplus::Initializer m_logging;

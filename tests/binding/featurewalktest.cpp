@@ -55,8 +55,9 @@ private:
 const TypeRecord* recordNamed(const QString& name)
 {
     for (const TypeRecord* record : schematables::types()) {
-        if (schematables::className(*record) == name)
+        if (schematables::className(*record) == name) {
             return record;
+        }
     }
     return nullptr;
 }
@@ -64,8 +65,9 @@ const TypeRecord* recordNamed(const QString& name)
 QVector<const TypeRecord*> listedTypes()
 {
     QVector<const TypeRecord*> result;
-    for (const QStringList& row : schematables::table("feature_visits.txt"))
+    for (const QStringList& row : schematables::table("feature_visits.txt")) {
         result << recordNamed(row[0].section('_', 0, 0) + "::" + row[0].section('_', 1));
+    }
     return result;
 }
 
@@ -109,8 +111,9 @@ template <typename Features>
 QStringList idsOf(const Features& features)
 {
     QStringList result;
-    for (const auto* feature : features)
+    for (const auto* feature : features) {
         result << QString::fromStdString(*dynamic_cast<const gml::AbstractFeatureType*>(feature)->id());
+    }
     return result;
 }
 
@@ -136,15 +139,18 @@ private slots:
         for (const TypeRecord* type : listedTypes()) {
             const TypeRecord* ownerType = schematables::concrete(type);
             QVERIFY2(ownerType != nullptr, type->name);
-            if (!isFeature(ownerType))
+            if (!isFeature(ownerType)) {
                 continue;
+            }
             for (std::size_t i = 0; i < type->memberCount; ++i) {
                 const Member& member = type->members[i];
-                if (member.isAttribute || member.type == nullptr)
+                if (member.isAttribute || member.type == nullptr) {
                     continue;
+                }
                 for (const TypeRecord* holder = member.type; holder != nullptr; holder = holder->base) {
-                    for (std::size_t j = 0; j < holder->memberCount; ++j)
+                    for (std::size_t j = 0; j < holder->memberCount; ++j) {
                         walked += checkWalk(*ownerType, member, holder->members[j]);
+                    }
                 }
             }
         }
@@ -232,11 +238,13 @@ private:
     /// Puts a feature into a member of an owner and walks; the number of features that had to be met.
     static int checkWalk(const TypeRecord& ownerType, const Member& member, const Member& content)
     {
-        if (content.isAttribute || content.type == nullptr || !isFeature(content.type))
+        if (content.isAttribute || content.type == nullptr || !isFeature(content.type)) {
             return 0;
+        }
         const TypeRecord* featureType = schematables::concrete(content.type);
-        if (featureType == nullptr)
+        if (featureType == nullptr) {
             return 0;
+        }
         const std::unique_ptr<xml_schema::type> owner(ownerType.create());
         xml_schema::type* property = member.type->create();
         xml_schema::type* feature = featureType->create();
@@ -245,8 +253,9 @@ private:
         Recorder visitor;
         visitor.walkChildren = visitor.walkStart = true;
         owner->accept(&visitor);
-        if (visitor.visited.count(feature) != 1)
+        if (visitor.visited.count(feature) != 1) {
             qWarning("%s.%s does not lead to its %s", ownerType.name, member.name, featureType->name);
+        }
         [&] { QCOMPARE(visitor.visited.count(feature), 1); }();
         return 1;
     }

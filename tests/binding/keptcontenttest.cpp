@@ -145,15 +145,18 @@ private slots:
         const QList<QByteArray> edited = write(*document).split('\n');
 
         int first = 0, last = 0;
-        while (first < qMin(original.size(), edited.size()) && original[first] == edited[first])
+        while (first < qMin(original.size(), edited.size()) && original[first] == edited[first]) {
             ++first;
+        }
         while (last < qMin(original.size(), edited.size()) - first &&
-               original[original.size() - 1 - last] == edited[edited.size() - 1 - last])
+               original[original.size() - 1 - last] == edited[edited.size() - 1 - last]) {
             ++last;
+        }
         const auto middle = [&](const QList<QByteArray>& lines) {
             QByteArray text;
-            for (int i = first; i < lines.size() - last; ++i)
+            for (int i = first; i < lines.size() - last; ++i) {
                 text += lines[i].trimmed();
+            }
             return text;
         };
         QCOMPARE(middle(original), before);
@@ -346,9 +349,10 @@ private slots:
         QVERIFY(text.startsWith(QString::fromUtf8(own) + ' '));
         QCOMPARE(text.count("http://www.opengis.net/citygml/2.0 "), 1);
         for (const tolvik::NamespacesMap& entry : tolvik::CityGmlUtils::getNamespaces()) {
-            if (!entry.schemaLocation.empty() && entry.prefix != "core")
+            if (!entry.schemaLocation.empty() && entry.prefix != "core") {
                 QVERIFY2(text.contains(QString::fromStdString(entry.name + ' ' + entry.schemaLocation)),
                          entry.name.c_str());
+            }
         }
         QCOMPARE(write(*read(saved)), saved);
         QVERIFY(!write(*read(cityModel(QByteArray()))).contains("schemaLocation"));
@@ -473,10 +477,12 @@ private slots:
             double value = 0;
             std::memcpy(&value, &bits, sizeof(value));
             // Half of them any number, half of them as in coordinates.
-            if (values.size() % 2 != 0)
+            if (values.size() % 2 != 0) {
                 value = static_cast<double>(static_cast<std::int64_t>(bits % 2000000000)) / 1000;
-            if (!std::isfinite(value))
+            }
+            if (!std::isfinite(value)) {
                 continue;
+            }
             values.push_back(value);
             numbers += QByteArray::number(value, 'e', 17) + ' ';
         }
@@ -491,15 +497,18 @@ private slots:
             const double value = values[static_cast<std::size_t>(i)];
             QCOMPARE(words[i].toDouble(), value);
             int least = 1;
-            while (QByteArray::number(value, 'e', least - 1).toDouble() != value)
+            while (QByteArray::number(value, 'e', least - 1).toDouble() != value) {
                 ++least;
+            }
             QByteArray digits =
                 words[i].left(words[i].indexOf('e') < 0 ? words[i].size() : words[i].indexOf('e'));
             digits.replace("-", "").replace(".", "");
-            while (digits.startsWith('0'))
+            while (digits.startsWith('0')) {
                 digits.remove(0, 1);
-            while (words[i].indexOf('.') < 0 && digits.endsWith('0'))
+            }
+            while (words[i].indexOf('.') < 0 && digits.endsWith('0')) {
                 digits.chop(1);
+            }
             QVERIFY2(digits.size() == least, words[i]);
         }
     }

@@ -56,10 +56,12 @@ QSet<QString> locationsOf(const QByteArray& xml)
             node.attributes.value("{http://www.w3.org/2001/XMLSchema-instance}schemaLocation");
         const QStringList words = text.split(' ');
         QSet<QString> result;
-        for (int i = 0; !text.isEmpty() && i + 1 < words.size(); i += 2)
+        for (int i = 0; !text.isEmpty() && i + 1 < words.size(); i += 2) {
             result.insert(words[i] + ' ' + words[i + 1]);
-        if (!result.isEmpty())
+        }
+        if (!result.isEmpty()) {
             return result;
+        }
     }
     return {};
 }

@@ -50,8 +50,9 @@ private slots:
         for (int line = 1; !file.atEnd(); ++line) {
             QByteArray text = file.readLine();
             text.chop(1);
-            if (text.startsWith('#'))
+            if (text.startsWith('#')) {
                 continue;
+            }
             const std::string document = unpacked(text);
             const std::string problem = tolvik::fuzz::runReaderCase(document);
             QVERIFY2(problem.empty(),

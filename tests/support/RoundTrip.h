@@ -67,10 +67,12 @@ inline QStringList listOf(core::CityModelType& document)
     QStringList result;
     for (const gml::AbstractFeatureType* feature : visitor.getModelFeatures()) {
         QString line = QString::fromStdString(feature->typeLabel);
-        if (feature->id().present())
+        if (feature->id().present()) {
             line += " #" + QString::fromStdString(*feature->id());
-        if (!feature->name().empty())
+        }
+        if (!feature->name().empty()) {
             line += " '" + QString::fromStdString(feature->name().front()) + '\'';
+        }
         result << line;
     }
     return result;

@@ -32,27 +32,31 @@ inline QVector<const TypeRecord*> types()
     QVector<const TypeRecord*> result;
     for (std::size_t i = 0; i < citygml::binding::allTypesCount; ++i) {
         const TypeRecord* record = citygml::binding::allTypes[i];
-        if (record->visit != nullptr)
+        if (record->visit != nullptr) {
             result.append(record);
+        }
     }
     return result;
 }
 
 inline bool isDerived(const TypeRecord* record, const TypeRecord* base)
 {
-    while (record != nullptr && record != base)
+    while (record != nullptr && record != base) {
         record = record->base;
+    }
     return record != nullptr;
 }
 
 /// The record, or a type derived from it of which there can be objects; null if there is none.
 inline const TypeRecord* concrete(const TypeRecord* record)
 {
-    if (!record->isAbstract)
+    if (!record->isAbstract) {
         return record;
+    }
     for (const TypeRecord* candidate : types()) {
-        if (!candidate->isAbstract && isDerived(candidate, record))
+        if (!candidate->isAbstract && isDerived(candidate, record)) {
             return candidate;
+        }
     }
     return nullptr;
 }
@@ -62,11 +66,13 @@ inline QVector<QStringList> table(const QString& name)
 {
     QFile file(testpaths::dataFile(name));
     QVector<QStringList> rows;
-    if (!file.open(QIODevice::ReadOnly))
+    if (!file.open(QIODevice::ReadOnly)) {
         return rows;
+    }
     for (const QString& line : QString::fromUtf8(file.readAll()).split('\n')) {
-        if (!line.isEmpty())
+        if (!line.isEmpty()) {
             rows.append(line.split('\t'));
+        }
     }
     return rows;
 }

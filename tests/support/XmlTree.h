@@ -30,9 +30,10 @@ struct XmlNode
             switch (reader.tokenType()) {
             case QXmlStreamReader::StartElement:
                 node.name = '{' + reader.namespaceUri().toString() + '}' + reader.name();
-                for (const QXmlStreamAttribute& a : reader.attributes())
+                for (const QXmlStreamAttribute& a : reader.attributes()) {
                     node.attributes['{' + a.namespaceUri().toString() + '}' + a.name()] =
                         a.value().toString();
+                }
                 open.last()->children.append(node);
                 open.append(&open.last()->children.last());
                 break;
@@ -60,38 +61,45 @@ struct XmlNode
                 break;
             }
         }
-        if (error != nullptr)
+        if (error != nullptr) {
             *error = reader.errorString();
+        }
         return document;
     }
 
     /// Every difference as a line; numbers are compared by value, white space around values does not count.
     static QStringList differences(const XmlNode& a, const XmlNode& b, const QString& path = QString())
     {
-        if (a.kind != b.kind || a.name != b.name)
+        if (a.kind != b.kind || a.name != b.name) {
             return {QString("%1: %2 became %3").arg(path, a.label(), b.label())};
+        }
         const QString here = path + '/' + a.label();
         QStringList result;
-        if (!isSameValue(a.text, b.text))
+        if (!isSameValue(a.text, b.text)) {
             result << QString("%1: '%2' became '%3'").arg(here, a.text, b.text);
+        }
         for (auto i = a.attributes.begin(); i != a.attributes.end(); ++i) {
-            if (!b.attributes.contains(i.key()))
+            if (!b.attributes.contains(i.key())) {
                 result << QString("%1: lost the attribute %2").arg(here, i.key());
-            else if (!isSchemaLocation(i.key()) && !isSameValue(i.value(), b.attributes[i.key()]))
+            } else if (!isSchemaLocation(i.key()) && !isSameValue(i.value(), b.attributes[i.key()])) {
                 result << QString("%1: %2 '%3' became '%4'")
                               .arg(here, i.key(), i.value(), b.attributes[i.key()]);
+            }
         }
         for (auto i = b.attributes.begin(); i != b.attributes.end(); ++i) {
-            if (!a.attributes.contains(i.key()))
+            if (!a.attributes.contains(i.key())) {
                 result << QString("%1: gained the attribute %2").arg(here, i.key());
+            }
         }
-        if (a.children.size() != b.children.size())
+        if (a.children.size() != b.children.size()) {
             result << QString("%1: %2 children became %3")
                           .arg(here)
                           .arg(a.children.size())
                           .arg(b.children.size());
-        for (int i = 0; i < qMin(a.children.size(), b.children.size()); ++i)
+        }
+        for (int i = 0; i < qMin(a.children.size(), b.children.size()); ++i) {
             result << differences(a.children[i], b.children[i], here);
+        }
         return result;
     }
 
@@ -107,10 +115,11 @@ private:
 
     void addText(const XmlNode& node)
     {
-        if (!children.isEmpty() && children.last().kind == Text)
+        if (!children.isEmpty() && children.last().kind == Text) {
             children.last().text += node.text;
-        else
+        } else {
             children.append(node);
+        }
     }
 
     // Indentation is no content: white space beside elements goes unless there is other text beside them.
@@ -121,12 +130,14 @@ private:
             hasText = hasText || (child.kind == Text && !child.text.trimmed().isEmpty());
             hasElements = hasElements || child.kind != Text;
         }
-        if (hasText && hasElements)
+        if (hasText && hasElements) {
             return;
+        }
         QVector<XmlNode> kept;
         for (const XmlNode& child : children) {
-            if (child.kind != Text || hasText)
+            if (child.kind != Text || hasText) {
                 kept.append(child);
+            }
         }
         children = kept;
     }
@@ -135,16 +146,19 @@ private:
 
     static bool isSameValue(const QString& a, const QString& b)
     {
-        if (a == b)
+        if (a == b) {
             return true;
+        }
         const QStringList wordsOfA = a.simplified().split(' '), wordsOfB = b.simplified().split(' ');
-        if (wordsOfA.size() != wordsOfB.size())
+        if (wordsOfA.size() != wordsOfB.size()) {
             return false;
+        }
         for (int i = 0; i < wordsOfA.size(); ++i) {
             bool isNumberA = false, isNumberB = false;
             const double x = wordsOfA[i].toDouble(&isNumberA), y = wordsOfB[i].toDouble(&isNumberB);
-            if (wordsOfA[i] != wordsOfB[i] && !(isNumberA && isNumberB && x == y))
+            if (wordsOfA[i] != wordsOfB[i] && !(isNumberA && isNumberB && x == y)) {
                 return false;
+            }
         }
         return true;
     }
