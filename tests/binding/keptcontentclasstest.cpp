@@ -1,6 +1,7 @@
 #include "platform/binding/kept/KeptContent.h"
 
 #include "gml/CodeType.hxx"
+#include "support/TestClass.h"
 
 #include <QStringList>
 #include <QtTest>
@@ -297,5 +298,5 @@ private:
     }
 };
 
-QTEST_APPLESS_MAIN(KeptContentClassTest)
+TEST_CLASS(KeptContentClassTest, None)
 #include "keptcontentclasstest.moc"

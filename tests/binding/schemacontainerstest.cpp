@@ -3,10 +3,13 @@
 #include "bldg/BuildingType.hxx"
 #include "gml/CodeType.hxx"
 #include "gml/StringOrRefType.hxx"
+#include "support/TestClass.h"
 
 #include <QtTest>
 #include <string>
 #include <vector>
+
+using namespace testsupport;
 
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations" // std::auto_ptr, which the schema classes speak
 
@@ -328,5 +331,5 @@ void SchemaContainersTest::identifiersFollowTheirObjects()
     QCOMPARE(std::string(*copy.id()), std::string("i"));
 }
 
-QTEST_APPLESS_MAIN(SchemaContainersTest)
+TEST_CLASS(SchemaContainersTest, None)
 #include "schemacontainerstest.moc"

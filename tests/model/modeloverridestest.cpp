@@ -4,7 +4,9 @@
 #include "framework/OperationListener.h"
 #include "framework/OperationStatus.h"
 #include "support/CityGMLModelFixture.h"
+#include "support/Files.h"
 #include "support/SignalRecorder.h"
+#include "support/TestClass.h"
 
 #include <chrono>
 #include <QBuffer>
@@ -12,6 +14,8 @@
 #include <QtTest>
 #include <stdexcept>
 #include <thread>
+
+using namespace testsupport;
 
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations" // std::auto_ptr, which the schema classes speak
 
@@ -95,9 +99,6 @@ private:
 class ModelOverridesTest : public QObject
 {
     Q_OBJECT
-
-private:
-    log4cplus::Initializer logging;
 
 private slots:
     void oneRow()
@@ -198,7 +199,7 @@ private slots:
 
     void aLoadLeavesTheMarkAlone()
     {
-        LogCapture log;
+        ModelLog log;
         const QTemporaryDir directory;
         const QString path = directory.filePath("town.gml");
         QVERIFY(writeFile(path, town(1)));
@@ -235,5 +236,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(ModelOverridesTest)
+TEST_CLASS(ModelOverridesTest, Widgets)
 #include "modeloverridestest.moc"

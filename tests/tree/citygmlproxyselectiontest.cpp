@@ -1,4 +1,5 @@
 #include "support/CityGMLTreeFixture.h"
+#include "support/TestClass.h"
 
 #include <memory>
 #include <QAction>
@@ -6,6 +7,8 @@
 #include <QItemSelectionModel>
 #include <QMimeData>
 #include <QtTest>
+
+using namespace testsupport;
 
 using tolvik::CityGMLProxyModel;
 using tolvik::TreeNode;
@@ -314,5 +317,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(CityGMLProxySelectionTest)
+TEST_CLASS(CityGMLProxySelectionTest, Widgets)
 #include "citygmlproxyselectiontest.moc"
