@@ -1,6 +1,4 @@
 #include "framework/ModelInterface.h"
-#include "framework/OperationListener.h"
-#include "framework/OperationStatus.h"
 #include "support/CityGMLModelFixture.h"
 #include "support/OperationRecorder.h"
 #include "support/SignalRecorder.h"

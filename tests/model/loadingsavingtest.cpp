@@ -1,5 +1,3 @@
-#include "framework/OperationListener.h"
-#include "framework/OperationStatus.h"
 #include "support/CityGMLModelFixture.h"
 #include "support/Files.h"
 #include "support/OperationRecorder.h"

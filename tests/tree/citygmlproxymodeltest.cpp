@@ -1,5 +1,3 @@
-#include "framework/OperationListener.h"
-#include "framework/OperationStatus.h"
 #include "support/CityGMLTreeFixture.h"
 #include "support/OperationRecorder.h"
 #include "support/TestClass.h"
