@@ -1,17 +1,21 @@
-#include "support/SchemaTables.h"
+#include "support/SchemaObjects.h"
 
 #include "bldg/BuildingType.hxx"
 #include "citygml/CityGMLInheritVisitor.h"
 #include "core/CityModelType.hxx"
 #include "gml/CodeType.hxx"
+#include "support/Symbols.h"
+#include "support/Tables.h"
+#include "support/TestClass.h"
 #include "support/TestPaths.h"
 
 #include <QMap>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QtTest>
 
 #include <memory>
+
+using namespace testsupport;
 
 namespace {
 
@@ -44,24 +48,18 @@ class Castle : public bldg::BuildingType
 {
 };
 
-/// For values without qualified names.
-class NoNames : public citygml::binding::NameScope
-{
-public:
-    std::string namespaceOf(std::string_view) const override { return std::string(); }
-    std::string prefixOf(const std::string&) const override { return std::string(); }
-};
-
 QStringList operationsOf(const QString& visitor)
 {
-    QFile file(testpaths::generatedCode() + "/citygml/" + visitor + ".h");
-    if (!file.open(QIODevice::ReadOnly))
+    QFile file(generatedCode() + "/citygml/" + visitor + ".h");
+    if (!file.open(QIODevice::ReadOnly)) {
         return QStringList();
+    }
     QStringList result;
     auto matches =
         QRegularExpression("bool visit_(\\w+)\\(([\\w:]+)\\* object\\)").globalMatch(file.readAll());
-    while (matches.hasNext())
+    while (matches.hasNext()) {
         result << matches.next().captured(1);
+    }
     return result;
 }
 
@@ -84,8 +82,9 @@ private slots:
         QFETCH(QString, visitor);
         const QStringList operations = operationsOf(visitor);
         QStringList expected;
-        for (const QStringList& row : schematables::table("types.tsv").mid(1))
-            expected << row[0] + '_' + row[1];
+        for (const TableRow& row : readTable("types.tsv")) {
+            expected << row.value("prefix") + '_' + row.value("class");
+        }
         QCOMPARE(expected.size(), 1340);
         QStringList sorted = operations;
         sorted.sort();
@@ -104,44 +103,41 @@ private slots:
         const QStringList operations = operationsOf("CityGMLBaseVisitor");
         int at = 0;
         for (const auto& entry : table) {
-            for (int i = 0; i < entry.second; ++i, ++at)
+            for (int i = 0; i < entry.second; ++i, ++at) {
                 QVERIFY2(operations.value(at).startsWith(entry.first + '_'),
                          qPrintable(operations.value(at)));
+            }
         }
         QCOMPARE(operations.size(), at);
     }
 
     void theLibraryHasTheOperations()
     {
-        QProcess nm;
-        nm.start("nm", {"-D", "--defined-only", "-C", testpaths::library("CityGMLBinding")});
-        QVERIFY(nm.waitForFinished());
-        const QString symbols = nm.readAllStandardOutput();
-        int count = 0;
-        auto matches =
-            QRegularExpression(" T citygml::CityGMLInheritVisitor::visit_\\w+\\(").globalMatch(symbols);
-        for (; matches.hasNext(); matches.next())
-            ++count;
-        QCOMPARE(count, 1340);
+        const QStringList operations =
+            exportedSymbols("CityGMLBinding")
+                .filter(QRegularExpression("^_ZN7citygml21CityGMLInheritVisitor\\d+visit_"));
+        QCOMPARE(operations.size(), 1340);
     }
 
     void basesAreThoseOfTheTypes()
     {
-        QMap<QString, const schematables::TypeRecord*> records;
-        for (const auto* record : schematables::types())
-            records[schematables::className(*record)] = record;
+        QMap<QString, const TypeRecord*> records;
+        for (const auto* record : schemaTypes()) {
+            records[className(record)] = record;
+        }
         QCOMPARE(records.size(), 1340);
         int compared = 0;
-        for (const QStringList& row : schematables::table("types.tsv").mid(1)) {
-            const QString name = (row[0] == "namespace" ? "namespace_" : row[0]) + "::" + row[1];
+        for (const TableRow& row : readTable("types.tsv")) {
+            const QString name = (row.value("prefix") == "namespace" ? "namespace_" : row.value("prefix")) +
+                                 "::" + row.value("class");
             QVERIFY2(records.contains(name), qPrintable(name));
-            const QString base = row.value(3);
+            const QString base = row.value("base");
             const auto* record = records[name];
             if (base.startsWith("xml_schema::")) {
                 QVERIFY2(record->base == nullptr, qPrintable(name));
             } else if (base.contains("::")) {
                 QVERIFY2(record->base != nullptr, qPrintable(name));
-                QCOMPARE(schematables::className(*record->base), base);
+                QCOMPARE(className(record->base), base);
             } else {
                 continue;
             }
@@ -152,12 +148,13 @@ private slots:
 
     void everyObjectNamesItsKindAndTakesAVisitor()
     {
-        for (const auto* record : schematables::types()) {
+        for (const auto* record : schemaTypes()) {
             const std::unique_ptr<xml_schema::type> object(record->create());
             QCOMPARE(citygml::binding::recordOf(*object), record);
-            QString label = schematables::className(*record).section("::", 1);
-            if (label.endsWith("Type") && label.size() > 4)
+            QString label = className(record).section("::", 1);
+            if (label.endsWith("Type") && label.size() > 4) {
                 label.chop(4);
+            }
             QCOMPARE(QString::fromStdString(object->typeLabel), label);
             citygml::CityGMLInheritVisitor visitor;
             QVERIFY(object->accept(&visitor));
@@ -169,15 +166,17 @@ private slots:
     void literalsAreThoseOfTheTable()
     {
         QMap<QString, QStringList> expected, actual;
-        for (const QStringList& row : schematables::table("enumerations.tsv").mid(1)) {
-            QCOMPARE(row[1].toInt(), expected[row[0]].size());
-            expected[row[0]] << row[2];
+        for (const TableRow& row : readTable("enumerations.tsv")) {
+            QStringList& literals = expected[row.value("type")];
+            QCOMPARE(row.value("number").toInt(), literals.size());
+            literals << row.value("literal");
         }
         QCOMPARE(expected.size(), 103);
-        for (const auto* record : schematables::types()) {
-            const QString name = schematables::className(*record);
-            for (std::size_t i = 0; expected.contains(name) && i < record->literalCount; ++i)
+        for (const auto* record : schemaTypes()) {
+            const QString name = className(record);
+            for (std::size_t i = 0; expected.contains(name) && i < record->literalCount; ++i) {
                 actual[name] << QString::fromUtf8(record->literals[i]);
+            }
         }
         QCOMPARE(actual, expected);
     }
@@ -186,7 +185,7 @@ private slots:
     {
         const NoNames names;
         int literals = 0;
-        for (const auto* record : schematables::types()) {
+        for (const auto* record : schemaTypes()) {
             for (std::size_t i = 0; i < record->literalCount; ++i, ++literals) {
                 const std::unique_ptr<xml_schema::type> object(record->create());
                 record->text->parse(*object, record->literals[i], names);
@@ -240,5 +239,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(BindingTest)
+TEST_CLASS(BindingTest, Core)
 #include "bindingtest.moc"

@@ -1,41 +1,29 @@
 #include "support/FaultDocuments.h"
-#include "support/RoundTrip.h"
+#include "support/Documents.h"
 #include "support/SchemaValidator.h"
+#include "support/TestClass.h"
 #include "support/TestPaths.h"
 #include "support/XmlTree.h"
 
-#include <log4cplus/initializer.h>
-#include <log4cplus/logger.h>
-#include <log4cplus/nullappender.h>
 #include <QtTest>
 
 using namespace faults;
+using faults::Document;
+using testsupport::readStrictly;
+using testsupport::schemas;
+using testsupport::SchemaValidator;
+using testsupport::strictErrorOf;
+using testsupport::write;
+using testsupport::XmlNode;
 
 namespace {
 
 /// Of each kind of place and value: enough to see faults of every kind, and few enough for every run.
 constexpr int documentsPerPlace = 2;
 
-roundtrip::Document readStrictly(const QByteArray& xml)
-{
-    std::istringstream stream(xml.toStdString());
-    return roundtrip::Document(core::CityModel(stream, 0).release());
-}
-
-/// What reading without allowance for faults reports; empty if it succeeds.
-QString strictErrorOf(const QByteArray& xml)
-{
-    try {
-        readStrictly(xml);
-    } catch (const xsd::cxx::tree::exception<char>& error) {
-        return roundtrip::printed(error);
-    }
-    return QString();
-}
-
 QStringList differencesAfterSave(const QByteArray& xml)
 {
-    return XmlNode::differences(XmlNode::parse(xml), XmlNode::parse(roundtrip::write(*readStrictly(xml))));
+    return XmlNode::differences(XmlNode::parse(xml), XmlNode::parse(write(*readStrictly(xml))));
 }
 
 /// Collects what went wrong with many documents and shows the first.
@@ -67,8 +55,7 @@ class FaultDocumentsTest : public QObject
 private slots:
     void initTestCase()
     {
-        log4cplus::Logger::getRoot().addAppender(log4cplus::SharedAppenderPtr(new log4cplus::NullAppender));
-        const Generator generator(testpaths::schemas());
+        const Generator generator(schemas());
         generator.generate(documentsPerPlace, qEnvironmentVariableIsSet("TOLVIK_LONG_RUNS"),
                            [this](const Document& document) { documents.append(document); });
         QSet<QByteArray> seen;
@@ -128,7 +115,7 @@ private slots:
 
     void documentsWithoutFaultAreValid()
     {
-        SchemaValidator validator(testpaths::schemas());
+        SchemaValidator validator(schemas());
         Complaints complaints;
         for (const Document& document : qAsConst(faultless)) {
             const QString error = validator.validate(document.faultless);
@@ -141,7 +128,7 @@ private slots:
 
     void documentsWithFaultAreNot()
     {
-        SchemaValidator validator(testpaths::schemas());
+        SchemaValidator validator(schemas());
         Complaints complaints;
         for (const Document& document : qAsConst(documents)) {
             if (validator.validate(document.faulty).isEmpty()) {
@@ -209,11 +196,10 @@ private:
         }
     }
 
-    log4cplus::Initializer logging;
     QVector<Document> documents;
     /// One of those that are made of the same document without fault.
     QVector<Document> faultless;
 };
 
-QTEST_GUILESS_MAIN(FaultDocumentsTest)
+TEST_CLASS(FaultDocumentsTest, Core)
 #include "faultdocumentstest.moc"

@@ -1,9 +1,13 @@
-#include "support/SchemaTables.h"
+#include "support/SchemaObjects.h"
 
 #include "citygml/CityGMLFeaturesFillVisitor.h"
 #include "citygml/CityModel.h"
 #include "gml/AbstractFeatureType.hxx"
 #include "gml/FeaturePropertyType.hxx"
+#include "support/Documents.h"
+#include "support/Files.h"
+#include "support/TestClass.h"
+#include "support/TestPaths.h"
 
 #include <QtTest>
 
@@ -11,10 +15,9 @@
 #include <sstream>
 #include <stdexcept>
 
-namespace {
+using namespace testsupport;
 
-using schematables::Member;
-using schematables::TypeRecord;
+namespace {
 
 class Recorder : public tolvik::CityGMLFeaturesVisitor
 {
@@ -52,42 +55,17 @@ private:
     QStringList refused;
 };
 
-const TypeRecord* recordNamed(const QString& name)
-{
-    for (const TypeRecord* record : schematables::types()) {
-        if (schematables::className(*record) == name)
-            return record;
-    }
-    return nullptr;
-}
-
 QVector<const TypeRecord*> listedTypes()
 {
     QVector<const TypeRecord*> result;
-    for (const QStringList& row : schematables::table("feature_visits.txt"))
-        result << recordNamed(row[0].section('_', 0, 0) + "::" + row[0].section('_', 1));
+    const QString names = QString::fromUtf8(contentOf(dataFile("feature_visits.txt")));
+    for (const QString& name : names.split('\n', Qt::SkipEmptyParts)) {
+        result << recordByClass(name.section('_', 0, 0) + "::" + name.section('_', 1));
+    }
     return result;
 }
 
-bool isFeature(const TypeRecord* record)
-{
-    return schematables::isDerived(record, recordNamed("gml::AbstractFeatureType"));
-}
-
-std::unique_ptr<core::CityModelType> read(const char* xml)
-{
-    std::istringstream stream(
-        std::string("<core:CityModel xmlns:core='http://www.opengis.net/citygml/2.0' "
-                    "xmlns:gml='http://www.opengis.net/gml'"
-                    " xmlns:bldg='http://www.opengis.net/citygml/building/2.0'"
-                    " xmlns:app='http://www.opengis.net/citygml/appearance/2.0'"
-                    " xmlns:xAL='urn:oasis:names:tc:ciq:xsdschema:xAL:2.0'"
-                    " xmlns:grp='http://www.opengis.net/citygml/cityobjectgroup/2.0' gml:id='root'>") +
-        xml + "</core:CityModel>");
-    return std::unique_ptr<core::CityModelType>(core::CityModel(stream).release());
-}
-
-constexpr const char* house =
+const QByteArray house =
     "<core:cityObjectMember><bldg:Building gml:id='house'>"
     "<app:appearance><app:Appearance gml:id='look'><app:surfaceDataMember><app:X3DMaterial gml:id='paint'/>"
     "</app:surfaceDataMember></app:Appearance></app:appearance>"
@@ -109,8 +87,9 @@ template <typename Features>
 QStringList idsOf(const Features& features)
 {
     QStringList result;
-    for (const auto* feature : features)
+    for (const auto* feature : features) {
         result << QString::fromStdString(*dynamic_cast<const gml::AbstractFeatureType*>(feature)->id());
+    }
     return result;
 }
 
@@ -134,17 +113,20 @@ private slots:
     {
         int walked = 0;
         for (const TypeRecord* type : listedTypes()) {
-            const TypeRecord* ownerType = schematables::concrete(type);
+            const TypeRecord* ownerType = concrete(type);
             QVERIFY2(ownerType != nullptr, type->name);
-            if (!isFeature(ownerType))
+            if (!isFeature(ownerType)) {
                 continue;
+            }
             for (std::size_t i = 0; i < type->memberCount; ++i) {
                 const Member& member = type->members[i];
-                if (member.isAttribute || member.type == nullptr)
+                if (member.isAttribute || member.type == nullptr) {
                     continue;
+                }
                 for (const TypeRecord* holder = member.type; holder != nullptr; holder = holder->base) {
-                    for (std::size_t j = 0; j < holder->memberCount; ++j)
+                    for (std::size_t j = 0; j < holder->memberCount; ++j) {
                         walked += checkWalk(*ownerType, member, holder->members[j]);
+                    }
                 }
             }
         }
@@ -153,7 +135,7 @@ private slots:
 
     void aDeepWalkListsTheDocumentInItsOrder()
     {
-        const auto document = read(house);
+        const auto document = readStrictly(documentText(house, " gml:id='root'"));
         tolvik::CityGMLFeaturesFillVisitor visitor;
         QVERIFY(document->accept(&visitor));
         QCOMPARE(idsOf(visitor.getModelFeatures()),
@@ -166,7 +148,7 @@ private slots:
 
     void aWalkFromAStartGoesOneLevelDown()
     {
-        const auto document = read(house);
+        const auto document = readStrictly(documentText(house, " gml:id='root'"));
         auto& building = *document->featureMember().front()._Feature();
         Recorder visitor;
         visitor.walkChildren = visitor.walkStart = true;
@@ -177,7 +159,7 @@ private slots:
 
     void withoutChildrenAVisitStaysInside()
     {
-        const auto document = read(house);
+        const auto document = readStrictly(documentText(house, " gml:id='root'"));
         for (const bool start : {true, false}) {
             Recorder visitor;
             visitor.walkChildren = false;
@@ -189,7 +171,7 @@ private slots:
 
     void belowARefusedFeatureNothingIsWalked()
     {
-        const auto document = read(house);
+        const auto document = readStrictly(documentText(house, " gml:id='root'"));
         Refusing visitor({"wall", "group"});
         QVERIFY(document->accept(&visitor));
         QCOMPARE(visitor.visited,
@@ -198,7 +180,7 @@ private slots:
 
     void anotherWalkDoesNotGoOnWithARefusedFeature()
     {
-        const auto document = read(house);
+        const auto document = readStrictly(documentText(house, " gml:id='root'"));
         Refusing visitor({"house", "look"});
         QVERIFY(!document->featureMember().front()._Feature()->accept(&visitor));
         QCOMPARE(visitor.visited, QStringList("house"));
@@ -206,7 +188,11 @@ private slots:
         QVERIFY(document->featureMember().back()._Feature()->accept(&visitor));
         QCOMPARE(visitor.visited, QStringList({"group", "member"}));
         // Nor does it read what is gone.
-        QVERIFY(!read(house)->featureMember().front()._Feature()->accept(&visitor));
+        QVERIFY(!readStrictly(documentText(house, " gml:id='root'"))
+                     ->featureMember()
+                     .front()
+                     ._Feature()
+                     ->accept(&visitor));
         visitor.visited.clear();
         QVERIFY(document->accept(&visitor));
         QCOMPARE(visitor.visited, QStringList({"root", "house", "second", "group", "member"}));
@@ -214,7 +200,7 @@ private slots:
 
     void anotherWalkDoesNotGoOnWithAnEndedOne()
     {
-        const auto document = read(house);
+        const auto document = readStrictly(documentText(house, " gml:id='root'"));
         Refusing visitor({});
         visitor.throwsAt = "wall";
         QVERIFY_EXCEPTION_THROWN(document->accept(&visitor), std::runtime_error);
@@ -232,11 +218,13 @@ private:
     /// Puts a feature into a member of an owner and walks; the number of features that had to be met.
     static int checkWalk(const TypeRecord& ownerType, const Member& member, const Member& content)
     {
-        if (content.isAttribute || content.type == nullptr || !isFeature(content.type))
+        if (content.isAttribute || content.type == nullptr || !isFeature(content.type)) {
             return 0;
-        const TypeRecord* featureType = schematables::concrete(content.type);
-        if (featureType == nullptr)
+        }
+        const TypeRecord* featureType = concrete(content.type);
+        if (featureType == nullptr) {
             return 0;
+        }
         const std::unique_ptr<xml_schema::type> owner(ownerType.create());
         xml_schema::type* property = member.type->create();
         xml_schema::type* feature = featureType->create();
@@ -245,12 +233,13 @@ private:
         Recorder visitor;
         visitor.walkChildren = visitor.walkStart = true;
         owner->accept(&visitor);
-        if (visitor.visited.count(feature) != 1)
+        if (visitor.visited.count(feature) != 1) {
             qWarning("%s.%s does not lead to its %s", ownerType.name, member.name, featureType->name);
+        }
         [&] { QCOMPARE(visitor.visited.count(feature), 1); }();
         return 1;
     }
 };
 
-QTEST_GUILESS_MAIN(FeatureWalkTest)
+TEST_CLASS(FeatureWalkTest, Core)
 #include "featurewalktest.moc"

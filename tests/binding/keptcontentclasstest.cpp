@@ -2,6 +2,7 @@
 
 #include "gml/CodeType.hxx"
 #include "gml/FeaturePropertyType.hxx"
+#include "support/TestClass.h"
 
 #include <QStringList>
 #include <QtTest>
@@ -312,5 +313,5 @@ private:
     }
 };
 
-QTEST_APPLESS_MAIN(KeptContentClassTest)
+TEST_CLASS(KeptContentClassTest, None)
 #include "keptcontentclasstest.moc"

@@ -1,4 +1,5 @@
-#include "support/RoundTrip.h"
+#include "citygml/CityGmlUtils.h"
+#include "support/Documents.h"
 #include "support/XmlTree.h"
 
 #include "bldg/BuildingType.hxx"
@@ -14,36 +15,20 @@
 #include "gml/PolygonType.hxx"
 #include "gml/StringOrRefType.hxx"
 #include "gml/SurfacePropertyType.hxx"
+#include "support/LogRecorder.h"
+#include "support/TestClass.h"
 
-#include <log4cplus/initializer.h>
 #include <QtTest>
 
 #include <cstring>
 #include <functional>
 #include <random>
 
-using namespace roundtrip;
+using namespace testsupport;
 
 namespace {
 
 using Edit = std::function<void(bldg::BuildingType&)>;
-
-QByteArray cityModel(const QByteArray& content, const QByteArray& attributes = QByteArray())
-{
-    return "<core:CityModel xmlns:core='http://www.opengis.net/citygml/2.0'"
-           " xmlns:gml='http://www.opengis.net/gml' xmlns:bldg='http://www.opengis.net/citygml/building/2.0'"
-           " xmlns:gen='http://www.opengis.net/citygml/generics/2.0'"
-           " xmlns:app='http://www.opengis.net/citygml/appearance/2.0'"
-           " xmlns:xlink='http://www.w3.org/1999/xlink'"
-           " xmlns:xsi='http://www.w3.org/2001/XMLSchema-instance' xmlns:x='urn:unknown'" +
-           attributes + '>' + content + "</core:CityModel>";
-}
-
-QByteArray building(const QByteArray& content, const QByteArray& id = "b")
-{
-    return "<core:cityObjectMember><bldg:Building gml:id='" + id + "'>" + content +
-           "</bldg:Building></core:cityObjectMember>";
-}
 
 /// Buildings with unknown content between all that is known.
 QByteArray city(int count)
@@ -51,7 +36,7 @@ QByteArray city(int count)
     QByteArray members;
     for (int i = 0; i < count; ++i) {
         const QByteArray number = QByteArray::number(i);
-        members += building(
+        members += buildingMember(
             "<!--of the register-->"
             "<gml:name x:since='1998'>House " +
                 number +
@@ -71,7 +56,7 @@ QByteArray city(int count)
                 "<x:inspected>2026</x:inspected>",
             "b" + number);
     }
-    return cityModel(members);
+    return documentText(members);
 }
 
 bldg::BuildingType& buildingOf(core::CityModelType& document, std::size_t number = 0)
@@ -88,9 +73,9 @@ std::vector<double> cornerOf(core::CityModelType& document)
 
 QByteArray withCorner(const QByteArray& numbers)
 {
-    return cityModel(building("<gml:boundedBy><gml:Envelope><gml:lowerCorner>" + numbers +
-                              "</gml:lowerCorner><gml:upperCorner>0</gml:upperCorner></gml:Envelope>"
-                              "</gml:boundedBy>"));
+    return documentText(buildingMember("<gml:boundedBy><gml:Envelope><gml:lowerCorner>" + numbers +
+                                       "</gml:lowerCorner><gml:upperCorner>0</gml:upperCorner></gml:Envelope>"
+                                       "</gml:boundedBy>"));
 }
 
 } // namespace
@@ -145,15 +130,18 @@ private slots:
         const QList<QByteArray> edited = write(*document).split('\n');
 
         int first = 0, last = 0;
-        while (first < qMin(original.size(), edited.size()) && original[first] == edited[first])
+        while (first < qMin(original.size(), edited.size()) && original[first] == edited[first]) {
             ++first;
+        }
         while (last < qMin(original.size(), edited.size()) - first &&
-               original[original.size() - 1 - last] == edited[edited.size() - 1 - last])
+               original[original.size() - 1 - last] == edited[edited.size() - 1 - last]) {
             ++last;
+        }
         const auto middle = [&](const QList<QByteArray>& lines) {
             QByteArray text;
-            for (int i = first; i < lines.size() - last; ++i)
+            for (int i = first; i < lines.size() - last; ++i) {
                 text += lines[i].trimmed();
+            }
             return text;
         };
         QCOMPARE(middle(original), before);
@@ -169,7 +157,7 @@ private slots:
             "<bldg:lod0FootPrint><gml:MultiSurface><gml:surfaceMember><gml:Polygon>"
             "<gml:exterior><gml:LinearRing>%1</gml:LinearRing></gml:exterior></gml:Polygon>"
             "</gml:surfaceMember></gml:MultiSurface></bldg:lod0FootPrint>";
-        const QByteArray original = cityModel(building(
+        const QByteArray original = documentText(buildingMember(
             "<x:a/>" +
             QByteArray(ring).replace("%1", "<gml:pos>0 0</gml:pos><!--one--><gml:pointRep xlink:href='#p'/>"
                                            "<x:two/><gml:pos>1 1</gml:pos><!--three--><gml:pos>2 2</gml:pos>"
@@ -194,10 +182,10 @@ private slots:
     // The one that was read as the value is the first one in the new file too.
     void oneTooManyStaysBehindTheFirst()
     {
-        const QByteArray original = cityModel(
-            building("<bldg:roofType>1</bldg:roofType><bldg:class>2</bldg:class><gml:name>n</gml:name>"
-                     "<bldg:roofType>3</bldg:roofType><bldg:storeysAboveGround>4</bldg:storeysAboveGround>"
-                     "<bldg:class>5</bldg:class>"));
+        const QByteArray original = documentText(buildingMember(
+            "<bldg:roofType>1</bldg:roofType><bldg:class>2</bldg:class><gml:name>n</gml:name>"
+            "<bldg:roofType>3</bldg:roofType><bldg:storeysAboveGround>4</bldg:storeysAboveGround>"
+            "<bldg:class>5</bldg:class>"));
         const QByteArray saved = write(*read(original));
         QCOMPARE(QString::fromStdString(*buildingOf(*read(saved)).roofType()), QString("1"));
         QCOMPARE(QString::fromStdString(*buildingOf(*read(saved)).class_()), QString("2"));
@@ -210,21 +198,22 @@ private slots:
     {
         QTest::addColumn<QByteArray>("content");
         QTest::newRow("date with zone")
-            << building("<core:creationDate>2009-04-02+00:00</core:creationDate>");
+            << buildingMember("<core:creationDate>2009-04-02+00:00</core:creationDate>");
         QTest::newRow("date of another zone")
-            << building("<core:creationDate>2009-04-02+01:30</core:creationDate>");
-        QTest::newRow("year") << building("<bldg:yearOfConstruction>1900+00:00</bldg:yearOfConstruction>");
+            << buildingMember("<core:creationDate>2009-04-02+01:30</core:creationDate>");
+        QTest::newRow("year") << buildingMember(
+            "<bldg:yearOfConstruction>1900+00:00</bldg:yearOfConstruction>");
         QTest::newRow("boolean") << QByteArray(
             "<app:appearanceMember><app:Appearance><app:surfaceDataMember><app:X3DMaterial>"
             "<app:isFront>1</app:isFront><app:isSmooth>0</app:isSmooth></app:X3DMaterial>"
             "</app:surfaceDataMember></app:Appearance></app:appearanceMember>");
-        QTest::newRow("date attribute") << building(
+        QTest::newRow("date attribute") << buildingMember(
             "<gen:dateAttribute name='d'><gen:value>2009-04-02-00:00</gen:value></gen:dateAttribute>");
     }
     void otherSpellingsComeBack()
     {
         QFETCH(QByteArray, content);
-        const QByteArray original = cityModel(content);
+        const QByteArray original = documentText(content);
         const QByteArray saved = write(*read(original));
         QCOMPARE(XmlNode::differences(XmlNode::parse(original), XmlNode::parse(saved)), QStringList());
         QCOMPARE(write(*read(saved)), saved);
@@ -233,7 +222,7 @@ private slots:
     void aNewValueIsNotSpelledLikeTheOldOne()
     {
         const Document document =
-            read(cityModel(building("<core:creationDate>2009-04-02+00:00</core:creationDate>")));
+            read(documentText(buildingMember("<core:creationDate>2009-04-02+00:00</core:creationDate>")));
         buildingOf(*document).creationDate()->day(3);
         QVERIFY(write(*document).contains("<core:creationDate>2009-04-03Z</core:creationDate>"));
     }
@@ -241,17 +230,17 @@ private slots:
     void elementsWithinValuesComeBack_data()
     {
         QTest::addColumn<QByteArray>("content");
-        QTest::newRow("text") << building("<gml:name>ab<x:a/>cd<x:b>in</x:b></gml:name>");
-        QTest::newRow("text of many bytes") << building("<gml:name>\u00e4<x:a/>\u20ac</gml:name>");
+        QTest::newRow("text") << buildingMember("<gml:name>ab<x:a/>cd<x:b>in</x:b></gml:name>");
+        QTest::newRow("text of many bytes") << buildingMember("<gml:name>\u00e4<x:a/>\u20ac</gml:name>");
         QTest::newRow("in front of a number")
-            << building("<bldg:measuredHeight uom='m'><x:a/>12.50</bldg:measuredHeight>");
+            << buildingMember("<bldg:measuredHeight uom='m'><x:a/>12.50</bldg:measuredHeight>");
         QTest::newRow("behind a number")
-            << building("<bldg:measuredHeight uom='m'>12.50<x:a/></bldg:measuredHeight>");
-        QTest::newRow("plain value") << building(
+            << buildingMember("<bldg:measuredHeight uom='m'>12.50<x:a/></bldg:measuredHeight>");
+        QTest::newRow("plain value") << buildingMember(
             "<bldg:storeysAboveGround x:b='1'>2<x:a/></bldg:storeysAboveGround>");
         QTest::newRow("in front of a plain value")
-            << building("<bldg:storeysAboveGround><x:a/>2</bldg:storeysAboveGround>");
-        QTest::newRow("list") << building(
+            << buildingMember("<bldg:storeysAboveGround><x:a/>2</bldg:storeysAboveGround>");
+        QTest::newRow("list") << buildingMember(
             "<bldg:lod1MultiCurve><gml:MultiCurve/></bldg:lod1MultiCurve>"
             "<gml:boundedBy><gml:Envelope><gml:lowerCorner>1 2<x:a/></gml:lowerCorner>"
             "<gml:upperCorner><x:b/>3 4</gml:upperCorner></gml:Envelope></gml:boundedBy>");
@@ -259,7 +248,7 @@ private slots:
     void elementsWithinValuesComeBack()
     {
         QFETCH(QByteArray, content);
-        const QByteArray original = cityModel(content);
+        const QByteArray original = documentText(content);
         const QByteArray saved = write(*read(original));
         const auto sorted = [](XmlNode tree) {
             auto& children = tree.children[0].children[0].children[0].children;
@@ -274,10 +263,10 @@ private slots:
 
     void nilValues()
     {
-        const QByteArray original =
-            cityModel(building("<gen:intAttribute name='i'><gen:value xsi:nil='true'/></gen:intAttribute>"
-                               "<x:a/><bldg:storeysAboveGround xsi:nil='1' nilReason='unknown'/><x:b/>"
-                               "<bldg:storeysBelowGround xsi:nil='true'><x:c/></bldg:storeysBelowGround>"));
+        const QByteArray original = documentText(
+            buildingMember("<gen:intAttribute name='i'><gen:value xsi:nil='true'/></gen:intAttribute>"
+                           "<x:a/><bldg:storeysAboveGround xsi:nil='1' nilReason='unknown'/><x:b/>"
+                           "<bldg:storeysBelowGround xsi:nil='true'><x:c/></bldg:storeysBelowGround>"));
         const Document document = read(original);
         QVERIFY(!buildingOf(*document).storeysAboveGround().present());
         const QByteArray saved = write(*document);
@@ -294,8 +283,8 @@ private slots:
     void aValueBehindANilOneIsKept()
     {
         const QByteArray original =
-            cityModel(building("<bldg:storeysAboveGround xsi:nil='true'/>"
-                               "<bldg:storeysAboveGround>3</bldg:storeysAboveGround>"));
+            documentText(buildingMember("<bldg:storeysAboveGround xsi:nil='true'/>"
+                                        "<bldg:storeysAboveGround>3</bldg:storeysAboveGround>"));
         const Document document = read(original);
         QCOMPARE(XmlNode::differences(XmlNode::parse(original), XmlNode::parse(write(*document))),
                  QStringList());
@@ -303,10 +292,10 @@ private slots:
 
     void xmlAttributesComeBack()
     {
-        const QByteArray original =
-            cityModel(building("<gml:name xml:space='preserve' xml:lang='fr-CA'>  two  blanks </gml:name>"
-                               "<x:a xml:space='preserve'>  <x:b/> </x:a>"),
-                      " xml:lang='en' xml:base='http://city.example/'");
+        const QByteArray original = documentText(
+            buildingMember("<gml:name xml:space='preserve' xml:lang='fr-CA'>  two  blanks </gml:name>"
+                           "<x:a xml:space='preserve'>  <x:b/> </x:a>"),
+            " xml:lang='en' xml:base='http://city.example/'");
         const QByteArray saved = write(*read(original));
         QCOMPARE(XmlNode::differences(XmlNode::parse(original), XmlNode::parse(saved)), QStringList());
         QVERIFY(saved.contains(">  two  blanks </gml:name>"));
@@ -315,18 +304,18 @@ private slots:
 
     void linksComeBack()
     {
-        const QByteArray original = cityModel(
-            building("<bldg:lod1Solid xlink:href='#s' xlink:title='a &quot;solid&quot;' xlink:show='embed'"
-                     " xlink:actuate='onRequest' xlink:role='urn:r' xlink:arcrole='urn:a' "
-                     "gml:remoteSchema='urn:s'/>"));
+        const QByteArray original = documentText(buildingMember(
+            "<bldg:lod1Solid xlink:href='#s' xlink:title='a &quot;solid&quot;' xlink:show='embed'"
+            " xlink:actuate='onRequest' xlink:role='urn:r' xlink:arcrole='urn:a' "
+            "gml:remoteSchema='urn:s'/>"));
         const QByteArray saved = write(*read(original));
         QCOMPARE(XmlNode::differences(XmlNode::parse(original), XmlNode::parse(saved)), QStringList());
     }
 
     void markupAroundTheRootComesBack()
     {
-        const QByteArray original = "<?style sheet?><!-- first -->" + cityModel("<!--inner--><?in root?>") +
-                                    "<!-- behind --><?last one?>";
+        const QByteArray original = "<?style sheet?><!-- first -->" +
+                                    documentText("<!--inner--><?in root?>") + "<!-- behind --><?last one?>";
         const QByteArray saved = write(*read(original));
         QCOMPARE(XmlNode::differences(XmlNode::parse(original), XmlNode::parse(saved)), QStringList());
         QVERIFY(saved.indexOf("<?style sheet?>") < saved.indexOf("<!-- first -->"));
@@ -339,25 +328,26 @@ private slots:
     {
         const QByteArray own = "http://www.opengis.net/citygml/2.0 my/base.xsd urn:unknown x.xsd";
         const QByteArray saved =
-            write(*read(cityModel(QByteArray(), " xsi:schemaLocation='\n " + own + "\t'")));
+            write(*read(documentText(QByteArray(), " xsi:schemaLocation='\n " + own + "\t'")));
         const XmlNode tree = XmlNode::parse(saved);
         const QString text =
             tree.children[0].attributes.value("{http://www.w3.org/2001/XMLSchema-instance}schemaLocation");
         QVERIFY(text.startsWith(QString::fromUtf8(own) + ' '));
         QCOMPARE(text.count("http://www.opengis.net/citygml/2.0 "), 1);
         for (const tolvik::NamespacesMap& entry : tolvik::CityGmlUtils::getNamespaces()) {
-            if (!entry.schemaLocation.empty() && entry.prefix != "core")
+            if (!entry.schemaLocation.empty() && entry.prefix != "core") {
                 QVERIFY2(text.contains(QString::fromStdString(entry.name + ' ' + entry.schemaLocation)),
                          entry.name.c_str());
+            }
         }
         QCOMPARE(write(*read(saved)), saved);
-        QVERIFY(!write(*read(cityModel(QByteArray()))).contains("schemaLocation"));
+        QVERIFY(!write(*read(documentText(QByteArray()))).contains("schemaLocation"));
     }
 
     // Prefixes that only one element declares are not there for the others.
     void localDeclarationsComeBack()
     {
-        const QByteArray original = cityModel(building(
+        const QByteArray original = documentText(buildingMember(
             "<g:name xmlns:g='http://www.opengis.net/gml' xmlns:y='urn:y' y:a='1' x:b='2'>n</g:name>"
             "<y:a xmlns:y='urn:other'><y:b/></y:a>"
             "<a xmlns='urn:default' xmlns:z='urn:z' z:c='3'><b/></a><plain/>"
@@ -384,7 +374,7 @@ private slots:
             "<gml:name x:a='1' xml:lang='fr'>n<x:in/></gml:name><x:b><x:c/></x:b><!--c-->"
             "<core:creationDate>2009-04-02+00:00</core:creationDate><?p i?>"
             "<bldg:storeysAboveGround xsi:nil='true'/><core:unknown/>";
-        const Document document = read(cityModel(building(content)));
+        const Document document = read(documentText(buildingMember(content)));
         const QByteArray original = write(*document);
         const auto bodyOf = [](const QByteArray& saved, const char* tag) {
             const int begin = saved.indexOf(QByteArray("<") + tag),
@@ -397,10 +387,10 @@ private slots:
         // Of a clone of the whole, of the feature alone, and of one assigned to another.
         const Document copy(document->_clone());
         QCOMPARE(write(*copy), original);
-        const Document other = read(cityModel(QByteArray()));
+        const Document other = read(documentText(QByteArray()));
         other->featureMember().push_back(document->featureMember().front());
         QCOMPARE(bodyOf(write(*other), "bldg:Building"), expected);
-        const Document third = read(cityModel(building("<gml:name>old</gml:name>", "c")));
+        const Document third = read(documentText(buildingMember("<gml:name>old</gml:name>", "c")));
         third->featureMember().front() = document->featureMember().front();
         QCOMPARE(bodyOf(write(*third), "bldg:Building"), expected);
         // The original still has it.
@@ -410,8 +400,8 @@ private slots:
     // The other document knows other prefixes.
     void copiesBringTheirNamespaces()
     {
-        const Document document = read(cityModel(
-            building("<x:b x:c='1'><core:d xsi:type='x:t'/>x:e<none/></x:b><gml:name x:f='2'>n</gml:name>")));
+        const Document document = read(documentText(buildingMember(
+            "<x:b x:c='1'><core:d xsi:type='x:t'/>x:e<none/></x:b><gml:name x:f='2'>n</gml:name>")));
         const Document other =
             read("<CityModel xmlns='http://www.opengis.net/citygml/2.0' xmlns:x='urn:other'"
                  " xmlns:core='urn:another'/>");
@@ -441,7 +431,7 @@ private slots:
             "<core:creationDate>2009-04-02+00:00</core:creationDate>"
             "<bldg:storeysAboveGround x:e='1'>3</bldg:storeysAboveGround><bldg:opening/>";
         ReaderLog log(log4cplus::DEBUG_LOG_LEVEL);
-        read(cityModel(building(content)));
+        read(documentText(buildingMember(content)));
         const QStringList expected{
             "DEBUG kept as it stands: attribute x:d (2)",
             "DEBUG kept as it stands: attribute x:e (1)",
@@ -456,10 +446,10 @@ private slots:
         };
         QCOMPARE(log.take(), expected);
         // Nothing to say about a document that is all known, and nothing above the debug level.
-        read(cityModel(building("<gml:name>n</gml:name>")));
+        read(documentText(buildingMember("<gml:name>n</gml:name>")));
         QCOMPARE(log.take(), QStringList());
         ReaderLog quiet(log4cplus::INFO_LOG_LEVEL);
-        read(cityModel(building(content)));
+        read(documentText(buildingMember(content)));
         QCOMPARE(quiet.take(), QStringList());
     }
 
@@ -473,10 +463,12 @@ private slots:
             double value = 0;
             std::memcpy(&value, &bits, sizeof(value));
             // Half of them any number, half of them as in coordinates.
-            if (values.size() % 2 != 0)
+            if (values.size() % 2 != 0) {
                 value = static_cast<double>(static_cast<std::int64_t>(bits % 2000000000)) / 1000;
-            if (!std::isfinite(value))
+            }
+            if (!std::isfinite(value)) {
                 continue;
+            }
             values.push_back(value);
             numbers += QByteArray::number(value, 'e', 17) + ' ';
         }
@@ -491,22 +483,22 @@ private slots:
             const double value = values[static_cast<std::size_t>(i)];
             QCOMPARE(words[i].toDouble(), value);
             int least = 1;
-            while (QByteArray::number(value, 'e', least - 1).toDouble() != value)
+            while (QByteArray::number(value, 'e', least - 1).toDouble() != value) {
                 ++least;
+            }
             QByteArray digits =
                 words[i].left(words[i].indexOf('e') < 0 ? words[i].size() : words[i].indexOf('e'));
             digits.replace("-", "").replace(".", "");
-            while (digits.startsWith('0'))
+            while (digits.startsWith('0')) {
                 digits.remove(0, 1);
-            while (words[i].indexOf('.') < 0 && digits.endsWith('0'))
+            }
+            while (words[i].indexOf('.') < 0 && digits.endsWith('0')) {
                 digits.chop(1);
+            }
             QVERIFY2(digits.size() == least, words[i]);
         }
     }
-
-private:
-    log4cplus::Initializer m_logging;
 };
 
-QTEST_GUILESS_MAIN(KeptContentTest)
+TEST_CLASS(KeptContentTest, Core)
 #include "keptcontenttest.moc"

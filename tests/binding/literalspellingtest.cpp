@@ -2,13 +2,14 @@
 #include "core/RelativeToTerrainType.hxx"
 #include "gml/AbstractFeatureType.hxx"
 #include "gml/FeaturePropertyType.hxx"
-#include "support/RoundTrip.h"
+#include "support/Documents.h"
+#include "support/TestClass.h"
 #include "support/XmlTree.h"
 
 #include <log4cplus/initializer.h>
 #include <QtTest>
 
-using namespace roundtrip;
+using namespace testsupport;
 
 namespace {
 
@@ -91,5 +92,5 @@ private:
     log4cplus::Initializer logging;
 };
 
-QTEST_APPLESS_MAIN(LiteralSpellingTest)
+TEST_CLASS(LiteralSpellingTest, None)
 #include "literalspellingtest.moc"

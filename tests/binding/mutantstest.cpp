@@ -1,32 +1,19 @@
 #include "support/Mutants.h"
-#include "support/RoundTrip.h"
+#include "support/Documents.h"
+#include "support/Files.h"
+#include "support/TestClass.h"
 #include "support/TestPaths.h"
 #include "support/XmlTree.h"
 
-#include <log4cplus/initializer.h>
-#include <log4cplus/logger.h>
-#include <log4cplus/nullappender.h>
-#include <QDir>
-#include <QDirIterator>
 #include <QtTest>
+
+using namespace testsupport;
 
 namespace {
 
 /// Of the examples, and as many of the real documents.
 constexpr int mutantsOfAQuickRun = 150;
 constexpr int mutantsOfALongRun = 5000;
-
-/// What strict reading reports; empty if it succeeds.
-QString strictErrorOf(const QByteArray& xml, roundtrip::Document& document)
-{
-    try {
-        std::istringstream stream(xml.toStdString());
-        document.reset(core::CityModel(stream, 0).release());
-    } catch (const xsd::cxx::tree::exception<char>& error) {
-        return roundtrip::printed(error);
-    }
-    return QString();
-}
 
 } // namespace
 
@@ -36,21 +23,13 @@ class MutantsTest : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        log4cplus::Logger::getRoot().addAppender(log4cplus::SharedAppenderPtr(new log4cplus::NullAppender));
-    }
-
-    void examples() { run(testpaths::examples()); }
+    void examples() { run(testsupport::examples()); }
 
     /// Documents of others, with much that the schema has no place for.
     void realDocuments()
     {
-        const QString directory = testpaths::sharedFiles() + "/data";
-        if (!QDir(directory).exists()) {
-            QSKIP(qPrintable("there is no " + directory));
-        }
-        run(directory);
+        SKIP_WITHOUT(sharedDocuments());
+        run(sharedDocuments());
     }
 
 private:
@@ -58,14 +37,9 @@ private:
     static void run(const QString& directory)
     {
         QByteArrayList documents;
-        QDirIterator files(directory, {"*.gml"}, QDir::Files, QDirIterator::Subdirectories);
-        QStringList paths;
-        while (files.hasNext()) {
-            paths << files.next();
-        }
-        paths.sort();
-        for (const QString& path : qAsConst(paths)) {
-            documents << roundtrip::contentOf(path);
+        const QStringList paths = documentsBelow(directory);
+        for (const QString& path : paths) {
+            documents << contentOf(path);
         }
         QVERIFY(!documents.isEmpty());
         mutants::Maker maker(documents);
@@ -79,27 +53,25 @@ private:
             QString error;
             const XmlNode before = XmlNode::parse(mutant.xml, &error);
             QVERIFY2(error.isEmpty(), where + ": " + error.toUtf8());
-            roundtrip::Document document;
-            const QString reason = strictErrorOf(mutant.xml, document);
+            Document document;
+            const QString reason = strictErrorOf(mutant.xml, &document);
             QVERIFY2(reason.isEmpty() || reason.contains("document:"), where + ": " + reason.toUtf8());
             if (!reason.isEmpty()) {
                 continue;
             }
             ++opened;
-            const QByteArray saved = roundtrip::write(*document);
+            const QByteArray saved = write(*document);
             const QStringList differences = XmlNode::differences(before, XmlNode::parse(saved));
             unchanged += differences.isEmpty() ? 1 : 0;
-            roundtrip::Document again;
-            const QString problem = strictErrorOf(saved, again);
+            Document again;
+            const QString problem = strictErrorOf(saved, &again);
             QVERIFY2(problem.isEmpty(), where + ": " + problem.toUtf8());
-            QVERIFY2(roundtrip::write(*again) == saved, where);
+            QVERIFY2(write(*again) == saved, where);
         }
         qInfo("%d mutants, %d open, %d of them come back as they were", count, opened, unchanged);
         QVERIFY(opened > count / 4);
     }
-
-    log4cplus::Initializer logging;
 };
 
-QTEST_GUILESS_MAIN(MutantsTest)
+TEST_CLASS(MutantsTest, Core)
 #include "mutantstest.moc"

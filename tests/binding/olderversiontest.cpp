@@ -1,19 +1,21 @@
-#include "support/RoundTrip.h"
+#include "support/Documents.h"
 #include "support/XmlTree.h"
 
 #include "bldg/BuildingType.hxx"
 #include "gml/FeaturePropertyType.hxx"
 #include "gml/LengthType.hxx"
+#include "support/Files.h"
+#include "support/LogRecorder.h"
+#include "support/TestClass.h"
 #include "support/TestPaths.h"
 #include "UI/Models/CityGMLModel/CityGMLModel.h"
 
-#include <log4cplus/initializer.h>
 #include <QRegularExpression>
 #include <QSet>
 #include <QTemporaryDir>
 #include <QtTest>
 
-using namespace roundtrip;
+using namespace testsupport;
 
 namespace {
 
@@ -22,7 +24,7 @@ const QString warning = QStringLiteral(
 
 QByteArray legacy()
 {
-    return contentOf(testpaths::dataFile("legacy.gml"));
+    return contentOf(dataFile("legacy.gml"));
 }
 
 /// The same document as somebody writes it in CityGML 2.0: other namespaces and schema files.
@@ -56,10 +58,12 @@ QSet<QString> locationsOf(const QByteArray& xml)
             node.attributes.value("{http://www.w3.org/2001/XMLSchema-instance}schemaLocation");
         const QStringList words = text.split(' ');
         QSet<QString> result;
-        for (int i = 0; !text.isEmpty() && i + 1 < words.size(); i += 2)
+        for (int i = 0; !text.isEmpty() && i + 1 < words.size(); i += 2) {
             result.insert(words[i] + ' ' + words[i + 1]);
-        if (!result.isEmpty())
+        }
+        if (!result.isEmpty()) {
             return result;
+        }
     }
     return {};
 }
@@ -124,7 +128,7 @@ private slots:
         const QString path = directory.filePath("saved.gml");
         ReaderLog log(log4cplus::INFO_LOG_LEVEL);
         tolvik::CityGMLModel model(nullptr, nullptr);
-        model.load(testpaths::dataFile("legacy.gml"));
+        model.load(dataFile("legacy.gml"));
         QCOMPARE(log.take(), QStringList(warning));
         QCOMPARE(model.rowCount(), 16);
         QVERIFY(model.saveAs(path, false));
@@ -241,10 +245,7 @@ private slots:
             errorOf(oldBuilding(QByteArray()).replace("http://www.opengis.net/citygml/1.0", uri));
         QVERIFY2(error.contains("document:1:1 error: ") && error.contains(expected), qPrintable(error));
     }
-
-private:
-    log4cplus::Initializer m_logging;
 };
 
-QTEST_GUILESS_MAIN(OlderVersionTest)
+TEST_CLASS(OlderVersionTest, Core)
 #include "olderversiontest.moc"

@@ -1,11 +1,11 @@
 #include "fuzz/ReaderCase.h"
+#include "support/TestClass.h"
 #include "support/TestPaths.h"
 
-#include <log4cplus/initializer.h>
-#include <log4cplus/logger.h>
-#include <log4cplus/nullappender.h>
 #include <QFile>
 #include <QtTest>
+
+using namespace testsupport;
 
 namespace {
 
@@ -37,21 +37,17 @@ class ReaderCorpusTest : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        log4cplus::Logger::getRoot().addAppender(log4cplus::SharedAppenderPtr(new log4cplus::NullAppender));
-    }
-
     void everyCaseComesBack()
     {
-        QFile file(testpaths::dataFile("reader-corpus.txt"));
+        QFile file(dataFile("reader-corpus.txt"));
         QVERIFY(file.open(QIODevice::ReadOnly));
         int cases = 0, readable = 0;
         for (int line = 1; !file.atEnd(); ++line) {
             QByteArray text = file.readLine();
             text.chop(1);
-            if (text.startsWith('#'))
+            if (text.startsWith('#')) {
                 continue;
+            }
             const std::string document = unpacked(text);
             const std::string problem = tolvik::fuzz::runReaderCase(document);
             QVERIFY2(problem.empty(),
@@ -77,9 +73,7 @@ private:
             return false;
         }
     }
-
-    log4cplus::Initializer m_logging;
 };
 
-QTEST_GUILESS_MAIN(ReaderCorpusTest)
+TEST_CLASS(ReaderCorpusTest, Core)
 #include "readercorpustest.moc"

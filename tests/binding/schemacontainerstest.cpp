@@ -3,10 +3,13 @@
 #include "bldg/BuildingType.hxx"
 #include "gml/CodeType.hxx"
 #include "gml/StringOrRefType.hxx"
+#include "support/TestClass.h"
 
 #include <QtTest>
 #include <string>
 #include <vector>
+
+using namespace testsupport;
 
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations" // std::auto_ptr, which the schema classes speak
 
@@ -26,16 +29,18 @@ std::auto_ptr<Name> owned(const char* text)
 std::string texts(const Names& names)
 {
     std::string result;
-    for (const Name& name : names)
+    for (const Name& name : names) {
         result += static_cast<const std::string&>(name) + ' ';
+    }
     return result;
 }
 
 bool allBelongTo(const Names& names, const Container& container)
 {
     for (const Name& name : names) {
-        if (name._container() != &container)
+        if (name._container() != &container) {
             return false;
+        }
     }
     return true;
 }
@@ -194,8 +199,9 @@ void SchemaContainersTest::aSequenceGrowsAtBothEndsAndInTheMiddle()
     QVERIFY(allBelongTo(names, building));
 
     // A value out of the sequence itself.
-    for (int i = 0; i < 20; ++i)
+    for (int i = 0; i < 20; ++i) {
         names.push_back(names.front());
+    }
     QCOMPARE(names.size(), std::size_t(23));
     QCOMPARE(std::string(names.back()), std::string("a"));
     QVERIFY(names.capacity() >= names.size());
@@ -224,8 +230,9 @@ void SchemaContainersTest::erasingAndResizing()
 {
     bldg::BuildingType building;
     Names& names = building.name();
-    for (const char* text : {"a", "b", "c", "d", "e"})
+    for (const char* text : {"a", "b", "c", "d", "e"}) {
         names.push_back(Name(text));
+    }
     QCOMPARE(std::string(*names.erase(names.begin() + 1)), std::string("c"));
     QCOMPARE(texts(names), std::string("a c d e "));
     const auto behind = names.erase(names.begin() + 2, names.end());
@@ -246,8 +253,9 @@ void SchemaContainersTest::detachingFromASequence()
 {
     bldg::BuildingType building;
     Names& names = building.name();
-    for (const char* text : {"a", "b", "c"})
+    for (const char* text : {"a", "b", "c"}) {
         names.push_back(Name(text));
+    }
     std::auto_ptr<Name> detached;
     const auto next = names.detach(names.begin(), detached);
     QCOMPARE(std::string(*next), std::string("b"));
@@ -267,8 +275,9 @@ void SchemaContainersTest::iteratorsAreRandomAccess()
 {
     bldg::BuildingType building;
     Names& names = building.name();
-    for (const char* text : {"b", "c", "a"})
+    for (const char* text : {"b", "c", "a"}) {
         names.push_back(Name(text));
+    }
     const Names& constant = names;
     QCOMPARE(names.end() - names.begin(), std::ptrdiff_t(3));
     QVERIFY(constant.begin() == names.begin() && names.begin() < constant.end());
@@ -322,5 +331,5 @@ void SchemaContainersTest::identifiersFollowTheirObjects()
     QCOMPARE(std::string(*copy.id()), std::string("i"));
 }
 
-QTEST_APPLESS_MAIN(SchemaContainersTest)
+TEST_CLASS(SchemaContainersTest, None)
 #include "schemacontainerstest.moc"

@@ -2,13 +2,11 @@
 #include "citygml/CityModel.h"
 #include "core/CityModelType.hxx"
 #include "framework/CoreProperty.h"
+#include "support/Files.h"
+#include "support/TestClass.h"
 #include "support/TestPaths.h"
 #include "UI/Models/CityGMLModel/properties/GmlCorePropertyCreator.h"
 
-#include <log4cplus/initializer.h>
-#include <log4cplus/logger.h>
-#include <log4cplus/nullappender.h>
-#include <QDir>
 #include <QTest>
 
 #include <fstream>
@@ -17,6 +15,8 @@
 #include <string>
 #include <thread>
 #include <vector>
+
+using namespace testsupport;
 
 using namespace tolvik;
 
@@ -71,17 +71,12 @@ class ThreadsTest : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        log4cplus::Logger::getRoot().addAppender(log4cplus::SharedAppenderPtr(new log4cplus::NullAppender));
-    }
-
     /// The threads come first, so that they meet in whatever the process makes once.
     void threadsWithADocumentEachDoNotDisturbEachOther()
     {
         std::vector<std::string> paths;
-        for (const QFileInfo& file : QDir(testpaths::examples()).entryInfoList({"*.gml"})) {
-            paths.push_back(file.filePath().toStdString());
+        for (const QString& path : documentsBelow(examples())) {
+            paths.push_back(path.toStdString());
         }
         QVERIFY(!paths.empty());
 
@@ -102,10 +97,7 @@ private slots:
             }
         }
     }
-
-private:
-    log4cplus::Initializer logging;
 };
 
-QTEST_APPLESS_MAIN(ThreadsTest)
+TEST_CLASS(ThreadsTest, None)
 #include "threadstest.moc"

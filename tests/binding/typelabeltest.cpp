@@ -3,6 +3,7 @@
 #include "bldg/BuildingType.hxx"
 #include "bldg/WallSurfaceType.hxx"
 #include "gml/CodeType.hxx"
+#include "support/TestClass.h"
 
 #include <map>
 #include <memory>
@@ -145,5 +146,5 @@ private slots:
     void takesNoRoomOfItsOwn() { QCOMPARE(sizeof(xml_schema::type), sizeof(xml_schema::type_base) + 16); }
 };
 
-QTEST_GUILESS_MAIN(TypeLabelTest)
+TEST_CLASS(TypeLabelTest, Core)
 #include "typelabeltest.moc"

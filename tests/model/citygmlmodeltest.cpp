@@ -1,8 +1,8 @@
 #include "framework/ModelInterface.h"
-#include "framework/OperationListener.h"
-#include "framework/OperationStatus.h"
 #include "support/CityGMLModelFixture.h"
+#include "support/OperationRecorder.h"
 #include "support/SignalRecorder.h"
+#include "support/TestClass.h"
 
 #include <limits>
 #include <memory>
@@ -11,13 +11,13 @@
 #include <QtTest>
 #include <streambuf>
 
+using namespace testsupport;
+
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations" // std::auto_ptr
 
 using tolvik::CityGMLModel;
 
 namespace {
-
-const QStringList resetSignals{"modelAboutToBeReset", "modelReset"};
 
 /// A document that tells when it is deleted.
 class WatchedDocument : public core::CityModelType
@@ -51,24 +51,8 @@ public:
     }
 };
 
-class ProgressRecorder : public tolvik::OperationListener
-{
-public:
-    ProgressRecorder() { tolvik::OperationStatus::setListener(this); }
-    ~ProgressRecorder() override { tolvik::OperationStatus::setListener(nullptr); }
-
-    void begin(const QString& title, long long totalSteps, bool blocking, int level) override
-    {
-        lines.append(QString("begin %1 %2 %3 %4").arg(title).arg(totalSteps).arg(blocking).arg(level));
-    }
-    void progress(long long /*doneSteps*/, int /*level*/) override {}
-    void end(int level) override { lines.append(QString("end %1").arg(level)); }
-
-    QStringList lines;
-};
-
 /// Asks for the rows of features when a build of the rows begins.
-class EarlyListener : public ProgressRecorder
+class EarlyListener : public OperationRecorder
 {
 public:
     explicit EarlyListener(const CityGMLModel& model) : model(model)
@@ -111,9 +95,6 @@ protected:
 class CityGMLModelTest : public QObject
 {
     Q_OBJECT
-
-private:
-    log4cplus::Initializer logging;
 
 private slots:
     void metaObject()
@@ -343,13 +324,14 @@ private slots:
         EchoTranslator translator;
         QVERIFY(QCoreApplication::installTranslator(&translator));
         OpenModel model;
-        ProgressRecorder progress;
+        OperationRecorder progress;
         model.loadText(cityModel(building("b")));
         QCOMPARE(model.data(model.index(1, 0)), QVariant("tolvik::CityGMLModel/<unset>"));
         QCOMPARE(model.headerData(0, Qt::Horizontal), QVariant("tolvik::CityGMLModel/Name"));
         QCOMPARE(model.headerData(1, Qt::Horizontal), QVariant("tolvik::CityGMLModel/Type"));
         QCOMPARE(model.headerData(2, Qt::Horizontal), QVariant("tolvik::CityGMLModel/unknown"));
-        QCOMPARE(progress.lines, QStringList({"begin tolvik::CityGMLModel/Building Model 2 1 0", "end 0"}));
+        QCOMPARE(progress.lines,
+                 QStringList({"begin tolvik::CityGMLModel/Building Model 2 blocking 0", "end 0"}));
         QCOMPARE(model.type(), QString("CityGML 2.0"));
         QCoreApplication::removeTranslator(&translator);
     }
@@ -427,7 +409,7 @@ private slots:
 
     void loadingSendsOneReset()
     {
-        LogCapture log;
+        ModelLog log;
         OpenModel model;
         SignalRecorder recorder(&model);
         QList<int> rowsSeen;
@@ -482,9 +464,9 @@ private slots:
     void progressOfBuilding()
     {
         OpenModel model;
-        ProgressRecorder progress;
+        OperationRecorder progress;
         model.loadText(town(4));
-        QCOMPARE(progress.lines, QStringList({"begin Building Model 5 1 0", "end 0"}));
+        QCOMPARE(progress.lines, QStringList({"begin Building Model 5 blocking 0", "end 0"}));
         progress.lines.clear();
         OpenModel empty;
         empty.dataSetChanged();
@@ -512,7 +494,7 @@ private slots:
 
     void theModelOwnsItsDocument()
     {
-        LogCapture log;
+        ModelLog log;
         int deletions = 0;
         {
             OpenModel model;
@@ -535,7 +517,7 @@ private slots:
 
     void malformedFirstDocument()
     {
-        LogCapture log;
+        ModelLog log;
         OpenModel model;
         SignalRecorder recorder(&model);
         model.loadText("<CityModel");
@@ -544,14 +526,14 @@ private slots:
         QCOMPARE(model.cityGML(), nullptr);
         const QStringList lines = log.take();
         QCOMPARE(lines.size(), 1);
-        QVERIFY2(QRegularExpression("^40000 Exception caught: .+ --> .+$").match(lines[0]).hasMatch(),
+        QVERIFY2(QRegularExpression("^ERROR Exception caught: .+ --> .+$").match(lines[0]).hasMatch(),
                  qPrintable(lines[0]));
         QVERIFY2(log.file().startsWith("UI/Models/CityGMLModel/CityGMLModel"), qPrintable(log.file()));
     }
 
     void malformedLaterDocument()
     {
-        LogCapture log;
+        ModelLog log;
         OpenModel model;
         model.loadText(town(2));
         model.hide(model.index(1, 0));
@@ -567,19 +549,19 @@ private slots:
 
     void duplicateIdentifiersAreRefused()
     {
-        LogCapture log;
+        ModelLog log;
         OpenModel model;
         model.loadText(cityModel(building("twin") + building("twin")));
         QCOMPARE(model.rowCount(), 0);
         const QStringList lines = log.take();
         QCOMPARE(lines.size(), 1);
-        QVERIFY2(lines[0].startsWith("40000 Exception caught: ID already exist --> "), qPrintable(lines[0]));
+        QVERIFY2(lines[0].startsWith("ERROR Exception caught: ID already exist --> "), qPrintable(lines[0]));
         QVERIFY2(lines[0].contains("ID 'twin' already exist"), qPrintable(lines[0]));
     }
 
     void errorsBelowTheLogLevelAreNotLogged()
     {
-        LogCapture log;
+        ModelLog log;
         log4cplus::Logger logger = log4cplus::Logger::getInstance("tolvik.UI.Models.CityGMLModel");
         const log4cplus::LogLevel level = logger.getLogLevel();
         logger.setLogLevel(log4cplus::FATAL_LOG_LEVEL);
@@ -591,7 +573,7 @@ private slots:
 
     void foreignExceptionsPass()
     {
-        LogCapture log;
+        ModelLog log;
         OpenModel model;
         model.loadText(town(2));
         SignalRecorder recorder(&model);
@@ -649,7 +631,7 @@ private slots:
 
     void loadingRebuildsThroughTheVirtualOperation()
     {
-        LogCapture log;
+        ModelLog log;
         class Counted : public OpenModel
         {
         public:
@@ -671,5 +653,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(CityGMLModelTest)
+TEST_CLASS(CityGMLModelTest, Widgets)
 #include "citygmlmodeltest.moc"

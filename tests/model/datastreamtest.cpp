@@ -1,7 +1,8 @@
 // The device is hidden in the library, so the test has a copy of its own.
 #include "UI/Models/CityGMLModel/DataStream.cpp" // NOLINT(bugprone-suspicious-include)
 
-#include "framework/OperationListener.h"
+#include "support/OperationRecorder.h"
+#include "support/TestClass.h"
 
 #include <boost/iostreams/stream.hpp>
 #include <memory>
@@ -9,25 +10,9 @@
 #include <QtTest>
 #include <string>
 
+using namespace testsupport;
+
 using boost::iostreams::DataStream;
-
-namespace {
-
-class StepRecorder : public tolvik::OperationListener
-{
-public:
-    StepRecorder() { tolvik::OperationStatus::setListener(this); }
-    ~StepRecorder() override { tolvik::OperationStatus::setListener(nullptr); }
-    void begin(const QString& /*title*/, long long /*totalSteps*/, bool /*blocking*/, int /*level*/) override
-    {
-    }
-    void progress(long long doneSteps, int /*level*/) override { steps.append(doneSteps); }
-    void end(int /*level*/) override {}
-
-    QList<long long> steps;
-};
-
-} // namespace
 
 class DataStreamTest : public QObject
 {
@@ -82,7 +67,7 @@ private slots:
 
     void readingReportsToTheStatusOfItsStream()
     {
-        StepRecorder recorder;
+        OperationRecorder recorder;
         QByteArray bytes(1000, 'x');
         QBuffer buffer(&bytes);
         QVERIFY(buffer.open(QIODevice::ReadOnly));
@@ -94,7 +79,7 @@ private slots:
             char text[100];
             QTest::qWait(60); // past the time in which a listener is told once only
             device.read(text, 100);
-            QCOMPARE(recorder.steps, QList<long long>({100}));
+            QCOMPARE(recorder.doneByReport, QVector<long long>({100}));
         }
         DataStream::statusByStream.clear();
     }
@@ -112,5 +97,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(DataStreamTest)
+TEST_CLASS(DataStreamTest, Core)
 #include "datastreamtest.moc"

@@ -1,4 +1,6 @@
+#include "support/Files.h"
 #include "support/SchemaValidator.h"
+#include "support/TestClass.h"
 #include "support/TestPaths.h"
 #include "UI/Models/CityGMLModel/CityGMLModel.h"
 
@@ -10,9 +12,9 @@
 #include <QXmlStreamReader>
 
 #include <algorithm>
-#include <log4cplus/initializer.h>
-#include <log4cplus/nullappender.h>
 #include <memory>
+
+using namespace testsupport;
 
 using namespace tolvik;
 
@@ -33,17 +35,11 @@ struct GlobalElement
     bool isAbstract;
 };
 
-QByteArray contentOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 /// The global elements of all schemas by name.
 QMap<QString, GlobalElement> globalElements()
 {
     QMap<QString, GlobalElement> elements;
-    for (const QFileInfo& file : QDir(testpaths::schemas()).entryInfoList({"*.xsd"})) {
+    for (const QFileInfo& file : QDir(schemas()).entryInfoList({"*.xsd"})) {
         QXmlStreamReader reader(contentOf(file.filePath()));
         reader.readNextStartElement();
         const QString target = reader.attributes().value("targetNamespace").toString();
@@ -72,8 +68,8 @@ QMap<QString, GlobalElement> globalElements()
 QSet<QString> elementsOfExamples()
 {
     QSet<QString> names;
-    for (const QFileInfo& file : QDir(testpaths::examples()).entryInfoList({"*.gml"})) {
-        QXmlStreamReader reader(contentOf(file.filePath()));
+    for (const QString& example : documentsBelow(examples())) {
+        QXmlStreamReader reader(contentOf(example));
         while (!reader.atEnd()) {
             if (reader.readNext() == QXmlStreamReader::StartElement) {
                 names.insert(qualified(reader.namespaceUri().toString(), reader.name().toString()));
@@ -112,23 +108,15 @@ class ExamplesTest : public QObject
 private:
     void addExamples()
     {
-        QTest::addColumn<QString>("path");
-        const QFileInfoList files = QDir(testpaths::examples()).entryInfoList({"*.gml"});
-        QVERIFY(!files.isEmpty());
-        for (const QFileInfo& file : files) {
-            QTest::newRow(qPrintable(file.fileName())) << file.filePath();
-        }
+        const QStringList paths = documentsBelow(examples());
+        QVERIFY(!paths.isEmpty());
+        addPathRows(paths);
     }
 
-    log4cplus::Initializer logging;
     std::unique_ptr<SchemaValidator> validator;
 
 private slots:
-    void initTestCase()
-    {
-        log4cplus::Logger::getRoot().addAppender(log4cplus::SharedAppenderPtr(new log4cplus::NullAppender));
-        validator = std::make_unique<SchemaValidator>(testpaths::schemas());
-    }
+    void initTestCase() { validator = std::make_unique<SchemaValidator>(schemas()); }
 
     void isValid_data() { addExamples(); }
 
@@ -156,7 +144,7 @@ private slots:
     {
         QFETCH(QByteArray, replaced);
         QFETCH(QByteArray, by);
-        QByteArray document = contentOf(testpaths::examples() + "/district.gml");
+        QByteArray document = contentOf(examples() + "/district.gml");
         QVERIFY(document.contains(replaced));
         QVERIFY(validator->validate(document.replace(replaced, by)).startsWith("line "));
     }
@@ -215,5 +203,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(ExamplesTest)
+TEST_CLASS(ExamplesTest, Core)
 #include "examplestest.moc"

@@ -1,12 +1,11 @@
-#include "support/TestPaths.h"
+#include "support/Symbols.h"
+#include "support/TestClass.h"
 
-#include <cstdlib>
-#include <cxxabi.h>
-#include <memory>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QSet>
 #include <QtTest>
+
+using namespace testsupport;
 
 namespace {
 
@@ -48,29 +47,6 @@ QString anyOf(const QStringList& names, const QString& end)
     return "(?:" + patterns.join('|') + ')';
 }
 
-QString demangled(const QString& symbol)
-{
-    int status = 0;
-    const std::unique_ptr<char, void (*)(void*)> text(
-        abi::__cxa_demangle(symbol.toLatin1().constData(), nullptr, nullptr, &status), &std::free);
-    return status == 0 ? QString::fromLatin1(text.get()) : symbol;
-}
-
-QStringList exportedSymbols()
-{
-    QProcess nm;
-    nm.start("nm", {"-D", "--defined-only", testpaths::library("CityGMLModel")});
-    if (!nm.waitForFinished(-1) || nm.exitCode() != 0) {
-        return QStringList();
-    }
-    QStringList symbols;
-    const QStringList lines = QString::fromLatin1(nm.readAllStandardOutput()).split('\n', Qt::SkipEmptyParts);
-    for (const QString& line : lines) {
-        symbols.append(line.section(' ', -1));
-    }
-    return symbols;
-}
-
 } // namespace
 
 /// What the library exports: its interface, and nothing of what it is made with.
@@ -84,7 +60,7 @@ private:
 private slots:
     void initTestCase()
     {
-        symbols = exportedSymbols();
+        symbols = exportedSymbols("CityGMLModel");
         QVERIFY(!symbols.isEmpty());
     }
 
@@ -105,7 +81,7 @@ private slots:
         QStringList others;
         for (const QString& symbol : qAsConst(symbols)) {
             if (!pattern.match(symbol).hasMatch()) {
-                others.append(demangled(symbol) + "  " + symbol);
+                others.append(demangled(qPrintable(symbol)) + "  " + symbol);
             }
         }
         QVERIFY2(others.isEmpty(), qPrintable(QString::number(others.size()) + " more symbols, as\n" +
@@ -136,5 +112,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(ExportsTest)
+TEST_CLASS(ExportsTest, None)
 #include "exportstest.moc"

@@ -1,13 +1,17 @@
 #include "framework/PropertyProvider.h"
 #include "gml/StringOrRefType.hxx"
 #include "support/CityGMLModelFixture.h"
+#include "support/Files.h"
 #include "support/SignalRecorder.h"
+#include "support/TestClass.h"
 
 #include <memory>
 #include <QMetaMethod>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QtTest>
+
+using namespace testsupport;
 
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations" // std::auto_ptr
 
@@ -66,8 +70,6 @@ class FeatureEditingTest : public QObject
     Q_OBJECT
 
 private:
-    log4cplus::Initializer logging;
-
     /// Every look-up answers as the rows stand.
     static void verifyLookUps(const OpenModel& model)
     {
@@ -495,5 +497,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(FeatureEditingTest)
+TEST_CLASS(FeatureEditingTest, Widgets)
 #include "featureeditingtest.moc"

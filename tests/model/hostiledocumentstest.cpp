@@ -1,5 +1,7 @@
 #include "support/CityGMLModelFixture.h"
+#include "support/Files.h"
 #include "support/SignalRecorder.h"
+#include "support/TestClass.h"
 
 #include <functional>
 #include <QBuffer>
@@ -7,6 +9,8 @@
 #include <QtTest>
 
 #include <sys/resource.h>
+
+using namespace testsupport;
 
 namespace {
 
@@ -82,9 +86,6 @@ class HostileDocumentsTest : public QObject
 {
     Q_OBJECT
 
-private:
-    log4cplus::Initializer logging;
-
 private slots:
     void refused_data()
     {
@@ -151,11 +152,11 @@ private slots:
         const QString path = directory.filePath("hostile.gml");
         QVERIFY(writeFile(path, document));
 
-        LogCapture log;
+        ModelLog log;
         const auto verifyOneLine = [&] {
             const QStringList lines = log.take();
             QCOMPARE(lines.size(), 1);
-            QVERIFY2(lines[0].startsWith("40000 Exception caught: "), qPrintable(lines[0]));
+            QVERIFY2(lines[0].startsWith("ERROR Exception caught: "), qPrintable(lines[0]));
             QVERIFY2(!lines[0].trimmed().contains('\n'), qPrintable(lines[0]));
             QVERIFY2(lines[0].size() < 1000, qPrintable(lines[0]));
             QVERIFY2(lines[0].contains(reason), qPrintable(lines[0]));
@@ -197,7 +198,7 @@ private slots:
 
     void deepestDocument()
     {
-        LogCapture log;
+        ModelLog log;
         OpenModel model;
         // Root, member and building take three levels of 512.
         model.loadText(cityModel(building("b1", nestedParts(254))));
@@ -210,7 +211,7 @@ private slots:
 
     void harmlessEntities()
     {
-        LogCapture log;
+        ModelLog log;
         OpenModel model;
         model.loadText(
             withDoctype("<!DOCTYPE CityModel [<!ENTITY street \"Main &amp; Side\">]>", "&street; &#x41;"));
@@ -220,7 +221,7 @@ private slots:
 
     void harmlessAttributeValues()
     {
-        LogCapture log;
+        ModelLog log;
         OpenModel model;
         model.loadText(
             withDoctype("<!DOCTYPE CityModel [<!ATTLIST bldg:Building x CDATA 'from the type'>]>", "name"));
@@ -238,7 +239,7 @@ private slots:
         const QByteArray document =
             cityModel(building("b1", QByteArray("<gml:name x:a=''>n</gml:name><x:e/>").repeated(20000)))
                 .replace("xmlns:gml", "xmlns:x='" + uri + "' xmlns:gml");
-        LogCapture log;
+        ModelLog log;
         OpenModel model;
         model.loadText(document);
         QCOMPARE(log.take(), QStringList());
@@ -253,7 +254,7 @@ private slots:
     {
         // Cut anywhere, a document is no document, until nothing but the last line end is missing.
         const QByteArray good = town(1).trimmed();
-        LogCapture log;
+        ModelLog log;
         OpenModel model;
         for (int length = 0; length < good.size(); ++length) {
             model.loadText(good.left(length));
@@ -266,5 +267,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(HostileDocumentsTest)
+TEST_CLASS(HostileDocumentsTest, Widgets)
 #include "hostiledocumentstest.moc"

@@ -1,11 +1,15 @@
 // Identifiers of a document that are changed, moved and deleted.
 
+#include "gml/FeaturePropertyType.hxx"
 #include "support/CityGMLModelFixture.h"
+#include "support/TestClass.h"
 
 #include <functional>
 #include <memory>
 #include <QtTest>
 #include <vector>
+
+using namespace testsupport;
 
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations" // std::auto_ptr, which the schema classes speak
 
@@ -56,9 +60,6 @@ bool isTaken(core::CityModelType& document, const std::string& id)
 class IdentifierTest : public QObject
 {
     Q_OBJECT
-
-private:
-    log4cplus::Initializer logging;
 
 private slots:
     void setInPlace()
@@ -208,5 +209,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(IdentifierTest)
+TEST_CLASS(IdentifierTest, Widgets)
 #include "identifiertest.moc"

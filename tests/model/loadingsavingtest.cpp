@@ -1,7 +1,8 @@
-#include "framework/OperationListener.h"
-#include "framework/OperationStatus.h"
 #include "support/CityGMLModelFixture.h"
+#include "support/Files.h"
+#include "support/OperationRecorder.h"
 #include "support/SignalRecorder.h"
+#include "support/TestClass.h"
 
 #include <memory>
 #include <osgDB/Registry>
@@ -11,9 +12,9 @@
 #include <QtTest>
 #include <stdexcept>
 
-namespace {
+using namespace testsupport;
 
-const QStringList resetSignals{"modelAboutToBeReset", "modelReset"};
+namespace {
 
 /// The last part of a text that an operation throws as std::runtime_error; empty if it throws nothing.
 template <typename Operation>
@@ -69,21 +70,6 @@ private:
     qint64 pause;
 };
 
-class TitleRecorder : public tolvik::OperationListener
-{
-public:
-    TitleRecorder() { tolvik::OperationStatus::setListener(this); }
-    ~TitleRecorder() override { tolvik::OperationStatus::setListener(nullptr); }
-    void begin(const QString& title, long long /*totalSteps*/, bool /*blocking*/, int /*level*/) override
-    {
-        titles.append(title);
-    }
-    void progress(long long /*doneSteps*/, int /*level*/) override {}
-    void end(int /*level*/) override {}
-
-    QStringList titles;
-};
-
 } // namespace
 
 class LoadingSavingTest : public QObject
@@ -91,7 +77,6 @@ class LoadingSavingTest : public QObject
     Q_OBJECT
 
 private:
-    log4cplus::Initializer logging;
     std::unique_ptr<QTemporaryDir> directory;
 
     QString path(const QString& name) const { return directory->filePath(name); }
@@ -111,7 +96,7 @@ private slots:
 
     void loadsAFile()
     {
-        LogCapture log;
+        ModelLog log;
         OpenModel model;
         SignalRecorder recorder(&model);
         model.load(file("town.gml", town(2)));
@@ -136,7 +121,7 @@ private slots:
 
     void missingFileAfterAGoodLoad()
     {
-        LogCapture log;
+        ModelLog log;
         OpenModel model;
         model.load(file("good.gml", town(2)));
         const QString name = model.getFileName();
@@ -158,7 +143,7 @@ private slots:
 
     void malformedFileAfterAGoodLoad()
     {
-        LogCapture log;
+        ModelLog log;
         OpenModel model;
         model.load(file("good.gml", town(2)));
         gml::AbstractFeatureType* const feature = model.getFeature("b2");
@@ -174,7 +159,7 @@ private slots:
 
     void malformedFirstFile()
     {
-        LogCapture log;
+        ModelLog log;
         OpenModel model;
         model.load(file("bad.gml", "<CityModel>"));
         QCOMPARE(model.rowCount(), 0);
@@ -187,7 +172,7 @@ private slots:
 
     void aDirectoryIsNoDocument()
     {
-        LogCapture log;
+        ModelLog log;
         OpenModel model;
         model.load(file("good.gml", town(1)));
         model.load(directory->path());
@@ -217,7 +202,7 @@ private slots:
 
     void loadsADevice()
     {
-        LogCapture log;
+        ModelLog log;
         OpenModel model;
         const auto paths = dataPaths();
         QByteArray content = town(5000); // more than any buffer on the way
@@ -269,7 +254,7 @@ private slots:
 
     void aDeviceThatAnswersNothingHasEnded()
     {
-        LogCapture log;
+        ModelLog log;
         OpenModel model;
         Pipe device(town(50), 1000);
         model.load(&device, QUrl("pipe"));
@@ -291,7 +276,7 @@ private slots:
     void theStateOfAStream()
     {
         QFETCH(int, thrown);
-        LogCapture log;
+        ModelLog log;
         OpenModel model;
         SignalRecorder recorder(&model);
         for (const QByteArray& content : {town(2), town(2).chopped(15), QByteArray()}) {
@@ -308,7 +293,7 @@ private slots:
 
     void aStreamThatHasFailed()
     {
-        LogCapture log;
+        ModelLog log;
         OpenModel model;
         model.loadText(town(1));
         std::istringstream stream(town(2).toStdString());
@@ -323,7 +308,7 @@ private slots:
 
     void malformedDevice()
     {
-        LogCapture log;
+        ModelLog log;
         OpenModel model;
         model.loadText(town(1));
         QByteArray content = town(2).chopped(15);
@@ -343,7 +328,7 @@ private slots:
 
     void aDeviceReportsNoProgressOfItsOwn()
     {
-        TitleRecorder progress;
+        OperationRecorder progress;
         OpenModel model;
         QByteArray content = town(3);
         QBuffer device(&content);
@@ -402,7 +387,7 @@ private slots:
         OpenModel model;
         model.load(file("town.gml", town(1)));
         QVERIFY(model.save(true));
-        const QByteArray written = readFile(path("town.gml"));
+        const QByteArray written = contentOf(path("town.gml"));
         QVERIFY2(written.startsWith("<?xml version=\"1.0\" encoding=\"UTF-8\""), written.left(60));
         for (const char* uri :
              {"http://www.opengis.net/citygml/2.0", "http://www.opengis.net/citygml/building/2.0",
@@ -415,17 +400,17 @@ private slots:
     {
         OpenModel model;
         model.load(file("old.gml", town(2)));
-        const QByteArray before = readFile(path("old.gml"));
+        const QByteArray before = contentOf(path("old.gml"));
         model.propertyChanged(model.index(1, 0), false);
         QVERIFY(model.saveAs(path("new.gml"), true));
         QCOMPARE(model.getFileName(), path("new.gml"));
         QVERIFY(!model.dirty());
-        QCOMPARE(readFile(path("old.gml")), before);
+        QCOMPARE(contentOf(path("old.gml")), before);
 
         QVERIFY(model.setData(model.index(1, 0), "renamed", Qt::EditRole));
         QVERIFY(model.save(true));
-        QVERIFY(readFile(path("new.gml")).contains("renamed"));
-        QCOMPARE(readFile(path("old.gml")), before);
+        QVERIFY(contentOf(path("new.gml")).contains("renamed"));
+        QCOMPARE(contentOf(path("old.gml")), before);
     }
 
     void theFlagOfASaveHasNoEffect()
@@ -433,14 +418,14 @@ private slots:
         OpenModel model;
         model.load(file("town.gml", town(2)));
         QVERIFY(model.save(true));
-        const QByteArray first = readFile(path("town.gml"));
+        const QByteArray first = contentOf(path("town.gml"));
         QVERIFY(!first.isEmpty());
         QVERIFY(model.save(false));
-        QCOMPARE(readFile(path("town.gml")), first);
+        QCOMPARE(contentOf(path("town.gml")), first);
         QVERIFY(model.saveAs(path("other.gml"), false));
-        QCOMPARE(readFile(path("other.gml")), first);
+        QCOMPARE(contentOf(path("other.gml")), first);
         QVERIFY(model.doSave(path("third.gml"), false));
-        QCOMPARE(readFile(path("third.gml")), first);
+        QCOMPARE(contentOf(path("third.gml")), first);
     }
 
     void savingCutsALongerFile()
@@ -448,9 +433,9 @@ private slots:
         OpenModel model;
         model.load(file("town.gml", town(1)));
         QVERIFY(model.saveAs(path("short.gml"), true));
-        const QByteArray expected = readFile(path("short.gml"));
+        const QByteArray expected = contentOf(path("short.gml"));
         QVERIFY(model.saveAs(file("long.gml", QByteArray(100000, 'x')), true));
-        QCOMPARE(readFile(path("long.gml")), expected);
+        QCOMPARE(contentOf(path("long.gml")), expected);
     }
 
     void aDeviceIsSavedToTheWorkingDirectory()
@@ -463,12 +448,12 @@ private slots:
         const bool saved = model.save(true);
         QVERIFY(QDir::setCurrent(before));
         QVERIFY(saved);
-        QVERIFY(readFile(path("_a_b.gml")).contains("b1"));
+        QVERIFY(contentOf(path("_a_b.gml")).contains("b1"));
     }
 
     void anUnwritablePathIsNotNoticed()
     {
-        LogCapture log;
+        ModelLog log;
         OpenModel model;
         model.load(file("town.gml", town(1)));
         model.propertyChanged(model.index(1, 0), false);
@@ -482,7 +467,7 @@ private slots:
 
     void aFailingSaveThrows()
     {
-        LogCapture log;
+        ModelLog log;
         OpenModel model;
         model.load(file("y.gml", town(1)));
         makeUnwritable(model);
@@ -499,7 +484,7 @@ private slots:
         const QStringList lines = log.take();
         QCOMPARE(lines.size(), 2);
         for (const QString& line : lines) {
-            QVERIFY2(QRegularExpression("^40000 Exception caught: .+ --> .+").match(line).hasMatch(),
+            QVERIFY2(QRegularExpression("^ERROR Exception caught: .+ --> .+").match(line).hasMatch(),
                      qPrintable(line));
         }
     }
@@ -518,15 +503,15 @@ private slots:
     {
         QFETCH(QByteArray, member);
         QFETCH(QString, name);
-        LogCapture log;
+        ModelLog log;
         const QByteArray content = cityModel(member + namedBuilding("last", "last"));
         OpenModel model;
         model.load(file("town.gml", content));
         QVERIFY(model.setData(model.index(model.rowCount() - 1, 0), name, Qt::EditRole));
         QVERIFY(!errorOf([&] { model.save(true); }).isEmpty());
-        QCOMPARE(readFile(path("town.gml")), content);
+        QCOMPARE(contentOf(path("town.gml")), content);
         QVERIFY(!errorOf([&] { model.saveAs(file("other.gml", "precious"), true); }).isEmpty());
-        QCOMPARE(readFile(path("other.gml")), QByteArray("precious"));
+        QCOMPARE(contentOf(path("other.gml")), QByteArray("precious"));
         QVERIFY(!errorOf([&] { model.saveAs(path("new.gml"), true); }).isEmpty());
         QVERIFY(!QFile::exists(path("new.gml")));
         QCOMPARE(log.take().size(), 3);
@@ -534,7 +519,7 @@ private slots:
         // The edit undone, the document is saved.
         QVERIFY(model.setData(model.index(model.rowCount() - 1, 0), "last", Qt::EditRole));
         QVERIFY(model.save(true));
-        QVERIFY(readFile(path("town.gml")).contains("<gml:name>last</gml:name>"));
+        QVERIFY(contentOf(path("town.gml")).contains("<gml:name>last</gml:name>"));
         QCOMPARE(log.take(), QStringList());
     }
 
@@ -543,9 +528,9 @@ private slots:
         OpenModel model;
         const QString target = file("kept.gml", "precious");
         QVERIFY(!errorOf([&] { model.saveAs(target, true); }).isEmpty());
-        QCOMPARE(readFile(target), QByteArray("precious"));
+        QCOMPARE(contentOf(target), QByteArray("precious"));
     }
 };
 
-QTEST_MAIN(LoadingSavingTest)
+TEST_CLASS(LoadingSavingTest, Widgets)
 #include "loadingsavingtest.moc"

@@ -1,10 +1,11 @@
 // A class derived from the model that keeps visibility and the mark of a change in its own way: the model
 // goes through its operations wherever it asks or tells.
 
-#include "framework/OperationListener.h"
-#include "framework/OperationStatus.h"
 #include "support/CityGMLModelFixture.h"
+#include "support/Files.h"
+#include "support/OperationRecorder.h"
 #include "support/SignalRecorder.h"
+#include "support/TestClass.h"
 
 #include <chrono>
 #include <QBuffer>
@@ -12,6 +13,8 @@
 #include <QtTest>
 #include <stdexcept>
 #include <thread>
+
+using namespace testsupport;
 
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations" // std::auto_ptr, which the schema classes speak
 
@@ -64,26 +67,18 @@ public:
     }
 };
 
-/// Writes down each report of progress, with the number of rows at that moment.
-class StepRecorder : public tolvik::OperationListener
+/// Writes down with each report of progress how many rows there are at that moment.
+class StepRecorder : public OperationRecorder
 {
 public:
-    explicit StepRecorder(const OpenModel& model) : model(model)
+    explicit StepRecorder(const OpenModel& model) : model(model) {}
+
+    void progress(long long doneSteps, int level) override
     {
-        tolvik::OperationStatus::setListener(this);
-    }
-    ~StepRecorder() override { tolvik::OperationStatus::setListener(nullptr); }
-    void begin(const QString& /*title*/, long long /*totalSteps*/, bool /*blocking*/, int /*level*/) override
-    {
-    }
-    void progress(long long doneSteps, int /*level*/) override
-    {
-        steps.append(doneSteps);
+        OperationRecorder::progress(doneSteps, level);
         rows.append(model.rowCount());
     }
-    void end(int /*level*/) override {}
 
-    QList<long long> steps;
     QList<int> rows;
 
 private:
@@ -95,9 +90,6 @@ private:
 class ModelOverridesTest : public QObject
 {
     Q_OBJECT
-
-private:
-    log4cplus::Initializer logging;
 
 private slots:
     void oneRow()
@@ -198,7 +190,7 @@ private slots:
 
     void aLoadLeavesTheMarkAlone()
     {
-        LogCapture log;
+        ModelLog log;
         const QTemporaryDir directory;
         const QString path = directory.filePath("town.gml");
         QVERIFY(writeFile(path, town(1)));
@@ -230,10 +222,10 @@ private slots:
         SlowModel model;
         StepRecorder recorder(model);
         model.loadText(cityModel(building("") + building("") + building("")));
-        QCOMPARE(recorder.steps, QList<long long>({1, 2, 3, 4}));
+        QCOMPARE(recorder.doneByReport, QVector<long long>({1, 2, 3, 4}));
         QCOMPARE(recorder.rows, QList<int>({1, 2, 3, 4}));
     }
 };
 
-QTEST_MAIN(ModelOverridesTest)
+TEST_CLASS(ModelOverridesTest, Widgets)
 #include "modeloverridestest.moc"

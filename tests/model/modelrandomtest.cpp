@@ -1,4 +1,5 @@
 #include "support/RandomCity.h"
+#include "support/TestClass.h"
 #include "support/TrackedIndexes.h"
 
 #include <QItemSelectionModel>
@@ -7,6 +8,8 @@
 #include <QtTest>
 #include <random>
 #include <set>
+
+using namespace testsupport;
 
 // A list view and a tree view over one model, through a long random run. After each operation, everything
 // that a view can see is compared with a plain model of the same document, which knows no signals and no
@@ -357,5 +360,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(ModelRandomTest)
+TEST_CLASS(ModelRandomTest, Widgets)
 #include "modelrandomtest.moc"

@@ -1,12 +1,17 @@
 // The namespaces that a document declares.
 
 #include "citygml/CityGmlUtils.h"
+#include "gml/FeaturePropertyType.hxx"
 #include "support/CityGMLModelFixture.h"
+#include "support/Files.h"
+#include "support/TestClass.h"
 
 #include <QMap>
 #include <QTemporaryDir>
 #include <QtTest>
 #include <QXmlStreamReader>
+
+using namespace testsupport;
 
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations" // std::auto_ptr, which the schema classes speak
 
@@ -62,8 +67,6 @@ class NamespacesTest : public QObject
     Q_OBJECT
 
 private:
-    log4cplus::Initializer logging;
-
     /// The root element of a document without features that is saved.
     static QByteArray savedRoot()
     {
@@ -71,7 +74,7 @@ private:
         tolvik::CityGMLModel model(nullptr, nullptr);
         model.load(std::auto_ptr<core::CityModelType>(new core::CityModelType));
         model.saveAs(directory.filePath("new.gml"), true);
-        return readFile(directory.filePath("new.gml"));
+        return contentOf(directory.filePath("new.gml"));
     }
 
 private slots:
@@ -134,5 +137,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(NamespacesTest)
+TEST_CLASS(NamespacesTest, Widgets)
 #include "namespacestest.moc"

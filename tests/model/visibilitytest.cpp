@@ -1,8 +1,11 @@
 #include "support/CityGMLModelFixture.h"
 #include "support/SignalRecorder.h"
+#include "support/TestClass.h"
 
 #include <QItemSelectionModel>
 #include <QtTest>
+
+using namespace testsupport;
 
 using tolvik::Model;
 
@@ -40,9 +43,6 @@ const QList<QModelIndex> onlyInvalid{QModelIndex(), QModelIndex()};
 class VisibilityTest : public QObject
 {
     Q_OBJECT
-
-private:
-    log4cplus::Initializer logging;
 
 private slots:
     void disablingOneRow()
@@ -382,5 +382,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(VisibilityTest)
+TEST_CLASS(VisibilityTest, Widgets)
 #include "visibilitytest.moc"

@@ -1,12 +1,15 @@
 #include "framework/Action.h"
 #include "fondo/ClassType.h"
 #include "fondo/RefPtr.h"
+#include "support/TestClass.h"
 
 #include <memory>
 #include <QAction>
 #include <QPointer>
 #include <QStringListModel>
 #include <QtTest>
+
+using namespace testsupport;
 
 using Fondo::RefPtr;
 using tolvik::Action;
@@ -64,5 +67,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(ActionTest)
+TEST_CLASS(ActionTest, Widgets)
 #include "actiontest.moc"

@@ -1,10 +1,12 @@
 #include "citygml/CityGMLPlugin.h"
+#include "support/TestClass.h"
 #include "UI/Models/CityGMLModel/CityGMLModel.h"
 
 #include <QtTest>
 
-#include <log4cplus/initializer.h>
 #include <sstream>
+
+using namespace testsupport;
 
 /// Where a document lies, as the embedded platform tells it.
 class CityGMLPluginTest : public QObject
@@ -14,7 +16,7 @@ class CityGMLPluginTest : public QObject
 private slots:
     void withoutADocumentThereIsNoPlace()
     {
-        tolvik::CityGMLModel model(&m_plugin, nullptr);
+        tolvik::CityGMLModel model(&plugin, nullptr);
         QVERIFY(model.footprint().isEmpty());
     }
 
@@ -30,7 +32,7 @@ private slots:
     void aDocumentLiesInItsEnvelope()
     {
         QFETCH(QByteArray, corners);
-        tolvik::CityGMLModel model(&m_plugin, nullptr);
+        tolvik::CityGMLModel model(&plugin, nullptr);
         load(model, "<gml:boundedBy><gml:Envelope>" + corners + "</gml:Envelope></gml:boundedBy>");
         const tolvik::CoreModel::_geoPoint anchor = model.anchor();
         QCOMPARE(anchor.x, 3.0);
@@ -43,7 +45,7 @@ private slots:
 
     void aDocumentWithoutAnEnvelopeHasNoPlace()
     {
-        tolvik::CityGMLModel model(&m_plugin, nullptr);
+        tolvik::CityGMLModel model(&plugin, nullptr);
         load(model, "");
         QVERIFY(model.footprint().isEmpty());
         load(model, "<gml:boundedBy><gml:Null>unknown</gml:Null></gml:boundedBy>");
@@ -64,9 +66,8 @@ private:
         QVERIFY(model.cityGML() != nullptr);
     }
 
-    log4cplus::Initializer m_logging;
-    tolvik::CityGMLPlugin m_plugin;
+    tolvik::CityGMLPlugin plugin;
 };
 
-QTEST_GUILESS_MAIN(CityGMLPluginTest)
+TEST_CLASS(CityGMLPluginTest, Core)
 #include "citygmlplugintest.moc"

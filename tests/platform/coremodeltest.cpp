@@ -1,11 +1,14 @@
 #include "framework/ModelInterface.h"
 #include "framework/PropertyProvider.h"
+#include "support/TestClass.h"
 #include "support/TestModel.h"
 
 #include <limits>
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
 #include <QtTest>
+
+using namespace testsupport;
 
 using Fondo::RefPtr;
 using tolvik::CoreModel;
@@ -299,5 +302,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(CoreModelTest)
+TEST_CLASS(CoreModelTest, Core)
 #include "coremodeltest.moc"

@@ -2,9 +2,12 @@
 #include "fondo/ClassType.h"
 #include "framework/SingleUnit.h"
 #include "framework/UnitCreator.h"
+#include "support/TestClass.h"
 
 #include <QMenu>
 #include <QtTest>
+
+using namespace testsupport;
 
 using Fondo::RefPtr;
 using tolvik::CoreProperty;
@@ -222,5 +225,5 @@ private slots:
     void propertyIsSmall() { QVERIFY(sizeof(CoreProperty) <= 64); }
 };
 
-QTEST_MAIN(CorePropertyTest)
+TEST_CLASS(CorePropertyTest, Widgets)
 #include "corepropertytest.moc"

@@ -1,9 +1,12 @@
 #include "citygml/CreateCompressedGuidString.h"
+#include "support/TestClass.h"
 
 #include <cstring>
 #include <QRegularExpression>
 #include <QSet>
 #include <QtTest>
+
+using namespace testsupport;
 
 class CreateCompressedGuidStringTest : public QObject
 {
@@ -46,5 +49,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(CreateCompressedGuidStringTest)
+TEST_CLASS(CreateCompressedGuidStringTest, Core)
 #include "createcompressedguidstringtest.moc"

@@ -1,7 +1,10 @@
 #include "framework/EditRangeDialog.h"
+#include "support/TestClass.h"
 
 #include <memory>
 #include <QtTest>
+
+using namespace testsupport;
 
 using tolvik::EditRangeDialog;
 
@@ -66,5 +69,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(EditRangeDialogTest)
+TEST_CLASS(EditRangeDialogTest, Widgets)
 #include "editrangedialogtest.moc"

@@ -1,7 +1,10 @@
 #include "support/SignalRecorder.h"
+#include "support/TestClass.h"
 #include "support/TestModel.h"
 
 #include <QtTest>
+
+using namespace testsupport;
 
 using tolvik::Model;
 
@@ -133,5 +136,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(ModelTest)
+TEST_CLASS(ModelTest, Core)
 #include "modeltest.moc"

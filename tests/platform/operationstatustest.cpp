@@ -1,42 +1,17 @@
 #include "framework/OperationStatus.h"
 #include "framework/OperationListener.h"
+#include "support/OperationRecorder.h"
+#include "support/TestClass.h"
 
 #include <memory>
 #include <QElapsedTimer>
 #include <QStringList>
 #include <QtTest>
 
+using namespace testsupport;
+
 using tolvik::OperationListener;
 using tolvik::OperationStatus;
-
-namespace {
-
-class Recorder : public OperationListener
-{
-public:
-    void begin(const QString& title, long long totalSteps, bool blocking, int level) override
-    {
-        lines.append(QStringLiteral("begin %1 %2 %3 %4")
-                         .arg(title)
-                         .arg(totalSteps)
-                         .arg(blocking ? "blocking" : "free")
-                         .arg(level));
-    }
-
-    void progress(long long doneSteps, int level) override
-    {
-        doneByReport.append(doneSteps);
-        levelByReport.append(level);
-    }
-
-    void end(int level) override { lines.append(QStringLiteral("end %1").arg(level)); }
-
-    QStringList lines;
-    QVector<long long> doneByReport;
-    QVector<int> levelByReport;
-};
-
-} // namespace
 
 class OperationStatusTest : public QObject
 {
@@ -54,7 +29,7 @@ private slots:
 
     void beginAndEndAreAlwaysTold()
     {
-        Recorder recorder;
+        OperationLog recorder;
         QVERIFY(OperationStatus::setListener(&recorder) == nullptr);
         for (int i = 0; i < 3; ++i) {
             const OperationStatus status(QString::number(i), i * 10LL, i != 1);
@@ -66,7 +41,7 @@ private slots:
 
     void operationsNest()
     {
-        Recorder recorder;
+        OperationLog recorder;
         OperationStatus::setListener(&recorder);
         {
             const OperationStatus outer("outer", 2, true);
@@ -83,7 +58,7 @@ private slots:
 
     void operationsMayEndInAnyOrder()
     {
-        Recorder recorder;
+        OperationLog recorder;
         OperationStatus::setListener(&recorder);
         auto outer = std::make_unique<OperationStatus>("outer", 1, true);
         auto inner = std::make_unique<OperationStatus>("inner", 1, true);
@@ -96,7 +71,7 @@ private slots:
 
     void listenerRegisteredMeanwhileHearsOfNewOperationsOnly()
     {
-        Recorder recorder;
+        OperationLog recorder;
         {
             OperationStatus early("early", 1, true);
             OperationStatus::setListener(&recorder);
@@ -109,9 +84,9 @@ private slots:
 
     void listenerUnregisteredMeanwhileHearsNothingMore()
     {
-        Recorder second;
+        OperationLog second;
         {
-            auto first = std::make_unique<Recorder>();
+            auto first = std::make_unique<OperationLog>();
             OperationStatus::setListener(first.get());
             OperationStatus status("status", 100, true);
             QVERIFY(OperationStatus::setListener(&second) == first.get());
@@ -125,7 +100,7 @@ private slots:
 
     void progressIsToldAtMostTwentyTimesASecond()
     {
-        Recorder recorder;
+        OperationLog recorder;
         OperationStatus::setListener(&recorder);
         QElapsedTimer timer;
         timer.start();
@@ -155,7 +130,7 @@ private slots:
 
     void slowStepsAreToldToo()
     {
-        Recorder recorder;
+        OperationLog recorder;
         OperationStatus::setListener(&recorder);
         OperationStatus status("slow", 8, true);
         for (int i = 0; i < 8; ++i) {
@@ -167,7 +142,7 @@ private slots:
 
     void slowStepsBehindQuickOnesAreTold()
     {
-        Recorder recorder;
+        OperationLog recorder;
         OperationStatus::setListener(&recorder);
         OperationStatus status("quick, then slow", 0, true);
         for (int i = 0; i < 100000; ++i) {
@@ -183,5 +158,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(OperationStatusTest)
+TEST_CLASS(OperationStatusTest, Core)
 #include "operationstatustest.moc"

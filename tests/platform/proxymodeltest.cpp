@@ -1,9 +1,12 @@
 #include "support/SignalRecorder.h"
+#include "support/TestClass.h"
 #include "support/TestTree.h"
 
 #include <QAction>
 #include <QStringListModel>
 #include <QtTest>
+
+using namespace testsupport;
 
 using Fondo::RefPtr;
 using tolvik::Action;
@@ -243,5 +246,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(ProxyModelTest)
+TEST_CLASS(ProxyModelTest, Widgets)
 #include "proxymodeltest.moc"

@@ -2,8 +2,11 @@
 #include "fondo/ClassType.h"
 #include "fondo/RefPtr.h"
 #include "fondo/String.h"
+#include "support/TestClass.h"
 
 #include <QtTest>
+
+using namespace testsupport;
 
 using Fondo::ClassType;
 using Fondo::Referenced;
@@ -240,5 +243,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(ReferencedTest)
+TEST_CLASS(ReferencedTest, Core)
 #include "referencedtest.moc"

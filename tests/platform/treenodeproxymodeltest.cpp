@@ -1,4 +1,5 @@
 #include "support/SignalRecorder.h"
+#include "support/TestClass.h"
 #include "support/TestTree.h"
 
 #include <memory>
@@ -7,6 +8,8 @@
 #include <QSignalSpy>
 #include <QStringListModel>
 #include <QtTest>
+
+using namespace testsupport;
 
 using tolvik::TreeNode;
 
@@ -695,5 +698,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TreeNodeProxyModelTest)
+TEST_CLASS(TreeNodeProxyModelTest, Widgets)
 #include "treenodeproxymodeltest.moc"

@@ -1,8 +1,11 @@
 #include "framework/TreeNode.h"
 #include "fondo/ClassType.h"
 #include "framework/TextConversion.h"
+#include "support/TestClass.h"
 
 #include <QtTest>
+
+using namespace testsupport;
 
 using Fondo::RefPtr;
 using tolvik::TreeNode;
@@ -125,5 +128,5 @@ private slots:
     void nodeIsSmall() { QVERIFY(sizeof(TreeNode) <= 88); }
 };
 
-QTEST_GUILESS_MAIN(TreeNodeTest)
+TEST_CLASS(TreeNodeTest, Core)
 #include "treenodetest.moc"

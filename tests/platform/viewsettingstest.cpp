@@ -1,9 +1,12 @@
+#include "support/TestClass.h"
 #include "viewsettings/CityGMLViewSettingsWidget.h"
 
 #include <cmath>
 #include <limits>
 #include <QDoubleSpinBox>
 #include <QtTest>
+
+using namespace testsupport;
 
 using tolvik::CityGMLViewSettings;
 using tolvik::CityGMLViewSettingsWidget;
@@ -74,5 +77,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(ViewSettingsTest)
+TEST_CLASS(ViewSettingsTest, Widgets)
 #include "viewsettingstest.moc"

@@ -11,12 +11,15 @@
 #include "gml/StringOrRefType.hxx"
 #include "gml/TimePeriodType.hxx"
 #include "gml/TimePositionType.hxx"
+#include "support/PropertyText.h"
+#include "support/TestClass.h"
 #include "UI/Models/CityGMLModel/properties/GmlAttributeProperty.h"
-#include "UI/Models/CityGMLModel/properties/GmlCorePropertyCreator.h"
 #include "UI/Models/CityGMLModel/properties/GmlEnumAttributeProperty.h"
 #include "UI/Models/CityGMLModel/properties/SchemaValues.h"
 
 #include <QtTest>
+
+using namespace testsupport;
 
 using namespace tolvik;
 using namespace tolvik::schema;
@@ -24,11 +27,6 @@ using namespace tolvik::schema;
 namespace {
 
 using Building = bldg::AbstractBuildingType;
-
-Fondo::RefPtr<CoreProperty> propertiesOf(gml::AbstractFeatureType& feature, bool existingOnly = false)
-{
-    return GmlCorePropertyCreator::createProperty(&feature, existingOnly);
-}
 
 /// A property below "Fields", which lives as long as the tree.
 CoreProperty* field(const Fondo::RefPtr<CoreProperty>& root, const QString& name)
@@ -69,7 +67,7 @@ private slots:
     {
         bldg::BuildingType building;
         building.class_(gml::CodeType("1000"));
-        QCOMPARE(field(propertiesOf(building), "Class")->value(), QVariant("1000"));
+        QCOMPARE(field(propertiesOf(building, false), "Class")->value(), QVariant("1000"));
     }
 
     void anEmptyUnitIsNone()
@@ -77,18 +75,18 @@ private slots:
         bldg::BuildingType building;
         building.measuredHeight(length(1, ""));
         building.roofType(gml::CodeType("1"));
-        const auto root = propertiesOf(building);
+        const auto root = propertiesOf(building, false);
         QVERIFY(field(root, "MeasuredHeight")->unit() == nullptr);
         QVERIFY(field(root, "RoofType")->unit() == nullptr);
         building.measuredHeight(length(1, "m"));
-        QCOMPARE(field(propertiesOf(building), "MeasuredHeight")->unit(),
+        QCOMPARE(field(propertiesOf(building, false), "MeasuredHeight")->unit(),
                  static_cast<AbstractUnit*>(UnitCreator::getOrCreateSingleUnit("m", 0, 1)));
     }
 
     void anAbsentAttributeIsEditable()
     {
         bldg::BuildingType building;
-        const auto root = propertiesOf(building);
+        const auto root = propertiesOf(building, false);
         CoreProperty* const property = field(root, "YearOfConstruction");
         QVERIFY(property->editable());
         QVERIFY(!property->value().isValid());
@@ -98,7 +96,7 @@ private slots:
     void theFirstEditMakesTheAttribute()
     {
         bldg::BuildingType building;
-        const auto root = propertiesOf(building);
+        const auto root = propertiesOf(building, false);
         field(root, "YearOfConstruction")->setValue(1789);
         QCOMPARE(building.yearOfConstruction()->year(), 1789);
         field(root, "YearOfConstruction")->setValue(QVariant());
@@ -109,7 +107,7 @@ private slots:
     void valueIsThatOfTheDocument()
     {
         bldg::BuildingType building;
-        const auto root = propertiesOf(building);
+        const auto root = propertiesOf(building, false);
         CoreProperty* const property = field(root, "MeasuredHeight");
         property->setValue("abc");
         QCOMPARE(property->value(), QVariant(0.0));
@@ -123,7 +121,7 @@ private slots:
     void theBaseRecordsTheEdit()
     {
         bldg::BuildingType building;
-        const auto root = propertiesOf(building);
+        const auto root = propertiesOf(building, false);
         CoreProperty* const property = field(root, "MeasuredHeight");
         property->setValue("abc");
         QCOMPARE(property->CoreProperty::value(), QVariant("abc"));
@@ -132,8 +130,8 @@ private slots:
     void twoPropertiesOfOneAttribute()
     {
         bldg::BuildingType building;
-        const auto first = propertiesOf(building);
-        const auto second = propertiesOf(building);
+        const auto first = propertiesOf(building, false);
+        const auto second = propertiesOf(building, false);
         field(first, "StoreysAboveGround")->setValue(7);
         QCOMPARE(field(second, "StoreysAboveGround")->value(), QVariant(qulonglong(7)));
     }
@@ -142,7 +140,7 @@ private slots:
     {
         bldg::BuildingType building;
         building.measuredHeight(length(12.5, "ft"));
-        const auto root = propertiesOf(building);
+        const auto root = propertiesOf(building, false);
         field(root, "MeasuredHeight")->setValue(13);
         QCOMPARE(building.measuredHeight()->uom(), std::string("ft"));
         QCOMPARE(static_cast<double>(building.measuredHeight().get()), 13.0);
@@ -152,7 +150,7 @@ private slots:
     void theUnitIsFixed()
     {
         bldg::BuildingType building;
-        const auto root = propertiesOf(building);
+        const auto root = propertiesOf(building, false);
         building.measuredHeight(length(12.5, "ft"));
         field(root, "MeasuredHeight")->setValue(13);
         QCOMPARE(building.measuredHeight()->uom(), std::string());
@@ -162,9 +160,10 @@ private slots:
     void anAbsentMeasureGetsAnEmptyUnit()
     {
         bldg::BuildingType building;
-        field(propertiesOf(building), "MeasuredHeight")->setValue(5);
+        field(propertiesOf(building, false), "MeasuredHeight")->setValue(5);
         QCOMPARE(building.measuredHeight()->uom(), std::string());
-        field(propertiesOf(building), "StoreyHeightsAboveGround")->setValue(QVariantList{3, "unknown"});
+        field(propertiesOf(building, false), "StoreyHeightsAboveGround")
+            ->setValue(QVariantList{3, "unknown"});
         QCOMPARE(building.storeyHeightsAboveGround()->size(), std::size_t(2));
         QCOMPARE(building.storeyHeightsAboveGround()->uom(), std::string());
     }
@@ -191,7 +190,7 @@ private slots:
             function.codeSpace(uri("space"));
             building.function().push_back(function);
         }
-        const auto root = propertiesOf(building);
+        const auto root = propertiesOf(building, false);
         CoreProperty* const property = field(root, "Function");
         property->setValue(property->value());
         QCOMPARE(property->value(), QVariant(QVariantList{"1000", "1010"}));
@@ -204,7 +203,7 @@ private slots:
     {
         bldg::BuildingType building;
         building.function().push_back(gml::CodeType("1000"));
-        const auto root = propertiesOf(building);
+        const auto root = propertiesOf(building, false);
         field(root, "Function")->setValue(QVariantList{"a", "b", "c"});
         QCOMPARE(building.function().size(), std::size_t(3));
         field(root, "Function")->setValue(QVariant());
@@ -245,7 +244,7 @@ private slots:
         gml::StringOrRefType description("old");
         description.href(uri("#ref"));
         building.description(description);
-        field(propertiesOf(building), "Description")->setValue("new");
+        field(propertiesOf(building, false), "Description")->setValue("new");
         QCOMPARE(static_cast<const std::string&>(building.description().get()), std::string("new"));
         QVERIFY(!building.description()->href().present());
     }
@@ -253,7 +252,7 @@ private slots:
     void enumerationsOfferTheirLiterals()
     {
         bldg::BuildingType building;
-        const auto root = propertiesOf(building);
+        const auto root = propertiesOf(building, false);
         CoreProperty* const property = field(root, "RelativeToTerrain");
         QCOMPARE(property->potentialValues().size(), 5);
         QVERIFY(!property->defaultValue().isValid());
@@ -266,7 +265,7 @@ private slots:
         property->setValue("beside the terrain");
         QVERIFY(building.relativeToTerrain().present());
         QVERIFY(!property->value().isValid());
-        QVERIFY(field(propertiesOf(building), "RelativeToTerrain")
+        QVERIFY(field(propertiesOf(building, false), "RelativeToTerrain")
                     ->potentialValues()
                     .isSharedWith(property->potentialValues()));
     }
@@ -279,5 +278,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(AttributePropertyTest)
+TEST_CLASS(AttributePropertyTest, Core)
 #include "attributepropertytest.moc"

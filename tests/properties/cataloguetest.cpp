@@ -1,11 +1,13 @@
 #include "support/ExpectedProperties.h"
+#include "support/Filler.h"
 #include "support/PropertyDump.h"
+#include "support/TestClass.h"
 #include "UI/Models/CityGMLModel/properties/GmlCorePropertyCreator.h"
 
 #include <QtTest>
 
-using namespace expectedproperties;
-using namespace propertydump;
+using namespace testsupport;
+
 using tolvik::CoreProperty;
 using tolvik::GmlCorePropertyCreator;
 
@@ -22,7 +24,7 @@ Fondo::RefPtr<CoreProperty> propertiesOf(xml_schema::type& object, bool existing
 QVariantList editsOf(const ValueType& type)
 {
     if (type.isEnumeration()) {
-        return ValueType::literals().value(type.base);
+        return enumerationLiterals().value(type.base);
     }
     if (type.form == "sequence") {
         return {type.isMeasure() ? QVariantList{7.25, 8.5} : QVariantList{"edited", "x y"}};
@@ -59,7 +61,7 @@ bool losesEdits(const ValueType& type)
 
 /// Edits the property, and compares it with the document.
 /// \return what is wrong
-QString editProperty(CoreProperty& property, const Node& node)
+QString editProperty(CoreProperty& property, const ExpectedNode& node)
 {
     const ValueType type(node.valueType);
     if (type.base == "simple_type" && textsOf(*node.owner, node.member) == QStringList{QString()}) {
@@ -67,22 +69,23 @@ QString editProperty(CoreProperty& property, const Node& node)
     }
     for (const QVariant& value : editsOf(type)) {
         property.setValue(value);
-        const QString now = dumpValue(property.value());
-        if (now != dumpValue(Builder::currentValue(node))) {
-            return "the document says " + dumpValue(Builder::currentValue(node)) + " and the property " + now;
+        const QString now = typedText(property.value());
+        if (now != typedText(ExpectedProperties::currentValue(node))) {
+            return "the document says " + typedText(ExpectedProperties::currentValue(node)) +
+                   " and the property " + now;
         }
-        const bool isLost = now == dumpValue(QVariant());
+        const bool isLost = now == typedText(QVariant());
         const bool isSame = type.form == "sequence" || value.userType() == QMetaType::QVariantList
                                 ? property.value().toStringList() == value.toStringList()
                                 : property.value().toString() == value.toString();
         if (losesEdits(type) ? !isLost : !isSame) {
-            return now + " instead of " + dumpValue(value);
+            return now + " instead of " + typedText(value);
         }
         if (type.base == "simple_type" && textsOf(*node.owner, node.member) != QStringList{QString()}) {
             return "the document says " + textsOf(*node.owner, node.member).join(' ');
         }
         if (node.member != nullptr && type.isMeasure() &&
-            Builder::uomOf(node.member->ops->at(*node.owner, 0)) != node.unit) {
+            ExpectedProperties::uomOf(node.member->ops->at(*node.owner, 0)) != node.unit) {
             return "the unit is another one";
         }
     }
@@ -91,7 +94,7 @@ QString editProperty(CoreProperty& property, const Node& node)
 
 /// Edits all bound properties of a tree, in the order of the tree.
 /// \return the first thing that is wrong
-QString editAll(CoreProperty& property, const Node& node)
+QString editAll(CoreProperty& property, const ExpectedNode& node)
 {
     if (node.owner != nullptr) {
         const QString wrong = editProperty(property, node);
@@ -149,7 +152,7 @@ private slots:
         for (const bool everything : {true, false}) {
             const std::unique_ptr<xml_schema::type> object = Filler(everything).make(recordByClass(type));
             for (const bool existingOnly : {true, false}) {
-                const QString expected = dump(*Builder(existingOnly).build(*object));
+                const QString expected = dump(*ExpectedProperties(existingOnly).build(*object));
                 const QString actual = dump(*propertiesOf(*object, existingOnly));
                 QVERIFY2(actual == expected, qPrintable(difference(actual, expected)));
             }
@@ -164,7 +167,7 @@ private slots:
         QFETCH(QString, type);
         for (const bool everything : {true, false}) {
             const std::unique_ptr<xml_schema::type> object = Filler(everything).make(recordByClass(type));
-            const std::unique_ptr<Node> expected = Builder(false).build(*object);
+            const std::unique_ptr<ExpectedNode> expected = ExpectedProperties(false).build(*object);
             const QString wrong = editAll(*propertiesOf(*object, false), *expected);
             QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
         }
@@ -176,11 +179,11 @@ private slots:
         QStringList missing;
         for (const auto& row : readTable("rows.tsv")) {
             const QString key = row.value("type") + ' ' + row.value("order");
-            missing += Builder::madeRows().contains(key) ? QString() : key;
+            missing += ExpectedProperties::madeRows().contains(key) ? QString() : key;
         }
         for (const auto& row : readTable("generic_rows.tsv")) {
             const QString key = row.value("operation") + ' ' + row.value("order");
-            missing += Builder::madeRows().contains(key) ? QString() : key;
+            missing += ExpectedProperties::madeRows().contains(key) ? QString() : key;
         }
         missing.removeAll(QString());
         const QStringList unreachable{
@@ -193,5 +196,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(CatalogueTest)
+TEST_CLASS(CatalogueTest, Core)
 #include "cataloguetest.moc"

@@ -1,55 +1,21 @@
-#include "citygml/CityGMLFeaturesFillVisitor.h"
 #include "citygml/CityGmlUtils.h"
+#include "framework/AbstractUnit.h"
+#include "support/Files.h"
 #include "support/PropertyText.h"
-#include "support/TestPaths.h"
+#include "support/TestClass.h"
 
-#include <QDirIterator>
-#include <QFile>
 #include <QtTest>
 #include <QXmlStreamReader>
-#include <typeinfo>
+
+using namespace testsupport;
 
 using namespace tolvik;
 
 namespace {
 
-QStringList documents()
-{
-    QStringList result;
-    for (const QString& directory : {testpaths::examples(), testpaths::sharedFiles() + "/data"}) {
-        QDirIterator files(directory, {"*.gml"}, QDir::Files, QDirIterator::Subdirectories);
-        while (files.hasNext()) {
-            result += files.next();
-        }
-    }
-    result.sort();
-    return result;
-}
-
-QByteArray contentOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-std::unique_ptr<core::CityModelType> read(const QByteArray& xml)
-{
-    std::istringstream stream(xml.toStdString());
-    return std::unique_ptr<core::CityModelType>(core::CityModel(stream).release());
-}
-
 QStringList linesOf(const core::CityModelType& document)
 {
-    std::ostringstream stream;
-    core::CityModel(stream, document, xsd::cxx::xml::dom::namespace_infomap<char>());
-    return QString::fromStdString(stream.str()).split('\n');
-}
-
-std::list<gml::AbstractFeatureType*> featuresOf(core::CityModelType& document)
-{
-    CityGMLFeaturesFillVisitor visitor;
-    document.accept(&visitor);
-    return visitor.getModelFeatures();
+    return QString::fromUtf8(writeWithoutPrefixes(document)).split('\n');
 }
 
 /// Each value of a property with its label, and its unit if it has one; a list is several.
@@ -209,24 +175,17 @@ private:
     int allEdits = 0;
 
 private slots:
-    void valuesOfTheXml_data()
-    {
-        QTest::addColumn<QString>("path");
-        for (const QString& path : documents()) {
-            QTest::newRow(qPrintable(QFileInfo(path).fileName())) << path;
-        }
-    }
+    void valuesOfTheXml_data() { addPathRows(exampleAndSharedDocuments()); }
 
     void valuesOfTheXml()
     {
         QFETCH(QString, path);
-        const auto document = read(contentOf(path));
+        const auto document = readStrictly(contentOf(path));
         QStringList values;
         QStringList types;
         for (gml::AbstractFeatureType* const feature : featuresOf(*document)) {
             types += QString::fromStdString(feature->typeLabel);
-            collect(*Fondo::RefPtr<CoreProperty>(GmlCorePropertyCreator::createProperty(feature, true)),
-                    values);
+            collect(*propertiesOf(*feature, true), values);
         }
         ElementCollector collector(contentOf(path), types);
         for (const QString& row : collector.collect()) {
@@ -241,11 +200,11 @@ private slots:
     void anEditChangesOneValue()
     {
         QFETCH(QString, path);
-        const auto document = read(contentOf(path));
+        const auto document = readStrictly(contentOf(path));
         QStringList before = linesOf(*document);
         int edits = 0;
         for (gml::AbstractFeatureType* const feature : featuresOf(*document)) {
-            const Fondo::RefPtr<CoreProperty> root = GmlCorePropertyCreator::createProperty(feature, true);
+            const Fondo::RefPtr<CoreProperty> root = propertiesOf(*feature, true);
             for (CoreProperty* const property : simpleProperties(*root)) {
                 const bool isNumber = property->value().userType() == QMetaType::Double;
                 if (!property->potentialValues().isEmpty() || ++edits > 40) {
@@ -272,5 +231,5 @@ private slots:
     void thereWereEdits() { QVERIFY(allEdits > 100); }
 };
 
-QTEST_GUILESS_MAIN(DocumentPropertiesTest)
+TEST_CLASS(DocumentPropertiesTest, Core)
 #include "documentpropertiestest.moc"

@@ -1,23 +1,24 @@
 #include "gml/AbstractFeatureType.hxx"
 #include "support/ExpectedProperties.h"
+#include "support/Files.h"
+#include "support/Processes.h"
 #include "support/PropertyDump.h"
+#include "support/TestClass.h"
 #include "support/TestPaths.h"
 #include "UI/Models/CityGMLModel/CityGMLModel.h"
 
-#include <log4cplus/initializer.h>
-#include <log4cplus/nullappender.h>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QProcess>
 #include <QtTest>
 
-using namespace expectedproperties;
+using namespace testsupport;
+
 using tolvik::CityGMLModel;
 
 namespace {
 
-const QString dumps = testpaths::dataFile("dumps");
+const QString dumps = dataFile("dumps");
 
 /// Rows of the tables that no feature of any document shows, with the reason.
 const QMap<QString, QString>& unreachableRows()
@@ -38,12 +39,6 @@ const QMap<QString, QString>& unreachableRows()
     return rows;
 }
 
-QByteArray contentOf(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 QString dumpPath(const QString& example)
 {
     return dumps + '/' + QFileInfo(example).completeBaseName() + ".txt";
@@ -52,25 +47,11 @@ QString dumpPath(const QString& example)
 /// What the terminal tool prints of a document.
 QByteArray printed(const QString& example)
 {
-    QProcess tool;
-    tool.start(testpaths::program("tolvik-inspect"), {"properties", "--every", example});
-    if (!tool.waitForFinished(60000) || tool.exitCode() != 0) {
-        qFatal("%s", tool.readAllStandardError().constData());
+    const ProcessResult tool = inspect({"properties", "--every", example});
+    if (tool.code != 0) {
+        qFatal("%s", tool.err.constData());
     }
-    return tool.readAllStandardOutput();
-}
-
-QString valueText(const QVariant& value)
-{
-    if (value.userType() == QMetaType::QVariantList) {
-        QStringList entries;
-        for (const QVariant& entry : value.toList()) {
-            entries += valueText(entry);
-        }
-        return '[' + entries.join(", ") + ']';
-    }
-    return value.userType() == QMetaType::QDateTime ? value.toDateTime().toString(Qt::ISODate)
-                                                    : value.toString();
+    return tool.out;
 }
 
 /// A line of a dump, and the row of the tables that makes it; empty for a line that is of no row.
@@ -80,11 +61,11 @@ struct Line
     QString row;
 };
 
-void addLines(const Node& node, const QString& indent, QVector<Line>& lines)
+void addLines(const ExpectedNode& node, const QString& indent, QVector<Line>& lines)
 {
     QString text = indent + node.label;
     text += node.value.isValid() || node.editable ? ":" : "";
-    text += node.value.isValid() ? ' ' + valueText(node.value) : QString();
+    text += node.value.isValid() ? ' ' + plainText(node.value) : QString();
     text += node.unit.isEmpty() ? QString() : ' ' + node.unit;
     lines += Line{text, node.row};
     for (const auto& child : node.children) {
@@ -103,7 +84,7 @@ QVector<Line> expectedLines(const QString& example)
         const QString type =
             className(recordOf(*feature)).section("::", 1).remove(QRegularExpression("Type$"));
         lines += Line{QString::number(row) + ' ' + type, QString()};
-        const std::unique_ptr<Node> root = Builder(true).build(*feature);
+        const std::unique_ptr<ExpectedNode> root = ExpectedProperties(true).build(*feature);
         for (const auto& group : root->children) {
             addLines(*group, "  ", lines);
         }
@@ -123,28 +104,16 @@ class DumpsTest : public QObject
     Q_OBJECT
 
 private:
-    log4cplus::Initializer logging;
     QSet<QString> shownRows;
 
-    void addExamples()
-    {
-        QTest::addColumn<QString>("path");
-        for (const QFileInfo& file : QDir(testpaths::examples()).entryInfoList({"*.gml"})) {
-            QTest::newRow(qPrintable(file.fileName())) << file.filePath();
-        }
-    }
+    void addExamples() { addPathRows(documentsBelow(examples())); }
 
 private slots:
-    void initTestCase()
-    {
-        log4cplus::Logger::getRoot().addAppender(log4cplus::SharedAppenderPtr(new log4cplus::NullAppender));
-    }
-
     void thereIsADumpOfEachExample()
     {
         QStringList expected;
-        for (const QFileInfo& file : QDir(testpaths::examples()).entryInfoList({"*.gml"})) {
-            expected += QFileInfo(dumpPath(file.filePath())).fileName();
+        for (const QString& example : documentsBelow(examples())) {
+            expected += QFileInfo(dumpPath(example)).fileName();
         }
         QVERIFY(!expected.isEmpty());
         if (!qEnvironmentVariableIsSet("TOLVIK_WRITE_DUMPS")) {
@@ -159,12 +128,10 @@ private slots:
         QFETCH(QString, path);
         const QByteArray actual = printed(path);
         if (qEnvironmentVariableIsSet("TOLVIK_WRITE_DUMPS")) {
-            QFile file(dumpPath(path));
-            QVERIFY(file.open(QIODevice::WriteOnly));
-            QCOMPARE(file.write(actual), qint64(actual.size()));
+            QVERIFY(writeFile(dumpPath(path), actual));
         }
         const QByteArray expected = contentOf(dumpPath(path));
-        QVERIFY2(actual == expected, qPrintable(propertydump::difference(actual, expected)));
+        QVERIFY2(actual == expected, qPrintable(difference(actual, expected)));
     }
 
     void linesAreThoseOfTheTables_data() { addExamples(); }
@@ -181,8 +148,7 @@ private slots:
             shownRows += line.row;
         }
         expected += QString();
-        QVERIFY2(actual == expected,
-                 qPrintable(propertydump::difference(actual.join('\n'), expected.join('\n'))));
+        QVERIFY2(actual == expected, qPrintable(difference(actual.join('\n'), expected.join('\n'))));
     }
 
     /// The union of the dumps lacks no row of the tables but those that nothing reaches.
@@ -206,5 +172,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(DumpsTest)
+TEST_CLASS(DumpsTest, Core)
 #include "dumpstest.moc"

@@ -1,45 +1,22 @@
 #include "citygml/CityModel.h"
 #include "gml/FeaturePropertyType.hxx"
 #include "support/ExpectedProperties.h"
+#include "support/Filler.h"
 #include "support/PropertyDump.h"
+#include "support/PropertyText.h"
+#include "support/TestClass.h"
 #include "UI/Models/CityGMLModel/properties/GmlCorePropertyCreator.h"
 
 #include <limits>
 #include <QtTest>
 #include <sstream>
 
-using namespace expectedproperties;
-using namespace propertydump;
+using namespace testsupport;
+
 using tolvik::CoreProperty;
 using tolvik::GmlCorePropertyCreator;
 
 namespace {
-
-std::unique_ptr<core::CityModelType> documentWith(const gml::AbstractFeatureType& feature)
-{
-    std::unique_ptr<core::CityModelType> document(new core::CityModelType);
-    document->featureMember().push_back(gml::FeaturePropertyType());
-    document->featureMember().back()._Feature(feature);
-    return document;
-}
-
-gml::AbstractFeatureType& featureOf(core::CityModelType& document)
-{
-    return document.featureMember().front()._Feature().get();
-}
-
-std::string written(const core::CityModelType& document)
-{
-    std::ostringstream stream;
-    core::CityModel(stream, document, xsd::cxx::xml::dom::namespace_infomap<char>());
-    return stream.str();
-}
-
-std::unique_ptr<core::CityModelType> read(const std::string& xml)
-{
-    std::istringstream stream(xml);
-    return std::unique_ptr<core::CityModelType>(core::CityModel(stream).release());
-}
 
 bool hasElement(const TypeRecord* type)
 {
@@ -96,11 +73,6 @@ void editAll(CoreProperty& property, const QString& sort)
     }
 }
 
-Fondo::RefPtr<CoreProperty> propertiesOf(core::CityModelType& document, bool existingOnly)
-{
-    return GmlCorePropertyCreator::createProperty(&featureOf(document), existingOnly);
-}
-
 } // namespace
 
 /// Edits of every attribute of every feature, saved and read again.
@@ -147,22 +119,22 @@ private slots:
         QFETCH(QString, sort);
         for (const bool everything : {false, true}) {
             const std::unique_ptr<xml_schema::type> made = Filler(everything).make(recordByClass(type));
-            auto document = documentWith(dynamic_cast<const gml::AbstractFeatureType&>(*made));
-            editAll(*propertiesOf(*document, false), sort);
-            const QString edited = dump(*propertiesOf(*document, true));
-            const std::string xml = written(*document);
+            FeatureDocument document(dynamic_cast<const gml::AbstractFeatureType&>(*made));
+            editAll(*propertiesOf(document, false), sort);
+            const QString edited = dump(*propertiesOf(document, true));
+            const QByteArray xml = document.text();
             try {
-                document = read(xml);
+                document.reload();
             } catch (const xsd::cxx::tree::exception<char>& error) {
                 std::ostringstream reason;
                 reason << error;
-                QFAIL((reason.str() + '\n' + xml.substr(0, 6000)).c_str());
+                QFAIL((QByteArray::fromStdString(reason.str()) + '\n' + xml.left(6000)).constData());
             }
-            const QString reloaded = dump(*propertiesOf(*document, true));
+            const QString reloaded = dump(*propertiesOf(document, true));
             QVERIFY2(reloaded == edited, qPrintable(difference(reloaded, edited)));
         }
     }
 };
 
-QTEST_GUILESS_MAIN(EditSavingTest)
+TEST_CLASS(EditSavingTest, Core)
 #include "editsavingtest.moc"

@@ -89,7 +89,8 @@
 #include "SMIL20/restartTimingType.hxx"
 #include "SMIL20/syncBehaviorDefaultType.hxx"
 #include "SMIL20/syncBehaviorType.hxx"
-#include "support/TestPaths.h"
+#include "support/Tables.h"
+#include "support/TestClass.h"
 #include "UI/Models/CityGMLModel/properties/SchemaValues.h"
 #include "UI/Models/CityGMLModel/properties/ValueConversion.h"
 #include "utility/ElectricalMediumValueType.hxx"
@@ -105,6 +106,8 @@
 
 #include <QFile>
 #include <QtTest>
+
+using namespace testsupport;
 
 using namespace tolvik;
 using namespace tolvik::schema;
@@ -215,34 +218,13 @@ using namespace tolvik::schema;
 
 namespace {
 
-/// Literals of each type in order, from the table.
-const QMap<QString, QVariantList>& literalTable()
-{
-    static const QMap<QString, QVariantList> table = [] {
-        QMap<QString, QVariantList> result;
-        QFile file(testpaths::dataFile("enumerations.tsv"));
-        file.open(QIODevice::ReadOnly);
-        const QStringList lines = QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts);
-        for (const QString& line : lines.mid(1)) {
-            const QStringList fields = line.split('\t');
-            QVariantList& literals = result[fields.at(0)];
-            if (fields.at(1).toInt() != literals.size()) {
-                qFatal("%s", qPrintable(line));
-            }
-            literals += fields.at(2);
-        }
-        return result;
-    }();
-    return table;
-}
-
 const uri none("");
 
 /// Compares everything of one type with the table.
 template <typename E>
 void compareType(const char* name)
 {
-    const QVariantList literals = literalTable().value(name);
+    const QVariantList literals = enumerationLiterals().value(name);
     QVERIFY2(!literals.isEmpty(), name);
     QCOMPARE(getEnumList<E>(), literals);
     QCOMPARE(getEnumList<optional<E>>(), literals);
@@ -282,7 +264,7 @@ private slots:
         ENUMERATED_TYPES(NAME)
 #undef NAME
         types.sort();
-        QCOMPARE(types, QStringList(literalTable().keys()));
+        QCOMPARE(types, QStringList(enumerationLiterals().keys()));
         QCOMPARE(types.size(), 103);
     }
 
@@ -363,5 +345,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(EnumerationsTest)
+TEST_CLASS(EnumerationsTest, Core)
 #include "enumerationstest.moc"

@@ -1,17 +1,18 @@
 #include "gml/AbstractFeatureType.hxx"
 #include "support/ExpectedProperties.h"
+#include "support/Files.h"
 #include "support/PropertyDump.h"
+#include "support/TestClass.h"
 #include "support/TestPaths.h"
 #include "UI/Models/CityGMLModel/CityGMLModel.h"
 #include "UI/Models/CityGMLModel/properties/GmlCorePropertyCreator.h"
 
-#include <log4cplus/initializer.h>
-#include <log4cplus/nullappender.h>
 #include <QDir>
 #include <QTemporaryDir>
 #include <QtTest>
 
-using namespace expectedproperties;
+using namespace testsupport;
+
 using tolvik::CityGMLModel;
 using tolvik::CoreProperty;
 using tolvik::GmlCorePropertyCreator;
@@ -27,7 +28,7 @@ QMap<QString, QVariantList> enumeratedRows()
             const QString type = row.value("value_type");
             rows.insert("GmlEnumAttributeProperty<" + row.value("type") + ", " + type + "> " +
                             row.value("label"),
-                        ValueType::literals().value(ValueType(type).base));
+                        enumerationLiterals().value(ValueType(type).base));
         }
     }
     return rows;
@@ -38,7 +39,7 @@ template <class Use>
 void forEachEnumerated(CoreProperty& property, Use use)
 {
     for (const auto& child : property.properties()) {
-        const QString type = propertydump::classOf(*child);
+        const QString type = classOf(*child);
         if (type.startsWith("GmlEnumAttributeProperty")) {
             use(*child, type + ' ' + child->name());
         }
@@ -65,25 +66,14 @@ class ExtensionEnumerationsTest : public QObject
     Q_OBJECT
 
 private:
-    log4cplus::Initializer logging;
     QMap<QString, QVariantList> literals;
     /// Row and literal of each edit that came back.
     QSet<QString> survived;
 
 private slots:
-    void initTestCase()
-    {
-        log4cplus::Logger::getRoot().addAppender(log4cplus::SharedAppenderPtr(new log4cplus::NullAppender));
-        literals = enumeratedRows();
-    }
+    void initTestCase() { literals = enumeratedRows(); }
 
-    void literalsSurvive_data()
-    {
-        QTest::addColumn<QString>("path");
-        for (const QFileInfo& file : QDir(testpaths::examples()).entryInfoList({"*.gml"})) {
-            QTest::newRow(qPrintable(file.fileName())) << file.filePath();
-        }
-    }
+    void literalsSurvive_data() { addPathRows(documentsBelow(examples())); }
 
     void literalsSurvive()
     {
@@ -137,5 +127,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(ExtensionEnumerationsTest)
+TEST_CLASS(ExtensionEnumerationsTest, Core)
 #include "extensionenumerationstest.moc"

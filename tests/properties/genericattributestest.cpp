@@ -3,6 +3,7 @@
 #include "energy/ConstructionWeightValue.hxx"
 #include "energy/poly_isLandmarked.hxx"
 #include "energy/ThermalZoneType.hxx"
+#include "framework/AbstractUnit.h"
 #include "gml/AreaType.hxx"
 #include "gml/CodeType.hxx"
 #include "gml/LengthType.hxx"
@@ -16,24 +17,20 @@
 #include "pivotEnergy/poly_uValue.hxx"
 #include "pivotEnergy/poly_yearOfRefurbishment.hxx"
 #include "support/PropertyText.h"
+#include "support/TestClass.h"
 #include "UI/Models/CityGMLModel/properties/GmlEnumGenericApplicationAttributeProperty.h"
 #include "UI/Models/CityGMLModel/properties/SchemaValues.h"
 
 #include <QtTest>
 
+using namespace testsupport;
+
 using namespace tolvik;
 using namespace tolvik::schema;
-using namespace propertytext;
 
 namespace {
 
 using UValue = GmlGenericApplicationAttributeProperty<pivotEnergy::poly_uValue, gml::MeasureType>;
-
-/// A building with the given attributes of extensions.
-QByteArray building(const QByteArray& attributes)
-{
-    return "<bldg:Building>" + attributes + "</bldg:Building>";
-}
 
 QString zoneText(energy::ThermalZoneType& zone, bool existingOnly = true)
 {
@@ -122,7 +119,7 @@ private slots:
     /// Every attribute that a building can have.
     void attributesOfABuilding()
     {
-        QCOMPARE(treeText(building(
+        QCOMPARE(treeText(buildingText(
                      "<utility:buildingHabitants>7</utility:buildingHabitants>"
                      "<energy:buildingType>house</energy:buildingType>"
                      "<energy:constructionWeight>Heavy</energy:constructionWeight>"
@@ -158,9 +155,9 @@ private slots:
     void theOrderIsThatOfTheDocument()
     {
         QCOMPARE(
-            treeText(building("<pivotEnergy:mainMaterial>b</pivotEnergy:mainMaterial>"
-                              "<pivotEnergy:mainConstructionSystem>c</pivotEnergy:mainConstructionSystem>"
-                              "<pivotEnergy:mainMaterial>a</pivotEnergy:mainMaterial>")),
+            treeText(buildingText("<pivotEnergy:mainMaterial>b</pivotEnergy:mainMaterial>"
+                                  "<pivotEnergy:mainConstructionSystem>c</pivotEnergy:mainConstructionSystem>"
+                                  "<pivotEnergy:mainMaterial>a</pivotEnergy:mainMaterial>")),
             QString("Properties\n"
                     "  pivotEnergy\n"
                     "    mainMaterial: b\n"
@@ -172,20 +169,20 @@ private slots:
 
     void anElementThatNoRowNamesIsSkipped()
     {
-        QCOMPARE(treeText(building("<pivotEnergy:nbDwelling>3</pivotEnergy:nbDwelling>")),
+        QCOMPARE(treeText(buildingText("<pivotEnergy:nbDwelling>3</pivotEnergy:nbDwelling>")),
                  QString("Fields\n  ClassType: Building\n"));
     }
 
     void aReferenceWithoutItsObjectHasNoGroup()
     {
-        QCOMPARE(treeText(building("<energy:referencePoint xlink:href='#p'/>")),
+        QCOMPARE(treeText(buildingText("<energy:referencePoint xlink:href='#p'/>")),
                  QString("Fields\n  ClassType: Building\n"));
     }
 
     /// The flag is not looked at: what is not in the slot has no row.
     void absentAttributesHaveNoRow()
     {
-        QVERIFY(!treeText(building(QByteArray()), false).contains("Properties"));
+        QVERIFY(!treeText(buildingText(QByteArray()), false).contains("Properties"));
         energy::ThermalZoneType zone = zoneWith({});
         QCOMPARE(zoneText(zone), QString());
         QCOMPARE(zoneText(zone, false), QString());
@@ -205,7 +202,7 @@ private slots:
 
     void theCallerKeepsTheSlot()
     {
-        Document document(building("<pivotEnergy:mainMaterial>b</pivotEnergy:mainMaterial>"));
+        FeatureDocument document(buildingText("<pivotEnergy:mainMaterial>b</pivotEnergy:mainMaterial>"));
         auto& slot = dynamic_cast<bldg::AbstractBuildingType&>(document.feature())
                          ._GenericApplicationPropertyOfAbstractBuilding();
         const auto root = propertiesOf(document);
@@ -259,7 +256,7 @@ private slots:
         QFETCH(QVariant, value);
         QFETCH(QVariant, shown);
         QFETCH(QByteArray, written);
-        Document document(building(xml));
+        FeatureDocument document(buildingText(xml));
         const QStringList fullPath = QStringList{"Properties"} + path;
         {
             const auto root = propertiesOf(document);
@@ -273,5 +270,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(GenericAttributesTest)
+TEST_CLASS(GenericAttributesTest, Core)
 #include "genericattributestest.moc"

@@ -1,13 +1,15 @@
 #include "UI/Models/CityGMLModel/properties/GmlEditRangeDialog.h"
+#include "support/TestClass.h"
 #include "UI/Models/CityGMLModel/CityGMLModel.h"
 #include "viewsettings/CityGMLViewSettingsWidget.h"
 
-#include <log4cplus/initializer.h>
 #include <memory>
 #include <QDialogButtonBox>
 #include <QPushButton>
 #include <QtTest>
 #include <QVBoxLayout>
+
+using namespace testsupport;
 
 using tolvik::CityGMLViewSettings;
 using tolvik::CityGMLViewSettingsWidget;
@@ -27,9 +29,6 @@ QPushButton* button(const QDialog& dialog, QDialogButtonBox::StandardButton whic
 class GmlEditRangeDialogTest : public QObject
 {
     Q_OBJECT
-
-private:
-    log4cplus::Initializer logging;
 
 private slots:
     void metaObject()
@@ -128,5 +127,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(GmlEditRangeDialogTest)
+TEST_CLASS(GmlEditRangeDialogTest, Widgets)
 #include "gmleditrangedialogtest.moc"

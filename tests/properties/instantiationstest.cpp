@@ -1,14 +1,13 @@
-#include "support/TestPaths.h"
+#include "support/Symbols.h"
+#include "support/Tables.h"
+#include "support/TestClass.h"
 
-#include <cstdlib>
-#include <cxxabi.h>
-#include <memory>
-#include <QFile>
 #include <QHash>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QSet>
 #include <QtTest>
+
+using namespace testsupport;
 
 namespace {
 
@@ -16,39 +15,16 @@ namespace {
 /// parameters, which are spelled as in the tables.
 QStringList exportedNames(const QString& library)
 {
-    QProcess nm;
-    nm.start("nm", {"-D", "--defined-only", testpaths::library(library)});
-    if (!nm.waitForFinished(-1) || nm.exitCode() != 0) {
-        return QStringList();
-    }
     static const QRegularExpression valueClass(
         "\\b(string|uri|date|date_time|duration|gyear)<char, simple_type>");
     static const QRegularExpression container("\\b(optional|sequence)<(.*?), (?:true|false)>");
     QStringList names;
-    for (const QByteArray& line : nm.readAllStandardOutput().split('\n')) {
-        int status = 0;
-        const QByteArray symbol = line.mid(line.lastIndexOf(' ') + 1);
-        const std::unique_ptr<char, void (*)(void*)> text(
-            abi::__cxa_demangle(symbol.constData(), nullptr, nullptr, &status), &std::free);
-        if (status != 0) {
-            continue;
-        }
-        QString name = QString::fromLatin1(text.get()).replace(" >", ">").remove("xsd::cxx::tree::");
+    for (const QString& symbol : exportedSymbols(library)) {
+        QString name = demangled(qPrintable(symbol)).replace(" >", ">").remove("xsd::cxx::tree::");
         name.replace("simple_type<char, xml_schema::type>", "simple_type").replace(valueClass, "\\1");
         names += name.replace(container, "\\1<\\2>");
     }
     return names;
-}
-
-QVector<QStringList> readTable(const QString& name)
-{
-    QFile file(testpaths::dataFile(name));
-    file.open(QIODevice::ReadOnly);
-    QVector<QStringList> rows;
-    for (const QString& line : QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts).mid(1)) {
-        rows += line.split('\t');
-    }
-    return rows;
 }
 
 QStringList sorted(const QSet<QString>& set)
@@ -117,15 +93,15 @@ private slots:
         QSet<QString> attributes;
         QSet<QString> enumerated;
         QSet<QString> valueTypes;
-        for (const QStringList& row : readTable("rows.tsv")) {
+        for (const TableRow& row : readTable("rows.tsv")) {
             const QString owner =
-                row.at(0) == "gml::AbstractFeatureType" ? "gml::AbstractGMLType" : row.at(0);
-            if (row.at(6) == "attr" || row.at(6) == "enum") {
-                attributes += owner + ", " + row.at(5);
-                valueTypes += row.at(5);
+                row.value("type") == "gml::AbstractFeatureType" ? "gml::AbstractGMLType" : row.value("type");
+            if (row.value("kind") == "attr" || row.value("kind") == "enum") {
+                attributes += owner + ", " + row.value("value_type");
+                valueTypes += row.value("value_type");
             }
-            if (row.at(6) == "enum") {
-                enumerated += owner + ", " + row.at(5);
+            if (row.value("kind") == "enum") {
+                enumerated += owner + ", " + row.value("value_type");
             }
         }
         QCOMPARE(sorted(parametersOf("GmlAttributeProperty")), sorted(attributes));
@@ -139,12 +115,12 @@ private slots:
     {
         QSet<QString> attributes;
         QSet<QString> enumerated;
-        for (const QStringList& row : readTable("generic_rows.tsv")) {
-            if (row.at(5).startsWith("generic")) {
-                attributes += row.at(3) + ", " + row.at(4);
+        for (const TableRow& row : readTable("generic_rows.tsv")) {
+            if (row.value("kind").startsWith("generic")) {
+                attributes += row.value("class_matched") + ", " + row.value("value_type");
             }
-            if (row.at(5) == "generic enum") {
-                enumerated += row.at(3) + ", " + row.at(4);
+            if (row.value("kind") == "generic enum") {
+                enumerated += row.value("class_matched") + ", " + row.value("value_type");
             }
         }
         QCOMPARE(sorted(parametersOf("GmlGenericApplicationAttributeProperty")), sorted(attributes));
@@ -188,10 +164,10 @@ private slots:
         }
         QCOMPARE(types.size(), 50);
         QSet<QString> enumerated;
-        for (const QStringList& row : readTable("enumerations.tsv")) {
-            if (!row.at(0).startsWith("core::")) {
-                enumerated += row.at(0);
-                enumerated += "optional<" + row.at(0) + '>';
+        for (const TableRow& row : readTable("enumerations.tsv")) {
+            if (!row.value("type").startsWith("core::")) {
+                enumerated += row.value("type");
+                enumerated += "optional<" + row.value("type") + '>';
             }
         }
         QCOMPARE(enumerated.size(), 202);
@@ -220,25 +196,25 @@ private slots:
             }
         }
         QSet<QString> operations;
-        for (const QStringList& row : readTable("generic_rows.tsv")) {
-            operations += row.at(0).mid(6);
+        for (const TableRow& row : readTable("generic_rows.tsv")) {
+            operations += row.value("operation").mid(6);
         }
         QCOMPARE(sorted(generic), sorted(operations));
         QCOMPARE(generic.size(), 9);
         // Two types have an override that makes no row.
         QSet<QString> typesWithRows{"tran_RailwayType", "tran_SquareType"};
-        for (const QStringList& row : readTable("rows.tsv")) {
-            typesWithRows += QString(row.at(0)).replace("::", "_");
+        for (const TableRow& row : readTable("rows.tsv")) {
+            typesWithRows += QString(row.value("type")).replace("::", "_");
         }
         QCOMPARE(sorted(visits.value("GmlCorePropertyCreator")), sorted(typesWithRows));
         QCOMPARE(typesWithRows.size(), 256);
 
         QHash<QString, QVector<int>> answers;
-        for (const QStringList& row : readTable("types.tsv")) {
-            QVector<int>& counts = answers[row.at(0)];
+        for (const TableRow& row : readTable("types.tsv")) {
+            QVector<int>& counts = answers[row.value("prefix")];
             counts.resize(5);
             ++counts[0];
-            const QString operation = row.at(0) + '_' + row.at(1);
+            const QString operation = row.value("prefix") + '_' + row.value("class");
             int column = 1;
             for (const char* visitor : {"GmlCorePropertyCreator", "CityGMLPropertiesVisitor",
                                         "CityGMLFeaturesVisitor", "CityGMLInheritVisitor"}) {
@@ -257,17 +233,19 @@ private slots:
         }
         answers["all"] = all;
         QStringList prefixes;
-        for (const QStringList& row : readTable("coverage.tsv")) {
+        for (const TableRow& row : readTable("coverage.tsv")) {
             QVector<int> expected;
-            for (const QString& count : row.mid(1)) {
-                expected += count.toInt();
+            for (const char* const column : {"operations", "property_creator", "properties_visitor",
+                                             "features_visitor", "inherit_visitor"}) {
+                expected += row.value(column).toInt();
             }
-            QVERIFY2(answers.value(row.at(0)) == expected, qPrintable(row.join(' ')));
-            prefixes += row.at(0);
+            const QString prefix = row.value("prefix");
+            QVERIFY2(answers.value(prefix) == expected, qPrintable(prefix));
+            prefixes += prefix;
         }
         QCOMPARE(prefixes.size(), answers.size());
     }
 };
 
-QTEST_GUILESS_MAIN(InstantiationsTest)
+TEST_CLASS(InstantiationsTest, Core)
 #include "instantiationstest.moc"

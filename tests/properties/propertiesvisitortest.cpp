@@ -16,6 +16,7 @@
 #include "gml/EnvelopeType.hxx"
 #include "grp/CityObjectGroupMemberType.hxx"
 #include "support/PropertyText.h"
+#include "support/TestClass.h"
 #include "UI/Models/CityGMLModel/properties/CityGMLPropertiesVisitor.h"
 #include "xAL_2_0/Address.hxx"
 #include "xAL_2_0/AddressDetails.hxx"
@@ -28,7 +29,7 @@
 
 #include <QtTest>
 
-using propertytext::Document;
+using testsupport::FeatureDocument;
 using tolvik::CityGMLPropertiesVisitor;
 
 namespace {
@@ -87,7 +88,7 @@ private:
 /// What a visit of a feature enters.
 QString visitText(const QByteArray& feature)
 {
-    Document document(feature);
+    FeatureDocument document(feature);
     Recorder recorder;
     document.feature().accept(&recorder);
     return recorder.text;
@@ -304,5 +305,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(PropertiesVisitorTest)
+TEST_CLASS(PropertiesVisitorTest, Core)
 #include "propertiesvisitortest.moc"

@@ -1,14 +1,16 @@
 #include "bldg/BuildingType.hxx"
 #include "core/ExternalObjectReferenceType.hxx"
 #include "core/ExternalReferenceType.hxx"
+#include "framework/AbstractUnit.h"
 #include "gen/StringAttributeType.hxx"
 #include "gml/EnvelopeType.hxx"
 #include "support/PropertyText.h"
+#include "support/TestClass.h"
 
 #include <QtTest>
 #include <QUrl>
 
-using namespace propertytext;
+using namespace testsupport;
 using tolvik::CoreProperty;
 using tolvik::GmlCorePropertyCreator;
 
@@ -120,10 +122,10 @@ private slots:
 
     void anAbsentMeasureHasNoUnit()
     {
-        Document absent("<bldg:Building/>");
+        FeatureDocument absent("<bldg:Building/>");
         const auto root = propertiesOf(absent, false);
         QVERIFY(findProperty(root, {"Fields", "MeasuredHeight"})->unit() == nullptr);
-        Document present(
+        FeatureDocument present(
             "<bldg:Building><bldg:measuredHeight uom='#m'>1</bldg:measuredHeight></bldg:Building>");
         const auto other = propertiesOf(present, false);
         QCOMPARE(findProperty(other, {"Fields", "MeasuredHeight"})->unit()->name(), QString("#m"));
@@ -308,7 +310,7 @@ private slots:
     /// A reference that points to nothing has a row without a value, and no empty address.
     void references()
     {
-        Document document(
+        FeatureDocument document(
             "<energy:ThermalBoundary>"
             "<energy:thermalBoundaryType>Roof</energy:thermalBoundaryType>"
             "<energy:relatesTo xlink:href='a b'/><energy:relatesTo/><energy:relatesTo xlink:href=''/>"
@@ -332,7 +334,7 @@ private slots:
                  QString("Fields\n  GeneralizesTo\n    Generalize: #low\n  ClassType: Building\n"));
         QCOMPARE(treeText("<bldg:Building>" + nameless + link + "</bldg:Building>"),
                  QString("Fields\n  GeneralizesTo\n  ClassType: Building\n"));
-        Document document("<bldg:Building>" + known + "</bldg:Building>");
+        FeatureDocument document("<bldg:Building>" + known + "</bldg:Building>");
         const auto root = propertiesOf(document);
         QVERIFY(!findProperty(root, {"Fields", "GeneralizesTo", "Generalize"})->editable());
     }
@@ -446,7 +448,7 @@ private slots:
 
     void readOnlyRowsReachNothing()
     {
-        Document document("<bldg:Building gml:id='b'/>");
+        FeatureDocument document("<bldg:Building gml:id='b'/>");
         const auto root = propertiesOf(document);
         CoreProperty* const id = findProperty(root, {"Fields", "Id"});
         QVERIFY(!id->editable());
@@ -458,5 +460,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(PropertyCreatorTest)
+TEST_CLASS(PropertyCreatorTest, Core)
 #include "propertycreatortest.moc"

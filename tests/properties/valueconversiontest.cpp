@@ -18,6 +18,8 @@
 #include "gml/UnitOfMeasureType.hxx"
 #include "gml/VolumeType.hxx"
 #include "pivotEnergy/LifeCycleStageType.hxx"
+#include "support/TestClass.h"
+#include "support/VariantText.h"
 #include "UI/Models/CityGMLModel/properties/SchemaValues.h"
 
 #include <cmath>
@@ -26,6 +28,8 @@
 #include <QtTest>
 #include <QUrl>
 
+using namespace testsupport;
+
 using namespace tolvik;
 using namespace tolvik::schema;
 
@@ -33,27 +37,11 @@ namespace {
 
 const uri metre("m");
 
-/// The variant with its type, so that a number and its text differ.
-QString shown(const QVariant& value)
-{
-    if (!value.isValid()) {
-        return "invalid";
-    }
-    if (value.userType() == QMetaType::QVariantList) {
-        QStringList entries;
-        for (const QVariant& entry : value.toList()) {
-            entries += shown(entry);
-        }
-        return '[' + entries.join(", ") + ']';
-    }
-    return QString(value.typeName()) + ' ' + value.toString();
-}
-
 /// What a value shows after it was made from a variant.
 template <typename T>
 QString edited(const QVariant& value, const uri& uom = metre)
 {
-    return shown(toQVariant<T>(fromQVariant<T>(value, uom)));
+    return typedText(toQVariant<T>(fromQVariant<T>(value, uom)));
 }
 
 /// Variants that stand for nothing of a kind that has a number, a date or a list.
@@ -62,7 +50,8 @@ const QVariantList wrongVariants{QVariant(), QString(), "abc", QUrl("a b"), QVar
 /// All of them make the same value, which shows as \a expected.
 #define COMPARE_WRONG(T, expected)                                                                           \
     for (const QVariant& wrong : wrongVariants) {                                                            \
-        QVERIFY2((edited<T>(wrong)) == (expected), qPrintable(shown(wrong) + " makes " + edited<T>(wrong))); \
+        QVERIFY2((edited<T>(wrong)) == (expected),                                                           \
+                 qPrintable(typedText(wrong) + " makes " + edited<T>(wrong)));                               \
     }
 
 } // namespace
@@ -75,9 +64,9 @@ private:
     template <typename T>
     void compareMeasure(double start)
     {
-        QCOMPARE(shown(toQVariant<T>(T(12.5, metre))), QString("double 12.5"));
-        QCOMPARE(shown(toQVariant<optional<T>>(optional<T>(T(12.5, metre)))), QString("double 12.5"));
-        QCOMPARE(shown(toQVariant<optional<T>>(optional<T>())), QString("invalid"));
+        QCOMPARE(typedText(toQVariant<T>(T(12.5, metre))), QString("double 12.5"));
+        QCOMPARE(typedText(toQVariant<optional<T>>(optional<T>(T(12.5, metre)))), QString("double 12.5"));
+        QCOMPARE(typedText(toQVariant<optional<T>>(optional<T>())), QString("invalid"));
         const T value = fromQVariant<T>("-0.125", uri("cm"));
         QCOMPARE(static_cast<double>(value), -0.125);
         QCOMPARE(value.uom(), std::string("cm"));
@@ -93,12 +82,12 @@ private:
     template <typename T>
     void compareText()
     {
-        QCOMPARE(shown(toQVariant<T>(T("Höhe\n<&>"))), QString("QString Höhe\n<&>"));
+        QCOMPARE(typedText(toQVariant<T>(T("Höhe\n<&>"))), QString("QString Höhe\n<&>"));
         QCOMPARE(edited<T>("日本 𝄞"), QString("QString 日本 𝄞"));
         QCOMPARE(edited<T>(12.5), QString("QString 12.5"));
         QCOMPARE(edited<T>(QVariant()), QString("QString "));
         QCOMPARE(edited<T>(QVariantList{1}), QString("QString "));
-        QCOMPARE(shown(defaultValue<T>()), QString("QString "));
+        QCOMPARE(typedText(defaultValue<T>()), QString("QString "));
     }
 
     template <typename T>
@@ -108,23 +97,24 @@ private:
         values.push_back(T(1.5, uri("a")));
         values.push_back(T(2.5, uri("b")));
         const QVariant list = toQVariant<sequence<T>>(values);
-        QCOMPARE(shown(list), QString("[double 1.5, double 2.5]"));
+        QCOMPARE(typedText(list), QString("[double 1.5, double 2.5]"));
         for (const T& value : fromQVariant<sequence<T>>(list, uri("c"))) {
             QCOMPARE(value.uom(), std::string("c"));
         }
         QCOMPARE(edited<sequence<T>>(QVariantList{"x", QVariant()}), QString("[double 0, double 0]"));
         COMPARE_WRONG(sequence<T>, "[]")
-        QCOMPARE(shown(defaultValue<sequence<T>>()), QString("[]"));
+        QCOMPARE(typedText(defaultValue<sequence<T>>()), QString("[]"));
     }
 
     template <typename T>
     void compareNullableList()
     {
-        QCOMPARE(shown(toQVariant<optional<T>>(optional<T>())), QString("[]"));
+        QCOMPARE(typedText(toQVariant<optional<T>>(optional<T>())), QString("[]"));
         const QVariantList entries{"3.50", "unknown", 2};
         const optional<T> list = fromQVariant<optional<T>>(entries, uri("m"));
         QCOMPARE(list->uom(), std::string("m"));
-        QCOMPARE(shown(toQVariant<optional<T>>(list)), QString("[QString 3.50, QString unknown, QString 2]"));
+        QCOMPARE(typedText(toQVariant<optional<T>>(list)),
+                 QString("[QString 3.50, QString unknown, QString 2]"));
         QVERIFY(fromQVariant<optional<T>>(QVariant(), metre).present());
         COMPARE_WRONG(optional<T>, "[]")
     }
@@ -144,9 +134,9 @@ private:
 private slots:
     void realNumbers()
     {
-        QCOMPARE(shown(toQVariant<double>(-2.5)), QString("double -2.5"));
-        QCOMPARE(shown(toQVariant<optional<double>>(optional<double>(1e300))), QString("double 1e+300"));
-        QCOMPARE(shown(toQVariant<optional<double>>(optional<double>())), QString("invalid"));
+        QCOMPARE(typedText(toQVariant<double>(-2.5)), QString("double -2.5"));
+        QCOMPARE(typedText(toQVariant<optional<double>>(optional<double>(1e300))), QString("double 1e+300"));
+        QCOMPARE(typedText(toQVariant<optional<double>>(optional<double>())), QString("invalid"));
         QCOMPARE(edited<double>("12.5"), QString("double 12.5"));
         QCOMPARE(edited<double>(7), QString("double 7"));
         QCOMPARE(fromQVariant<double>(std::numeric_limits<double>::denorm_min(), metre),
@@ -156,50 +146,50 @@ private slots:
             std::isinf(fromQVariant<optional<double>>(std::numeric_limits<double>::infinity(), metre).get()));
         COMPARE_WRONG(double, "double 0")
         COMPARE_WRONG(optional<double>, "double 0")
-        QCOMPARE(shown(defaultValue<double>()), QString("double 0"));
-        QCOMPARE(shown(defaultValue<optional<double>>()), QString("double 0"));
+        QCOMPARE(typedText(defaultValue<double>()), QString("double 0"));
+        QCOMPARE(typedText(defaultValue<optional<double>>()), QString("double 0"));
     }
 
     void truthValues()
     {
-        QCOMPARE(shown(toQVariant<bool>(true)), QString("bool true"));
-        QCOMPARE(shown(toQVariant<optional<bool>>(optional<bool>())), QString("invalid"));
+        QCOMPARE(typedText(toQVariant<bool>(true)), QString("bool true"));
+        QCOMPARE(typedText(toQVariant<optional<bool>>(optional<bool>())), QString("invalid"));
         QCOMPARE(edited<bool>("true"), QString("bool true"));
         QCOMPARE(edited<optional<bool>>(false), QString("bool false"));
         QCOMPARE(edited<optional<bool>>(2), QString("bool true"));
         for (const QVariant& wrong : {QVariant(), QVariant(QString()), QVariant(QVariantMap())}) {
             QCOMPARE(edited<optional<bool>>(wrong), QString("bool false"));
         }
-        QCOMPARE(shown(defaultValue<bool>()), QString("bool false"));
-        QCOMPARE(shown(defaultValue<optional<bool>>()), QString("bool false"));
+        QCOMPARE(typedText(defaultValue<bool>()), QString("bool false"));
+        QCOMPARE(typedText(defaultValue<optional<bool>>()), QString("bool false"));
     }
 
     void wholeNumbers()
     {
-        QCOMPARE(shown(toQVariant<optional<int>>(optional<int>(-5))), QString("int -5"));
-        QCOMPARE(shown(toQVariant<optional<int>>(optional<int>())), QString("invalid"));
+        QCOMPARE(typedText(toQVariant<optional<int>>(optional<int>(-5))), QString("int -5"));
+        QCOMPARE(typedText(toQVariant<optional<int>>(optional<int>())), QString("invalid"));
         QCOMPARE(edited<optional<int>>("2147483647"), QString("int 2147483647"));
         QCOMPARE(edited<optional<int>>(2147483648LL), QString("int 0"));
         COMPARE_WRONG(optional<int>, "int 0")
-        QCOMPARE(shown(defaultValue<optional<int>>()), QString("int 0"));
+        QCOMPARE(typedText(defaultValue<optional<int>>()), QString("int 0"));
 
-        QCOMPARE(shown(toQVariant<long long>(9007199254740993LL)), QString("qlonglong 9007199254740993"));
+        QCOMPARE(typedText(toQVariant<long long>(9007199254740993LL)), QString("qlonglong 9007199254740993"));
         QCOMPARE(edited<long long>(-7), QString("qlonglong -7"));
         QCOMPARE(edited<optional<long long>>("-2147483648"), QString("qlonglong -2147483648"));
         COMPARE_WRONG(long long, "qlonglong 0")
         COMPARE_WRONG(optional<long long>, "qlonglong 0")
-        QCOMPARE(shown(defaultValue<long long>()), QString("int 0"));
-        QCOMPARE(shown(defaultValue<optional<long long>>()), QString("int 0"));
+        QCOMPARE(typedText(defaultValue<long long>()), QString("int 0"));
+        QCOMPARE(typedText(defaultValue<optional<long long>>()), QString("int 0"));
 
         using Unsigned = optional<unsigned long long>;
-        QCOMPARE(shown(toQVariant<Unsigned>(Unsigned(18446744073709551615ULL))),
+        QCOMPARE(typedText(toQVariant<Unsigned>(Unsigned(18446744073709551615ULL))),
                  QString("qulonglong 18446744073709551615"));
         QCOMPARE(edited<Unsigned>(4294967295U), QString("qulonglong 4294967295"));
         QCOMPARE(edited<Unsigned>("4294967296"), QString("qulonglong 0"));
         QCOMPARE(edited<Unsigned>(-1), QString("qulonglong 0"));
         QCOMPARE(edited<Unsigned>("-1"), QString("qulonglong 0"));
         COMPARE_WRONG(Unsigned, "qulonglong 0")
-        QCOMPARE(shown(defaultValue<Unsigned>()), QString("qulonglong 0"));
+        QCOMPARE(typedText(defaultValue<Unsigned>()), QString("qulonglong 0"));
     }
 
     /// The edit has 32 bits, where the display has 64.
@@ -217,25 +207,25 @@ private slots:
                      0LL);
             QCOMPARE(fromQVariant<optional<unsigned long long>>(number, metre).get(), 0ULL);
         }
-        QCOMPARE(shown(toQVariant<long long>(5000000000LL)), QString("qlonglong 5000000000"));
+        QCOMPARE(typedText(toQVariant<long long>(5000000000LL)), QString("qlonglong 5000000000"));
         QCOMPARE(edited<optional<int>>(2147483647ULL), QString("int 2147483647"));
     }
 
     void boundedNumbers()
     {
         using Integer = core::integerBetween0and4;
-        QCOMPARE(shown(toQVariant<Integer>(Integer(3))), QString("int 3"));
-        QCOMPARE(shown(toQVariant<Integer>(Integer((1LL << 32) + 2))), QString("int 2"));
+        QCOMPARE(typedText(toQVariant<Integer>(Integer(3))), QString("int 3"));
+        QCOMPARE(typedText(toQVariant<Integer>(Integer((1LL << 32) + 2))), QString("int 2"));
         QCOMPARE(edited<Integer>(9), QString("int 9"));
         COMPARE_WRONG(Integer, "int 0")
-        QCOMPARE(shown(defaultValue<Integer>()), QString("int 0"));
+        QCOMPARE(typedText(defaultValue<Integer>()), QString("int 0"));
 
         using Real = optional<core::doubleBetween0and1>;
-        QCOMPARE(shown(toQVariant<Real>(Real(core::doubleBetween0and1(0.25)))), QString("double 0.25"));
-        QCOMPARE(shown(toQVariant<Real>(Real())), QString("invalid"));
+        QCOMPARE(typedText(toQVariant<Real>(Real(core::doubleBetween0and1(0.25)))), QString("double 0.25"));
+        QCOMPARE(typedText(toQVariant<Real>(Real())), QString("invalid"));
         QCOMPARE(edited<Real>(-3.5), QString("double -3.5"));
         COMPARE_WRONG(Real, "double 0")
-        QCOMPARE(shown(defaultValue<Real>()), QString("double 0"));
+        QCOMPARE(typedText(defaultValue<Real>()), QString("double 0"));
     }
 
     void measures()
@@ -254,12 +244,13 @@ private slots:
         compareText<gml::CodeType>();
         compareText<gml::TimeUnitType>();
         compareText<pivotEnergy::LifeCycleStageType>();
-        QCOMPARE(shown(toQVariant<optional<string>>(optional<string>())), QString("invalid"));
-        QCOMPARE(shown(toQVariant<optional<gml::CodeType>>(optional<gml::CodeType>())), QString("invalid"));
+        QCOMPARE(typedText(toQVariant<optional<string>>(optional<string>())), QString("invalid"));
+        QCOMPARE(typedText(toQVariant<optional<gml::CodeType>>(optional<gml::CodeType>())),
+                 QString("invalid"));
         QCOMPARE(edited<optional<gml::CodeType>>("x"), QString("QString x"));
         QCOMPARE(edited<optional<gml::StringOrRefType>>("x"), QString("QString x"));
-        QCOMPARE(shown(defaultValue<optional<gml::StringOrRefType>>()), QString("QString "));
-        QCOMPARE(shown(defaultValue<gml::NullEnumeration>()), QString("QString "));
+        QCOMPARE(typedText(defaultValue<optional<gml::StringOrRefType>>()), QString("QString "));
+        QCOMPARE(typedText(defaultValue<gml::NullEnumeration>()), QString("QString "));
     }
 
     /// An empty edit leaves an empty text, and does not remove the attribute.
@@ -279,31 +270,31 @@ private slots:
 
     void uris()
     {
-        QCOMPARE(shown(toQVariant<uri>(uri("http://a/ä b"))), QString("QString http://a/ä b"));
+        QCOMPARE(typedText(toQVariant<uri>(uri("http://a/ä b"))), QString("QString http://a/ä b"));
         const QVariant link = toQVariant<optional<uri>>(optional<uri>(uri("http://a/b c")));
         QCOMPARE(link.userType(), int(QMetaType::QUrl));
         QCOMPARE(link.toUrl(), QUrl("http://a/b c", QUrl::TolerantMode));
-        QCOMPARE(shown(toQVariant<optional<uri>>(optional<uri>())), QString("invalid"));
+        QCOMPARE(typedText(toQVariant<optional<uri>>(optional<uri>())), QString("invalid"));
         QCOMPARE(fromQVariant<uri>(QUrl("http://a/b"), metre), std::string("http://a/b"));
         QCOMPARE(fromQVariant<optional<uri>>("b c", metre).get(), std::string("b c"));
         QCOMPARE(fromQVariant<optional<uri>>(QVariant(), metre).get(), std::string());
-        QCOMPARE(shown(defaultValue<uri>()), QString("QString "));
-        QCOMPARE(shown(defaultValue<optional<uri>>()), QString("QString "));
+        QCOMPARE(typedText(defaultValue<uri>()), QString("QString "));
+        QCOMPARE(typedText(defaultValue<optional<uri>>()), QString("QString "));
     }
 
     void units()
     {
         using Unit = gml::UnitOfMeasureType;
-        QCOMPARE(shown(toQVariant<Unit>(Unit(uri("kWh")))), QString("QString kWh"));
+        QCOMPARE(typedText(toQVariant<Unit>(Unit(uri("kWh")))), QString("QString kWh"));
         QCOMPARE(fromQVariant<Unit>("W", metre).uom(), std::string("W"));
         QCOMPARE(fromQVariant<Unit>(QVariant(), metre).uom(), std::string());
-        QCOMPARE(shown(defaultValue<Unit>()), QString("QString "));
+        QCOMPARE(typedText(defaultValue<Unit>()), QString("QString "));
     }
 
     void dates()
     {
-        QCOMPARE(shown(toQVariant<date>(date(2020, 2, 29, 2, 0))), QString("QDate 2020-02-29"));
-        QCOMPARE(shown(toQVariant<optional<date>>(optional<date>())), QString("invalid"));
+        QCOMPARE(typedText(toQVariant<date>(date(2020, 2, 29, 2, 0))), QString("QDate 2020-02-29"));
+        QCOMPARE(typedText(toQVariant<optional<date>>(optional<date>())), QString("invalid"));
         QCOMPARE(edited<date>(QDate(2001, 2, 3)), QString("QDate 2001-02-03"));
         QCOMPARE(edited<optional<date>>("2001-02-03"), QString("QDate 2001-02-03"));
         QVERIFY(!fromQVariant<date>(QDate(2001, 2, 3), metre).zone_present());
@@ -320,8 +311,8 @@ private slots:
 
     void years()
     {
-        QCOMPARE(shown(toQVariant<gyear>(gyear(1789, 1, 0))), QString("int 1789"));
-        QCOMPARE(shown(toQVariant<optional<gyear>>(optional<gyear>())), QString("invalid"));
+        QCOMPARE(typedText(toQVariant<gyear>(gyear(1789, 1, 0))), QString("int 1789"));
+        QCOMPARE(typedText(toQVariant<optional<gyear>>(optional<gyear>())), QString("invalid"));
         QCOMPARE(edited<gyear>(-44), QString("int -44"));
         QCOMPARE(edited<optional<gyear>>("12345"), QString("int 12345"));
         QVERIFY(!fromQVariant<gyear>(1789, metre).zone_present());
@@ -343,7 +334,7 @@ private slots:
         QCOMPARE(back->seconds(), 12.0);
         QVERIFY(!back->zone_present());
         QCOMPARE(fromQVariant<Moment>(QDate(-44, 3, 15), metre)->year(), -44);
-        QCOMPARE(shown(toQVariant<Moment>(Moment())), QString("invalid"));
+        QCOMPARE(typedText(toQVariant<Moment>(Moment())), QString("invalid"));
         for (const QVariant& wrong : wrongVariants) {
             const Moment made = fromQVariant<Moment>(wrong, metre);
             QVERIFY(made->year() == 0 && made->month() == 0 && made->day() == 0);
@@ -364,7 +355,7 @@ private slots:
                      .toDateTime()
                      .time()
                      .second());
-        QCOMPARE(shown(toQVariant<Duration>(Duration())), QString("invalid"));
+        QCOMPARE(typedText(toQVariant<Duration>(Duration())), QString("invalid"));
         QVERIFY(!fromQVariant<Duration>(QDateTime::currentDateTime(), metre).present());
         QVERIFY(!fromQVariant<Duration>(QVariant(), metre).present());
         compareStartMoment<Duration>();
@@ -375,20 +366,20 @@ private slots:
         sequence<string> texts;
         texts.push_back(string("a"));
         texts.push_back(string(""));
-        QCOMPARE(shown(toQVariant<sequence<string>>(texts)), QString("[QString a, QString ]"));
+        QCOMPARE(typedText(toQVariant<sequence<string>>(texts)), QString("[QString a, QString ]"));
         QCOMPARE(edited<sequence<string>>(QVariantList{1.5, "x"}), QString("[QString 1.5, QString x]"));
         QCOMPARE(edited<sequence<string>>(QStringList{"p", "q"}), QString("[QString p, QString q]"));
         COMPARE_WRONG(sequence<string>, "[]")
-        QCOMPARE(shown(defaultValue<sequence<string>>()), QString("[]"));
+        QCOMPARE(typedText(defaultValue<sequence<string>>()), QString("[]"));
 
         gml::CodeType code("a");
         code.codeSpace(uri("space"));
         sequence<gml::CodeType> codes;
         codes.push_back(code);
         const QVariant list = toQVariant<sequence<gml::CodeType>>(codes);
-        QCOMPARE(shown(list), QString("[QString a]"));
+        QCOMPARE(typedText(list), QString("[QString a]"));
         QVERIFY(!fromQVariant<sequence<gml::CodeType>>(list, metre).front().codeSpace().present());
-        QCOMPARE(shown(defaultValue<sequence<gml::CodeType>>()), QString("[]"));
+        QCOMPARE(typedText(defaultValue<sequence<gml::CodeType>>()), QString("[]"));
     }
 
     void measureSequences()
@@ -402,9 +393,9 @@ private slots:
         using List = gml::MeasureListType;
         const List list = fromQVariant<List>(QVariantList{1, "2.5", "x"}, uri("W"));
         QCOMPARE(list.uom(), std::string("W"));
-        QCOMPARE(shown(toQVariant<List>(list)), QString("[double 1, double 2.5, double 0]"));
+        QCOMPARE(typedText(toQVariant<List>(list)), QString("[double 1, double 2.5, double 0]"));
         COMPARE_WRONG(List, "[]")
-        QCOMPARE(shown(defaultValue<List>()), QString("[]"));
+        QCOMPARE(typedText(defaultValue<List>()), QString("[]"));
     }
 
     void integerLists()
@@ -412,21 +403,21 @@ private slots:
         using List = optional<gml::integerList>;
         gml::integerList numbers;
         numbers.push_back(9007199254740993LL);
-        QCOMPARE(shown(toQVariant<List>(List(numbers))), QString("[qlonglong 9007199254740993]"));
-        QCOMPARE(shown(toQVariant<List>(List())), QString("[]"));
+        QCOMPARE(typedText(toQVariant<List>(List(numbers))), QString("[qlonglong 9007199254740993]"));
+        QCOMPARE(typedText(toQVariant<List>(List())), QString("[]"));
         QCOMPARE(edited<List>(QVariantList{-1, "7", "5000000000"}),
                  QString("[qlonglong -1, qlonglong 7, qlonglong 0]"));
         QVERIFY(fromQVariant<List>(QVariant(), metre).present());
         COMPARE_WRONG(List, "[]")
-        QCOMPARE(shown(defaultValue<List>()), QString("[]"));
+        QCOMPARE(typedText(defaultValue<List>()), QString("[]"));
     }
 
     void nullableLists()
     {
         compareNullableList<gml::MeasureOrNullListType>();
         compareNullableList<gml::QuantityExtentType>();
-        QCOMPARE(shown(defaultValue<optional<gml::MeasureOrNullListType>>()), QString("[]"));
-        QCOMPARE(shown(defaultValue<optional<gml::QuantityExtentType>>()), QString("invalid"));
+        QCOMPARE(typedText(defaultValue<optional<gml::MeasureOrNullListType>>()), QString("[]"));
+        QCOMPARE(typedText(defaultValue<optional<gml::QuantityExtentType>>()), QString("invalid"));
     }
 
     /// Shown, and never written: an edit removes the position.
@@ -436,22 +427,23 @@ private slots:
         gml::DirectPositionType position;
         position.push_back(458868.5);
         position.push_back(-1.0);
-        QCOMPARE(shown(toQVariant<Position>(Position(position))), QString("[double 458868.5, double -1]"));
-        QCOMPARE(shown(toQVariant<Position>(Position())), QString("invalid"));
+        QCOMPARE(typedText(toQVariant<Position>(Position(position))),
+                 QString("[double 458868.5, double -1]"));
+        QCOMPARE(typedText(toQVariant<Position>(Position())), QString("invalid"));
         QVERIFY(!fromQVariant<Position>(QVariantList(), metre).present());
         QVERIFY(!fromQVariant<Position>(QVariantList{1.0, 2.0}, metre).present());
-        QCOMPARE(shown(defaultValue<Position>()), QString("[]"));
+        QCOMPARE(typedText(defaultValue<Position>()), QString("[]"));
     }
 
     /// Values of any simple type do not show, and come back as an empty one.
     void placeholders()
     {
         using Placeholder = optional<simple_type>;
-        QCOMPARE(shown(toQVariant<Placeholder>(Placeholder(simple_type("x")))), QString("invalid"));
-        QCOMPARE(shown(toQVariant<Placeholder>(Placeholder())), QString("invalid"));
+        QCOMPARE(typedText(toQVariant<Placeholder>(Placeholder(simple_type("x")))), QString("invalid"));
+        QCOMPARE(typedText(toQVariant<Placeholder>(Placeholder())), QString("invalid"));
         const Placeholder value = fromQVariant<Placeholder>("x", metre);
         QVERIFY(value.present());
-        QCOMPARE(shown(defaultValue<Placeholder>()), QString("invalid"));
+        QCOMPARE(typedText(defaultValue<Placeholder>()), QString("invalid"));
     }
 
     void absenceOfTheLists()
@@ -465,5 +457,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(ValueConversionTest)
+TEST_CLASS(ValueConversionTest, Core)
 #include "valueconversiontest.moc"

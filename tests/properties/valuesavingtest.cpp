@@ -1,4 +1,6 @@
 #include "support/PropertyText.h"
+#include "support/TestClass.h"
+#include "support/VariantText.h"
 
 #include <limits>
 #include <QDate>
@@ -8,33 +10,18 @@
 #include <QUrl>
 #include <sstream>
 
-using namespace propertytext;
+using namespace testsupport;
+
 using tolvik::CoreProperty;
 
 namespace {
-
-/// The variant with its type, so that a number and its text differ.
-QString shownText(const QVariant& value)
-{
-    if (!value.isValid()) {
-        return "invalid";
-    }
-    if (value.userType() == QMetaType::QVariantList) {
-        QStringList entries;
-        for (const QVariant& entry : value.toList()) {
-            entries += shownText(entry);
-        }
-        return '[' + entries.join(", ") + ']';
-    }
-    return QString(value.typeName()) + ' ' + value.toString();
-}
 
 /// A feature with the content, and what an edit of a property of it gives.
 class Kind
 {
 public:
     Kind(const char* name, const QByteArray& feature, const QString& path)
-        : m_name(name), m_feature(feature), m_path(path)
+        : name(name), feature(feature), path(path)
     {
     }
 
@@ -43,7 +30,7 @@ public:
     const Kind& edit(const char* sort, const QVariant& value, const QString& shown,
                      const QByteArray& written) const
     {
-        QTest::addRow("%s, %s", m_name, sort) << m_feature << m_path << value << shown << written;
+        QTest::addRow("%s, %s", name, sort) << feature << path << value << shown << written;
         return *this;
     }
 
@@ -51,25 +38,20 @@ public:
     const Kind& wrong(const QVariantList& values, const QString& shown, const QByteArray& written) const
     {
         for (const QVariant& value : values) {
-            edit(qPrintable("wrong " + shownText(value)), value, shown, written);
+            edit(qPrintable("wrong " + typedText(value)), value, shown, written);
         }
         return *this;
     }
 
 private:
-    const char* m_name;
-    QByteArray m_feature;
-    QString m_path;
+    const char* name;
+    QByteArray feature;
+    QString path;
 };
-
-QByteArray building(const QByteArray& content)
-{
-    return "<bldg:Building>" + content + "</bldg:Building>";
-}
 
 QByteArray generic(const char* type, const QByteArray& value)
 {
-    return building(QByteArray("<gen:") + type + " name='x'>" + value + "</gen:" + type + '>');
+    return buildingText(QByteArray("<gen:") + type + " name='x'>" + value + "</gen:" + type + '>');
 }
 
 QByteArray demand(const QByteArray& values, const QByteArray& duration)
@@ -150,7 +132,7 @@ private:
             .edit("empty", QVariant(), "qlonglong 0", " factor=\"0\"")
             .wrong(noNumbers, "qlonglong 0", " factor=\"0\"");
 
-        Kind("optional count", building(""), "Fields/StoreysAboveGround")
+        Kind("optional count", buildingText(""), "Fields/StoreysAboveGround")
             .edit("ordinary", 4, "qulonglong 4", "<bldg:storeysAboveGround>4</bldg:storeysAboveGround>")
             .edit("empty", QVariant(), "qulonglong 0", "<bldg:storeysAboveGround>0</bldg:storeysAboveGround>")
             .edit("extreme", std::numeric_limits<unsigned>::max(), "qulonglong 4294967295",
@@ -183,14 +165,14 @@ private:
             .edit("extreme", -1e300, "double -1e+300", "<gen:value uom=\"kg\">-1e+300</gen:value>")
             .wrong({QString("2 kg"), QVariantList{1}}, "double 0", "<gen:value uom=\"kg\">0</gen:value>");
 
-        Kind("optional measure", building("<bldg:measuredHeight uom='#m'>12</bldg:measuredHeight>"),
+        Kind("optional measure", buildingText("<bldg:measuredHeight uom='#m'>12</bldg:measuredHeight>"),
              "Fields/MeasuredHeight")
             .edit("ordinary", 9.75, "double 9.75",
                   "<bldg:measuredHeight uom=\"#m\">9.75</bldg:measuredHeight>")
             .edit("empty", QVariant(), "double 0", "<bldg:measuredHeight uom=\"#m\">0</bldg:measuredHeight>")
             .wrong({QString("high")}, "double 0", "<bldg:measuredHeight uom=\"#m\">0</bldg:measuredHeight>");
 
-        Kind("absent measure", building(""), "Fields/MeasuredHeight")
+        Kind("absent measure", buildingText(""), "Fields/MeasuredHeight")
             .edit("ordinary", 9.75, "double 9.75",
                   "<bldg:measuredHeight uom=\"\">9.75</bldg:measuredHeight>");
 
@@ -242,7 +224,8 @@ private:
             .wrong({QString("5"), 5}, "[]", "<energy:usedFloors/>");
 
         Kind("optional nullable numbers",
-             building("<bldg:storeyHeightsAboveGround uom='m'>3.0 unknown</bldg:storeyHeightsAboveGround>"),
+             buildingText(
+                 "<bldg:storeyHeightsAboveGround uom='m'>3.0 unknown</bldg:storeyHeightsAboveGround>"),
              "Fields/StoreyHeightsAboveGround")
             .edit("ordinary", QVariantList{"2.50", "withheld", 3},
                   "[QString 2.50, QString withheld, QString 3]",
@@ -259,8 +242,9 @@ private:
 
         // An edit removes a position.
         Kind("optional position",
-             building("<gml:boundedBy><gml:Envelope><gml:lowerCorner>1 2 3</gml:lowerCorner></gml:Envelope>"
-                      "</gml:boundedBy>"),
+             buildingText(
+                 "<gml:boundedBy><gml:Envelope><gml:lowerCorner>1 2 3</gml:lowerCorner></gml:Envelope>"
+                 "</gml:boundedBy>"),
              "Fields/Envelope/LowerCorner")
             .edit("ordinary", QVariantList{4, 5, 6}, "invalid", "")
             .edit("empty", QVariant(), "invalid", "")
@@ -286,21 +270,21 @@ private:
             .edit("empty", QVariant(), "QString ", "<energy:ownerName/>")
             .wrong(noTexts, "QString ", "<energy:ownerName/>");
 
-        Kind("optional code", building("<bldg:class codeSpace='s'>1</bldg:class>"), "Fields/Class")
+        Kind("optional code", buildingText("<bldg:class codeSpace='s'>1</bldg:class>"), "Fields/Class")
             .edit("ordinary", "2", "QString 2", "<bldg:class>2</bldg:class>")
             .edit("empty", QVariant(), "QString ", "<bldg:class/>")
             .edit("extreme", oddText, "QString " + oddText,
                   "<bldg:class> &lt;a b='c'&gt;&amp;amp; \"é 日本 𝄞\" ]]&gt; </bldg:class>")
             .wrong(noTexts, "QString ", "<bldg:class/>");
 
-        Kind("optional text or reference", building("<gml:description xlink:href='#x'>d</gml:description>"),
-             "Fields/Description")
+        Kind("optional text or reference",
+             buildingText("<gml:description xlink:href='#x'>d</gml:description>"), "Fields/Description")
             .edit("ordinary", "e", "QString e", "<gml:description>e</gml:description>")
             .edit("empty", QVariant(), "QString ", "<gml:description/>");
 
         Kind("codes",
-             building("<bldg:function codeSpace='s'>1</bldg:function><bldg:function "
-                      "codeSpace='s'>2</bldg:function>"),
+             buildingText("<bldg:function codeSpace='s'>1</bldg:function><bldg:function "
+                          "codeSpace='s'>2</bldg:function>"),
              "Fields/Function")
             .edit("ordinary", QVariantList{"1", "3", 4}, "[QString 1, QString 3, QString 4]",
                   "<bldg:function>1</bldg:function><bldg:function>3</bldg:function><bldg:function>4</"
@@ -325,8 +309,8 @@ private:
             .wrong(noTexts, "QString ", "<gen:value/>");
 
         Kind("optional uri",
-             building("<core:externalReference><core:externalObject><core:uri>http://a</core:uri>"
-                      "</core:externalObject></core:externalReference>"),
+             buildingText("<core:externalReference><core:externalObject><core:uri>http://a</core:uri>"
+                          "</core:externalObject></core:externalReference>"),
              "Fields/ExternalReferences/externalObjectReference/ReferenceUri")
             .edit("ordinary", QUrl("http://b/c?d=e&f"), "QUrl http://b/c?d=e&f",
                   "<core:uri>http://b/c?d=e&amp;f</core:uri>")
@@ -350,14 +334,14 @@ private:
 
         // Does not show, whatever it is.
         Kind("optional value of any simple type",
-             building("<bldg:address><core:Address><core:xalAddress><xAL:AddressDetails Usage='mail'/>"
-                      "</core:xalAddress></core:Address></bldg:address>"),
+             buildingText("<bldg:address><core:Address><core:xalAddress><xAL:AddressDetails Usage='mail'/>"
+                          "</core:xalAddress></core:Address></bldg:address>"),
              "Fields/Address/Usage")
             .edit("ordinary", "parcels", "invalid", " Usage=\"\"")
             .edit("empty", QVariant(), "invalid", " Usage=\"\"");
 
         Kind("optional literal",
-             building("<core:relativeToTerrain>entirelyAboveTerrain</core:relativeToTerrain>"),
+             buildingText("<core:relativeToTerrain>entirelyAboveTerrain</core:relativeToTerrain>"),
              "Fields/RelativeToTerrain")
             .edit("ordinary", "entirelyBelowTerrain", "QString entirelyBelowTerrain",
                   "<core:relativeToTerrain>entirelyBelowTerrain</core:relativeToTerrain>")
@@ -382,11 +366,11 @@ private:
             // A year has 16 bits, and one of five digits is none that Qt spells.
             .edit("before the common era", QDate(-44, 3, 15), "QDate ", "<gen:value>65492-03-15</gen:value>");
 
-        Kind("optional date", building(""), "Fields/CreationDate")
+        Kind("optional date", buildingText(""), "Fields/CreationDate")
             .edit("ordinary", QDate(2020, 2, 29), "QDate 2020-02-29",
                   "<core:creationDate>2020-02-29</core:creationDate>");
 
-        Kind("optional year", building("<bldg:yearOfConstruction>1789Z</bldg:yearOfConstruction>"),
+        Kind("optional year", buildingText("<bldg:yearOfConstruction>1789Z</bldg:yearOfConstruction>"),
              "Fields/YearOfConstruction")
             .edit("ordinary", 1889, "int 1889", "<bldg:yearOfConstruction>1889</bldg:yearOfConstruction>")
             .edit("empty", QVariant(), "int 0", "<bldg:yearOfConstruction>0000</bldg:yearOfConstruction>")
@@ -446,14 +430,14 @@ private slots:
         // A sequence without elements has no property after the reload, and shows an empty list before it.
         const bool isGone = shown.isEmpty();
 
-        Document document(feature);
+        FeatureDocument document(feature);
         const QByteArray before = withoutBlanks(document.text());
         {
             const auto root = propertiesOf(document, false);
             CoreProperty* const property = findProperty(root, labels);
             QVERIFY2(property != nullptr, qPrintable(treeText(*root)));
             property->setValue(value);
-            QCOMPARE(shownText(property->value()), isGone ? QString("[]") : shown);
+            QCOMPARE(typedText(property->value()), isGone ? QString("[]") : shown);
         }
         const QByteArray after = withoutBlanks(document.text());
         QVERIFY2(after.contains(written), after);
@@ -465,12 +449,12 @@ private slots:
         const auto root = propertiesOf(document, false);
         CoreProperty* const property = findProperty(root, labels);
         QCOMPARE(property == nullptr, isGone);
-        QCOMPARE(isGone ? QString() : shownText(property->value()), shown);
+        QCOMPARE(isGone ? QString() : typedText(property->value()), shown);
         QCOMPARE(withoutBlanks(document.text()), after);
     }
 
 private:
-    static bool reloads(Document& document)
+    static bool reloads(FeatureDocument& document)
     {
         try {
             document.reload();
@@ -492,5 +476,5 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(ValueSavingTest)
+TEST_CLASS(ValueSavingTest, Core)
 #include "valuesavingtest.moc"

@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+namespace testsupport {
+
 // A plain model of a document, of its rows and of its tree, which knows no signals and no indexes.
 
 /// What a feature of the document is.
@@ -218,3 +220,5 @@ T make(const Item& item)
     }
     return feature;
 }
+
+} // namespace testsupport

@@ -1,112 +1,23 @@
 #pragma once
 
-#include "framework/AbstractUnit.h"
 #include "framework/CoreProperty.h"
 #include "support/ExpectedProperties.h"
+#include "support/VariantText.h"
 
-#include <typeinfo>
+#include <QString>
 
-/// Property trees as text with all that a host sees of them, both those that are there and those that the
-/// tables ask for.
-namespace propertydump {
-
-using expectedproperties::Node;
-using tolvik::CoreProperty;
-
-/// A variant with its type, so that a number and its text differ.
-inline QString dumpValue(const QVariant& value)
-{
-    if (!value.isValid()) {
-        return "-";
-    }
-    if (value.userType() == QMetaType::QVariantList) {
-        QStringList entries;
-        for (const QVariant& entry : value.toList()) {
-            entries += dumpValue(entry);
-        }
-        return '[' + entries.join(", ") + ']';
-    }
-    return QString::fromLatin1(value.typeName()) + ' ' + value.toString();
-}
-
-/// Of the current moment only the type counts.
-inline QString dumpDefault(const QVariant& value)
-{
-    const bool isMoment = value.userType() == QMetaType::QDate || value.userType() == QMetaType::QDateTime;
-    return isMoment ? QString::fromLatin1(value.typeName()) : dumpValue(value);
-}
+namespace testsupport {
 
 /// Name of the property's class as the tables spell types; a plain one has none.
-inline QString classOf(const CoreProperty& property)
-{
-    if (typeid(property) == typeid(CoreProperty)) {
-        return QString();
-    }
-    static QHash<const char*, QString> known;
-    const char* const symbol = typeid(property).name();
-    if (const auto found = known.constFind(symbol); found != known.constEnd()) {
-        return *found;
-    }
-    int status = 0;
-    const std::unique_ptr<char, void (*)(void*)> text(abi::__cxa_demangle(symbol, nullptr, nullptr, &status),
-                                                      &std::free);
-    QString name = QString::fromLatin1(text.get()).remove("tolvik::").remove("xsd::cxx::tree::");
-    name.replace(" >", ">")
-        .remove(", false>")
-        .remove(", true>")
-        .replace("simple_type<char, xml_schema::type>", "simple_type");
-    name.replace(QRegularExpression("\\b(string|uri|date|date_time|duration|gyear)<char, simple_type>"),
-                 "\\1");
-    // The parameter that was removed had one bracket with it.
-    return *known.insert(symbol, name + QString(">").repeated(name.count('<') - name.count('>')));
-}
+QString classOf(const tolvik::CoreProperty& property);
 
-inline QString dumpLine(const QString& label, const QString& type, const QVariant& value, const QString& unit,
-                        bool editable, const QVariant& start, const QVariantList& literals)
-{
-    QString line = label + " = " + dumpValue(value);
-    line += type.isEmpty() ? QString() : " by " + type;
-    line += unit.isEmpty() ? QString() : " unit " + unit;
-    line += editable ? QString(" editable") : QString();
-    line += start.isValid() ? " default " + dumpDefault(start) : QString();
-    return line + (literals.isEmpty() ? QString() : " of " + dumpValue(literals)) + '\n';
-}
+/// A property tree that the tables ask for, as text with all that a host sees of it.
+QString dump(const ExpectedNode& node, const QString& indent = QString());
 
-inline QString dump(const Node& node, const QString& indent = QString())
-{
-    QString text = indent + dumpLine(node.label, node.propertyClass, node.value, node.unit, node.editable,
-                                     node.defaultValue, node.literals);
-    for (const auto& child : node.children) {
-        text += dump(*child, indent + "  ");
-    }
-    return text;
-}
-
-inline QString dump(CoreProperty& property, const QString& indent = QString())
-{
-    QString text =
-        indent + dumpLine(property.name(), classOf(property), property.value(),
-                          property.unit() != nullptr ? property.unit()->name() : QString(),
-                          property.editable(), property.defaultValue(), property.potentialValues());
-    for (const auto& child : property.properties()) {
-        text += dump(*child, indent + "  ");
-    }
-    return text;
-}
+/// The same for a property tree that is there.
+QString dump(tolvik::CoreProperty& property, const QString& indent = QString());
 
 /// The lines where two trees part, with what is around them.
-inline QString difference(const QString& actual, const QString& expected)
-{
-    const QStringList actualLines = actual.split('\n');
-    const QStringList expectedLines = expected.split('\n');
-    int line = 0;
-    while (line < actualLines.size() && line < expectedLines.size() &&
-           actualLines.at(line) == expectedLines.at(line)) {
-        ++line;
-    }
-    const int from = qMax(0, line - 3);
-    return "\nActual, from line " + QString::number(from) + ":\n" + actualLines.mid(from, 8).join('\n') +
-           "\nExpected:\n" + expectedLines.mid(from, 8).join('\n');
-}
+QString difference(const QString& actual, const QString& expected);
 
-} // namespace propertydump
+} // namespace testsupport

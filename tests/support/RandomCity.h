@@ -7,6 +7,8 @@
 #include <random>
 #include <set>
 
+namespace testsupport {
+
 /// A document under random operations, each of which is done to the model and to the reference.
 class RandomCity
 {
@@ -398,3 +400,5 @@ private:
     std::mt19937 random;
     std::vector<Operation> operations;
 };
+
+} // namespace testsupport

@@ -8,10 +8,15 @@
 #include <QVector>
 #include <type_traits>
 
+namespace testsupport {
+
 /// Writes down every signal of an item model as a line of text, in the order in which they are sent, so that
 /// a test compares order and arguments at once. Further signals, of the model or of other objects, join the
-/// same list. \code SignalRecorder recorder(&model); recorder.watch(&model, QOverload<const
-/// QModelIndex&>::of(&Model::visibilityChanged), "visibilityChanged"); model.hide(model.index(2, 0));
+/// same list.
+/// \code
+/// SignalRecorder recorder(&model);
+/// recorder.watch(&model, QOverload<const QModelIndex&>::of(&Model::visibilityChanged), "visibilityChanged");
+/// model.hide(model.index(2, 0));
 /// QCOMPARE(recorder.take(), QStringList({"dataChanged 2:0 2:0 []", "visibilityChanged 2:0"}));
 /// \endcode
 /// An index is written as the rows from the top level down to it and its column, `0/3/1:0`, and `-` if it is
@@ -141,3 +146,5 @@ private:
 
     QStringList recorded;
 };
+
+} // namespace testsupport

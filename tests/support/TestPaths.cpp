@@ -1,6 +1,6 @@
 #include "support/TestPaths.h"
 
-namespace testpaths {
+namespace testsupport {
 
 QString dataFile(const QString& name)
 {
@@ -22,9 +22,9 @@ QString generatedCode()
     return QStringLiteral(TOLVIK_GENERATED);
 }
 
-QString sharedFiles()
+QString sharedDocuments()
 {
-    return QStringLiteral(TOLVIK_SHARED);
+    return QStringLiteral(TOLVIK_SHARED "/data");
 }
 
 QString library(const QString& name)
@@ -37,4 +37,4 @@ QString program(const QString& name)
     return QStringLiteral(TOLVIK_PROGRAMS "/") + name;
 }
 
-} // namespace testpaths
+} // namespace testsupport

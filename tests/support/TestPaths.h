@@ -4,7 +4,7 @@
 
 /// Where a test finds its files. The directories are known to one source file alone: the compiler's cache
 /// serves the objects of all others in every checkout.
-namespace testpaths {
+namespace testsupport {
 
 /// A file of the tests' own data.
 QString dataFile(const QString& name);
@@ -18,8 +18,8 @@ QString schemas();
 /// What the binding's generator wrote: classes, visitors and tables.
 QString generatedCode();
 
-/// Documents and schemas beside the project, which a checkout may lack.
-QString sharedFiles();
+/// Documents beside the project, which a checkout may lack.
+QString sharedDocuments();
 
 /// The file of a shared library of the build, such as `CityGMLModel`.
 QString library(const QString& name);
@@ -27,4 +27,4 @@ QString library(const QString& name);
 /// A program of the build, such as `tolvik-inspect`.
 QString program(const QString& name);
 
-} // namespace testpaths
+} // namespace testsupport

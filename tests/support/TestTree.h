@@ -8,6 +8,8 @@
 #include <QHash>
 #include <QSet>
 
+namespace testsupport {
+
 /// A node of a TestTree.
 class TestNode : public tolvik::TreeNode
 {
@@ -25,12 +27,7 @@ public:
 class TestTree : public tolvik::TreeNodeProxyModel
 {
 public:
-    explicit TestTree(TestModel* source = nullptr) : TreeNodeProxyModel("tree")
-    {
-        if (source != nullptr) {
-            setSourceModel(source);
-        }
-    }
+    explicit TestTree(TestModel* source = nullptr);
 
     using ProxyModel::actions;
     using ProxyModel::selection;
@@ -47,178 +44,44 @@ public:
     QStringList calls;
 
     /// The index of the first node of that name.
-    QModelIndex find(const QString& name, int column = 0) const
-    {
-        for (int row = 0; row < document()->rowCount(); ++row) {
-            if (document()->item(row)->name == name) {
-                return mapFromSource(document()->index(row, column));
-            }
-        }
-        return QModelIndex();
-    }
+    QModelIndex find(const QString& name, int column = 0) const;
 
-    QList<QModelIndex> find(const QStringList& names) const
-    {
-        QList<QModelIndex> indexes;
-        for (const QString& name : names) {
-            indexes.append(find(name));
-        }
-        return indexes;
-    }
+    QList<QModelIndex> find(const QStringList& names) const;
 
     /// Names in the order on screen, those below a node in brackets behind it.
-    QString dump(const QModelIndex& parent = QModelIndex()) const
-    {
-        QStringList parts;
-        for (int row = 0; row < rowCount(parent); ++row) {
-            const QModelIndex child = index(row, 0, parent);
-            const QString below = dump(child);
-            parts.append(child.data().toString() + (below.isEmpty() ? below : '(' + below + ')'));
-        }
-        return parts.join(' ');
-    }
+    QString dump(const QModelIndex& parent = QModelIndex()) const;
 
     /// Names of the selected rows in the order on screen.
-    static QString dump(const QItemSelection& selection)
-    {
-        QStringList names;
-        for (const QItemSelectionRange& range : selection) {
-            for (int row = range.top(); row <= range.bottom(); ++row) {
-                names.append(range.topLeft().sibling(row, 0).data().toString());
-            }
-        }
-        return names.join(' ');
-    }
+    static QString dump(const QItemSelection& selection);
 
-    QModelIndex mapToSource(const QModelIndex& index) const override
-    {
-        const auto* const node = static_cast<const TestNode*>(treeNode(index));
-        if (source == nullptr || sourceBusy || node == nullptr) {
-            return QModelIndex();
-        }
-        return document()->index(document()->rowOf(node->item), index.column());
-    }
+    QModelIndex mapToSource(const QModelIndex& index) const override;
 
-    QModelIndex mapFromSource(const QModelIndex& index) const override
-    {
-        const QList<QModelIndex> all = listFromSource(index);
-        return all.isEmpty() ? QModelIndex() : all.first();
-    }
+    QModelIndex mapFromSource(const QModelIndex& index) const override;
 
-    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override
-    {
-        if (source == nullptr || sourceBusy) {
-            return QVariant();
-        }
-        if (role == Qt::CheckStateRole && index.column() == 0) {
-            return checkColumnEnabled ? recursiveCheckState(index) : QVariant();
-        }
-        if (role == Qt::DisplayRole && index.column() == 0) {
-            return tolvik::toQString(treeNode(index)->getName());
-        }
-        return TreeNodeProxyModel::data(index, role);
-    }
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
 
-    QList<QModelIndex> listFromSource(const QModelIndex& index) const override
-    {
-        QList<QModelIndex> all;
-        if (source == nullptr || sourceBusy || !index.isValid()) {
-            return all;
-        }
-        for (const auto& node : nodes.value(document()->item(index.row()))) {
-            all.append(createIndex(node->childNumber(), index.column(), node.get()));
-        }
-        return all;
-    }
+    QList<QModelIndex> listFromSource(const QModelIndex& index) const override;
 
-    void computeNodeMap() override
-    {
-        calls.append("computeNodeMap");
-        if (source == nullptr) {
-            return;
-        }
-        beginResetModel();
-        nodes.clear();
-        rootNodes.clear();
-        for (int row = 0; row < document()->rowCount(); ++row) {
-            TestItem* const item = document()->item(row);
-            nodes[item].append(new TestNode(item));
-            link(nodes[item].first().get());
-        }
-        for (TestItem* const item : qAsConst(shownTwice)) {
-            const Fondo::RefPtr<TestNode> second = new TestNode(item);
-            nodes[item].append(second);
-            second->setChildNumber(rootNodes.size());
-            rootNodes.append(second);
-        }
-        endResetModel();
-    }
+    void computeNodeMap() override;
 
 protected:
-    void rowsInsertedInSourceModel(const QModelIndex& /*parent*/, int start, int /*end*/) override
-    {
-        TestItem* const item = document()->item(start);
-        nodes[item].append(new TestNode(item));
-        const QModelIndex parent = item->parent != nullptr ? nodeIndex(item->parent) : QModelIndex();
-        beginInsertRows(parent, rowCount(parent), rowCount(parent));
-        link(nodes[item].first().get());
-        endInsertRows();
-    }
+    void rowsInsertedInSourceModel(const QModelIndex& /*parent*/, int start, int /*end*/) override;
 
-    void rowsAboutToBeRemovedInSourceModel(const QModelIndex& /*parent*/, int start, int /*end*/) override
-    {
-        TestItem* const item = document()->item(start);
-        while (!nodes.value(item).isEmpty()) {
-            const Fondo::RefPtr<TestNode> node = nodes[item].takeFirst();
-            tolvik::TreeNode* const parent = node->parent();
-            const QModelIndex above =
-                parent != nullptr ? createIndex(parent->childNumber(), 0, parent) : QModelIndex();
-            beginRemoveRows(above, node->childNumber(), node->childNumber());
-            if (parent != nullptr) {
-                parent->children().erase(parent->children().begin() + node->childNumber());
-                parent->renumberChildren();
-            } else {
-                rootNodes.removeAt(node->childNumber());
-                for (int row = 0; row < rootNodes.size(); ++row) {
-                    rootNodes[row]->setChildNumber(row);
-                }
-            }
-            endRemoveRows();
-        }
-    }
+    void rowsAboutToBeRemovedInSourceModel(const QModelIndex& /*parent*/, int start, int /*end*/) override;
 
-    void selectSiblings(bool sameType, bool /*reserved*/) override
-    {
-        calls.append(sameType ? "siblings of same type" : "siblings");
-    }
+    void selectSiblings(bool sameType, bool /*reserved*/) override;
 
-    void encodeData(const QList<QModelIndex>& indexes, QDataStream& stream) const override
-    {
-        stream << indexes.size();
-    }
+    void encodeData(const QList<QModelIndex>& indexes, QDataStream& stream) const override;
     QList<QModelIndex> decodeData(QDataStream& /*stream*/) const override { return {}; }
 
 private:
     TestModel* document() const { return static_cast<TestModel*>(source.data()); }
 
-    QModelIndex nodeIndex(TestItem* item) const
-    {
-        TestNode* const node = nodes.value(item).first().get();
-        return createIndex(node->childNumber(), 0, node);
-    }
+    QModelIndex nodeIndex(TestItem* item) const;
 
-    void link(TestNode* node)
-    {
-        if (node->item->parent != nullptr && nodes.contains(node->item->parent)) {
-            TestNode* const parent = nodes[node->item->parent].first().get();
-            node->setParent(parent);
-            node->setChildNumber(static_cast<int>(parent->children().size()));
-            parent->children().push_back(node);
-        } else {
-            node->setChildNumber(rootNodes.size());
-            rootNodes.append(Fondo::RefPtr<tolvik::TreeNode>(node));
-        }
-    }
+    void link(TestNode* node);
 
     QHash<TestItem*, QList<Fondo::RefPtr<TestNode>>> nodes;
 };
+
+} // namespace testsupport

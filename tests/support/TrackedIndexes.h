@@ -6,6 +6,8 @@
 #include <QList>
 #include <QPersistentModelIndex>
 
+namespace testsupport {
+
 /// Persistent indexes over a tree of features, or over a proxy model above it, each with its feature.
 class TrackedIndexes
 {
@@ -80,3 +82,5 @@ private:
     std::function<Feature(const QModelIndex&)> featureOf;
     QList<Entry> tracked;
 };
+
+} // namespace testsupport

@@ -1,3 +1,6 @@
+#include "support/Files.h"
+#include "support/Processes.h"
+#include "support/TestClass.h"
 #include "support/TestPaths.h"
 
 #include <QDir>
@@ -17,10 +20,12 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+using namespace testsupport;
+
 namespace {
 
-const QString program = testpaths::program("tolvik-inspect");
-const QString district = testpaths::examples() + "/district.gml";
+const QString tool = program("tolvik-inspect");
+const QString district = examples() + "/district.gml";
 
 // The name of the building stands over two lines; the door has neither name nor identifier.
 const QByteArray town = "<core:CityModel xmlns:core='http://www.opengis.net/citygml/2.0' "
@@ -44,54 +49,6 @@ const QByteArray town = "<core:CityModel xmlns:core='http://www.opengis.net/city
   </core:cityObjectMember>
 </core:CityModel>
 )";
-
-struct Result
-{
-    int code;
-    QByteArray out;
-    QByteArray err;
-};
-
-Result finish(QProcess& process)
-{
-    if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit) {
-        return {-1, process.readAllStandardOutput(), process.errorString().toUtf8()};
-    }
-    return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
-}
-
-Result run(const QString& command, const QStringList& arguments, const QByteArray& input = QByteArray())
-{
-    QProcess process;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    // No display, and a locale that knows nothing but ASCII.
-    environment.remove("DISPLAY");
-    environment.remove("QT_QPA_PLATFORM");
-    environment.insert("LC_ALL", "C");
-    process.setProcessEnvironment(environment);
-    process.start(command, arguments);
-    process.write(input);
-    process.closeWriteChannel();
-    return finish(process);
-}
-
-Result inspect(const QStringList& arguments, const QByteArray& input = QByteArray())
-{
-    return run(program, arguments, input);
-}
-
-void write(const QString& path, const QByteArray& content)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), qint64(content.size()));
-}
-
-QByteArray read(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("not there");
-}
 
 mode_t permissions(const QString& path)
 {
@@ -155,12 +112,12 @@ private slots:
     {
         directory = std::make_unique<QTemporaryDir>();
         QVERIFY(directory->isValid());
-        write(path("town.gml"), town);
+        QVERIFY(writeFile(path("town.gml"), town));
     }
 
     void listsRows()
     {
-        const Result result = inspect({"rows", path("town.gml")});
+        const ProcessResult result = inspect({"rows", path("town.gml")});
         QCOMPARE(result.out, QByteArray("0\tCityModel\t-\tGänsemarkt \"alt\"\n"
                                         "1\tBuilding\thouse\tOld house\n"
                                         "2\tWallSurface\twall\tWall\n"
@@ -171,7 +128,7 @@ private slots:
 
     void listsRowsAsJson()
     {
-        const Result result = inspect({"rows", path("town.gml"), "--json"});
+        const ProcessResult result = inspect({"rows", path("town.gml"), "--json"});
         QVERIFY(result.out.contains(
             "{\"row\":0,\"type\":\"CityModel\",\"id\":null,\"name\":\"Gänsemarkt \\\"alt\\\"\"}"));
         QJsonParseError error;
@@ -188,7 +145,7 @@ private slots:
 
     void readsStandardInput()
     {
-        const Result result = inspect({"rows", "-"}, town);
+        const ProcessResult result = inspect({"rows", "-"}, town);
         QCOMPARE(result.out, inspect({"rows", path("town.gml")}).out);
         QCOMPARE(result.code, 0);
     }
@@ -197,7 +154,7 @@ private slots:
     {
         const QString shell =
             QStringLiteral("mkfifo '%1' && cat '%2' > '%1' & sleep 0.1; exec '%3' rows '%1'");
-        const Result result = run("sh", {"-c", shell.arg(path("pipe"), path("town.gml"), program)});
+        const ProcessResult result = run("sh", {"-c", shell.arg(path("pipe"), path("town.gml"), tool)});
         QCOMPARE(result.out, inspect({"rows", path("town.gml")}).out);
         QCOMPARE(result.code, 0);
     }
@@ -230,9 +187,9 @@ private slots:
         QFETCH(QByteArray, content);
         QFETCH(QByteArray, reason);
         if (!content.isNull()) {
-            write(path(file), content);
+            QVERIFY(writeFile(path(file), content));
         }
-        write(path("out.gml"), "as it was");
+        QVERIFY(writeFile(path("out.gml"), "as it was"));
         const QList<QStringList> commands{
             {"rows", path(file)},
             {"rows", path(file), "--json"},
@@ -241,17 +198,17 @@ private slots:
             {"set", path(file), "--id", "house", "Fields/Name", "x", path("out.gml")},
             {"save", path(file), path("out.gml")}};
         for (const QStringList& command : commands) {
-            const Result result = inspect(command);
+            const ProcessResult result = inspect(command);
             QCOMPARE(result.code, 1);
             QCOMPARE(result.out, QByteArray());
             QVERIFY2(result.err.endsWith(reason), result.err);
         }
-        QCOMPARE(read(path("out.gml")), QByteArray("as it was"));
+        QCOMPARE(contentOf(path("out.gml")), QByteArray("as it was"));
     }
 
     void logsWhyDocumentIsNotLoaded()
     {
-        const Result result = inspect({"rows", "-"}, "<a/>");
+        const ProcessResult result = inspect({"rows", "-"}, "<a/>");
         QCOMPARE(result.code, 1);
         QVERIFY2(result.err.contains("tolvik.UI.Models.CityGMLModel: Exception caught: "), result.err);
         QVERIFY2(result.err.endsWith("tolvik-inspect: standard input could not be loaded\n"), result.err);
@@ -280,7 +237,7 @@ private slots:
     void refusesWrongUsage()
     {
         QFETCH(QStringList, arguments);
-        const Result result = inspect(arguments);
+        const ProcessResult result = inspect(arguments);
         QCOMPARE(result.code, 2);
         QCOMPARE(result.out, QByteArray());
         QVERIFY2(result.err.startsWith("tolvik-inspect: "), result.err);
@@ -288,7 +245,7 @@ private slots:
 
     void showsHelpAndVersion()
     {
-        const Result help = inspect({"--help"});
+        const ProcessResult help = inspect({"--help"});
         QCOMPARE(help.code, 0);
         for (const char* command : {"rows FILE", "tree FILE", "properties FILE", "set FILE", "save FILE"}) {
             QVERIFY2(help.out.contains(command), command);
@@ -298,7 +255,7 @@ private slots:
             help.out.contains("1 a document could not be loaded or saved, has no such\nfeature or attribute, "
                               "or the attribute refused the value"),
             help.out);
-        const Result version = inspect({"--version"});
+        const ProcessResult version = inspect({"--version"});
         QCOMPARE(version.code, 0);
         QVERIFY(QString::fromUtf8(version.out)
                     .contains(QRegularExpression("^tolvik-inspect \\d+\\.\\d+\\.\\d+\n$")));
@@ -306,15 +263,15 @@ private slots:
 
     void saysWhenOutputIsLost()
     {
-        const Result result =
-            run("sh", {"-c", QStringLiteral("'%1' rows '%2' > /dev/full").arg(program, district)});
+        const ProcessResult result =
+            run("sh", {"-c", QStringLiteral("'%1' rows '%2' > /dev/full").arg(tool, district)});
         QCOMPARE(result.code, 1);
         QCOMPARE(result.err, QByteArray("tolvik-inspect: the output could not be written\n"));
     }
 
     void saves()
     {
-        const Result result = inspect({"save", district, path("out.gml")});
+        const ProcessResult result = inspect({"save", district, path("out.gml")});
         QCOMPARE(result.err, QByteArray());
         QCOMPARE(result.code, 0);
         QCOMPARE(inspect({"rows", path("out.gml")}).out, inspect({"rows", district}).out);
@@ -337,7 +294,7 @@ private slots:
         QCOMPARE(code, 0);
         QCOMPARE(permissions(path("new.gml")), mode_t(0640));
 
-        write(path("old.gml"), "old");
+        QVERIFY(writeFile(path("old.gml"), "old"));
         QCOMPARE(::chmod(QFile::encodeName(path("old.gml")).constData(), 0604), 0);
         QCOMPARE(inspect({"save", path("town.gml"), path("old.gml")}).code, 0);
         QCOMPARE(permissions(path("old.gml")), mode_t(0604));
@@ -345,7 +302,7 @@ private slots:
 
     void savesWhereLinkLeads()
     {
-        write(path("target.gml"), "old");
+        QVERIFY(writeFile(path("target.gml"), "old"));
         QVERIFY(QFile::link("target.gml", path("link.gml")));
         QCOMPARE(inspect({"save", path("town.gml"), path("link.gml")}).code, 0);
         QVERIFY(QFileInfo(path("link.gml")).isSymLink());
@@ -364,7 +321,7 @@ private slots:
     {
         QFETCH(QString, output);
         QFETCH(QByteArray, reason);
-        const Result result = inspect({"save", path("town.gml"), path(output)});
+        const ProcessResult result = inspect({"save", path("town.gml"), path(output)});
         QCOMPARE(result.code, 1);
         QVERIFY2(result.err.startsWith("tolvik-inspect: ") &&
                      result.err.endsWith(" could not be saved: " + reason),
@@ -377,29 +334,29 @@ private slots:
         if (::geteuid() == 0) {
             QSKIP("nothing is write-protected for the superuser");
         }
-        write(path("out.gml"), "as it was");
+        QVERIFY(writeFile(path("out.gml"), "as it was"));
         QCOMPARE(::chmod(QFile::encodeName(path("out.gml")).constData(), 0444), 0);
-        const Result result = inspect({"save", path("town.gml"), path("out.gml")});
+        const ProcessResult result = inspect({"save", path("town.gml"), path("out.gml")});
         QCOMPARE(result.code, 1);
         QVERIFY2(result.err.endsWith("is write-protected\n"), result.err);
-        QCOMPARE(read(path("out.gml")), QByteArray("as it was"));
+        QCOMPARE(contentOf(path("out.gml")), QByteArray("as it was"));
     }
 
     // A file may not grow beyond 4 KiB here, as on a disk that is full.
     void leavesFileAloneWhenDiskIsFull()
     {
-        write(path("out.gml"), "as it was");
+        QVERIFY(writeFile(path("out.gml"), "as it was"));
         const QString shell = QStringLiteral("trap '' XFSZ; ulimit -f 8; exec '%1' save '%2' '%3'");
-        const Result result = run("sh", {"-c", shell.arg(program, district, path("out.gml"))});
+        const ProcessResult result = run("sh", {"-c", shell.arg(tool, district, path("out.gml"))});
         QCOMPARE(result.code, 1);
         QVERIFY2(result.err.contains("not all of it could be written"), result.err);
-        QCOMPARE(read(path("out.gml")), QByteArray("as it was"));
+        QCOMPARE(contentOf(path("out.gml")), QByteArray("as it was"));
         QCOMPARE(files(), QStringList({"out.gml", "town.gml"}));
     }
 
     void showsTree()
     {
-        const Result result = inspect({"tree", path("town.gml")});
+        const ProcessResult result = inspect({"tree", path("town.gml")});
         QCOMPARE(result.out, QByteArray("Gänsemarkt \"alt\" [CityModel]\n"
                                         "  Old house [Building]\n"
                                         "    Wall [WallSurface]\n"
@@ -436,7 +393,7 @@ private slots:
 
     void showsProperties()
     {
-        const Result result = inspect({"properties", path("town.gml"), "--id", "house"});
+        const ProcessResult result = inspect({"properties", path("town.gml"), "--id", "house"});
         QCOMPARE(result.code, 0);
         QVERIFY2(result.out.startsWith("1 Building\n"), result.out);
         QVERIFY2(result.out.contains("MeasuredHeight: 12.25 m\n"), result.out);
@@ -456,7 +413,7 @@ private slots:
     void findsNoSuchFeature()
     {
         for (const QStringList& selection : {QStringList{"--id", "barn"}, QStringList{"--row", "4"}}) {
-            const Result result = inspect(QStringList{"properties", path("town.gml")} + selection);
+            const ProcessResult result = inspect(QStringList{"properties", path("town.gml")} + selection);
             QCOMPARE(result.code, 1);
             QCOMPARE(result.out, QByteArray());
             QCOMPARE(result.err.count('\n'), 1);
@@ -482,13 +439,13 @@ private slots:
         QFETCH(QByteArray, before);
         QFETCH(QByteArray, after);
         QCOMPARE(inspect({"save", path("town.gml"), path("plain.gml")}).code, 0);
-        const Result result = inspect(QStringList{"set", path("town.gml"), "--id", "house"} + arguments +
-                                      QStringList{path("out.gml")});
+        const ProcessResult result = inspect(QStringList{"set", path("town.gml"), "--id", "house"} +
+                                             arguments + QStringList{path("out.gml")});
         QCOMPARE(result.err, QByteArray());
         QCOMPARE(result.code, 0);
-        QByteArray expected = read(path("plain.gml"));
+        QByteArray expected = contentOf(path("plain.gml"));
         QCOMPARE(expected.count(before), 1);
-        QCOMPARE(read(path("out.gml")), expected.replace(before, after));
+        QCOMPARE(contentOf(path("out.gml")), expected.replace(before, after));
     }
 
     void refusesToSet_data()
@@ -503,20 +460,20 @@ private slots:
     void refusesToSet()
     {
         QFETCH(QStringList, arguments);
-        write(path("out.gml"), "as it was");
-        const Result result =
+        QVERIFY(writeFile(path("out.gml"), "as it was"));
+        const ProcessResult result =
             inspect(QStringList{"set", path("town.gml")} + arguments + QStringList{path("out.gml")});
         QCOMPARE(result.code, 1);
         QVERIFY2(result.err.startsWith("tolvik-inspect: "), result.err);
         QCOMPARE(result.err.count('\n'), 1);
-        QCOMPARE(read(path("out.gml")), QByteArray("as it was"));
+        QCOMPARE(contentOf(path("out.gml")), QByteArray("as it was"));
     }
 
     void showsProgressOnTerminalAlone()
     {
         TerminalProcess process;
-        process.start(program, {"rows", district});
-        const Result result = finish(process);
+        process.start(tool, {"rows", district});
+        const ProcessResult result = finish(process);
         QCOMPARE(result.code, 0);
         const QByteArray written = process.written();
         QVERIFY2(written.contains("Building Model"), written);
@@ -527,5 +484,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(InspectTest)
+TEST_CLASS(InspectTest, Core)
 #include "inspecttest.moc"

@@ -1,4 +1,6 @@
-#include "support/TestPaths.h"
+#include "support/Files.h"
+#include "support/Processes.h"
+#include "support/TestClass.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -7,6 +9,8 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
+
+using namespace testsupport;
 
 namespace {
 
@@ -96,30 +100,6 @@ const QByteArray momentsText =
 </core:CityModel>
 )";
 
-struct Result
-{
-    int code;
-    QByteArray out;
-    QByteArray err;
-};
-
-Result inspect(const QStringList& arguments)
-{
-    QProcess process;
-    process.start(testpaths::program("tolvik-inspect"), arguments);
-    process.closeWriteChannel();
-    if (!process.waitForFinished(60000)) {
-        return {-1, QByteArray(), QByteArray()};
-    }
-    return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
-}
-
-QByteArray read(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 } // namespace
 
 /// What the terminal tool shows of properties and how it edits them.
@@ -145,7 +125,7 @@ private slots:
 
     void text()
     {
-        const Result result = inspect({"properties", path("in.gml"), "--id", "b"});
+        const ProcessResult result = inspect({"properties", path("in.gml"), "--id", "b"});
         QCOMPARE(result.code, 0);
         QCOMPARE(QString::fromUtf8(result.out), QString("1 Building\n"
                                                         "  Fields\n"
@@ -178,7 +158,7 @@ private slots:
 
     void json()
     {
-        const Result result = inspect({"properties", path("in.gml"), "--row", "1", "--json"});
+        const ProcessResult result = inspect({"properties", path("in.gml"), "--row", "1", "--json"});
         const QJsonObject root = QJsonDocument::fromJson(result.out).object();
         QCOMPARE(root.keys(),
                  (QStringList{"children", "editable", "name", "potentialValues", "unit", "value"}));
@@ -259,23 +239,23 @@ private slots:
         QFETCH(QString, value);
         QFETCH(QByteArray, before);
         QFETCH(QByteArray, after);
-        const Result result =
+        const ProcessResult result =
             inspect({"set", path("in.gml"), "--id", "b", "--", property, value, path("out.gml")});
         QCOMPARE(result.err, QByteArray());
         QCOMPARE(result.code, 0);
-        QByteArray expected = read(path("plain.gml"));
+        QByteArray expected = contentOf(path("plain.gml"));
         QCOMPARE(expected.count(before), 1);
-        QCOMPARE(read(path("out.gml")), expected.replace(before, after));
+        QCOMPARE(contentOf(path("out.gml")), expected.replace(before, after));
     }
 
     void makesAbsentAttributes()
     {
-        const Result result = inspect(
+        const ProcessResult result = inspect(
             {"set", path("in.gml"), "--id", "b", "Fields/YearOfConstruction", "1789", path("out.gml")});
         QCOMPARE(result.code, 0);
-        QByteArray text = read(path("out.gml"));
+        QByteArray text = contentOf(path("out.gml"));
         QVERIFY(text.contains("<bldg:yearOfConstruction>1789</bldg:yearOfConstruction>"));
-        QCOMPARE(text.count('\n'), read(path("plain.gml")).count('\n') + 1);
+        QCOMPARE(text.count('\n'), contentOf(path("plain.gml")).count('\n') + 1);
     }
 
     void refusals_data()
@@ -321,7 +301,7 @@ private slots:
     {
         QFETCH(QString, property);
         QFETCH(QString, value);
-        const Result result =
+        const ProcessResult result =
             inspect({"set", path("in.gml"), "--id", "b", "--", property, value, path("out.gml")});
         QCOMPARE(result.code, 1);
         QVERIFY(result.err.startsWith("tolvik-inspect: "));
@@ -351,7 +331,8 @@ private slots:
         QFETCH(QString, property);
         QFETCH(QString, value);
         QFETCH(QByteArray, character);
-        const Result result = inspect({"set", path("in.gml"), "--id", "b", property, value, path("out.gml")});
+        const ProcessResult result =
+            inspect({"set", path("in.gml"), "--id", "b", property, value, path("out.gml")});
         QCOMPARE(result.code, 1);
         const QByteArray label = property.section('/', 1).toUtf8();
         QCOMPARE(result.err, "tolvik-inspect: " + label + " cannot hold the character " + character +
@@ -363,7 +344,7 @@ private slots:
     {
         const QString value = QString::fromUtf8("\t\u0020\u007F\uD7FF\uE000\uFFFD\U00010000\U0010FFFF");
         QCOMPARE(inspect({"set", path("in.gml"), "--id", "b", "Fields/a/b", value, path("out.gml")}).code, 0);
-        QVERIFY(read(path("out.gml")).contains(value.toUtf8()));
+        QVERIFY(contentOf(path("out.gml")).contains(value.toUtf8()));
     }
 
     void savesOverTheDocumentItself()
@@ -373,11 +354,11 @@ private slots:
             inspect({"set", path("out.gml"), "--id", "b", "Fields/MeasuredHeight", "high", path("out.gml")})
                 .code,
             1);
-        QCOMPARE(read(path("out.gml")), documentText);
+        QCOMPARE(contentOf(path("out.gml")), documentText);
         QCOMPARE(inspect({"set", path("out.gml"), "--id", "b", "Fields/MeasuredHeight", "7", path("out.gml")})
                      .code,
                  0);
-        QCOMPARE(read(path("out.gml")), read(path("plain.gml")).replace(">12.5<", ">7<"));
+        QCOMPARE(contentOf(path("out.gml")), contentOf(path("plain.gml")).replace(">12.5<", ">7<"));
     }
 
     void moments_data()
@@ -409,25 +390,25 @@ private slots:
         file.write(momentsText);
         file.close();
         const QString id = property.contains("Energy") ? "demand" : "right";
-        const Result shown = inspect({"properties", path("moments.gml"), "--id", id, "--absent"});
+        const ProcessResult shown = inspect({"properties", path("moments.gml"), "--id", id, "--absent"});
         QVERIFY2(shown.out.contains(' ' + property.section('/', -1).toUtf8() + ':'), shown.out.constData());
-        const Result result =
+        const ProcessResult result =
             inspect({"set", path("moments.gml"), "--id", id, property, value, path("out.gml")});
         QCOMPARE(result.code, written.isEmpty() ? 1 : 0);
         QCOMPARE(result.err.count('\n'), result.code);
         QCOMPARE(QFile::exists(path("out.gml")), !written.isEmpty());
-        QVERIFY(written.isEmpty() || read(path("out.gml")).contains(written));
+        QVERIFY(written.isEmpty() || contentOf(path("out.gml")).contains(written));
     }
 
     /// Features without an identifier share a name inside the model, which is none of theirs.
     void theSharedNameIsNoIdentifier()
     {
-        const Result result =
+        const ProcessResult result =
             inspect({"set", path("in.gml"), "--id", "truite", "Fields/ClassType", "x", path("out.gml")});
         QCOMPARE(result.code, 1);
         QVERIFY(result.err.contains("no feature has the gml:id truite"));
     }
 };
 
-QTEST_GUILESS_MAIN(PropertiesCommandTest)
+TEST_CLASS(PropertiesCommandTest, Core)
 #include "propertiescommandtest.moc"

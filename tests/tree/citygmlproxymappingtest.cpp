@@ -1,7 +1,10 @@
 #include "support/CityGMLTreeFixture.h"
+#include "support/TestClass.h"
 
 #include <QtTest>
 #include <sstream>
+
+using namespace testsupport;
 
 using tolvik::TreeNodeGML;
 
@@ -69,7 +72,7 @@ private slots:
     void appearanceHasNoNode()
     {
         const CityTree city;
-        LogCapture log;
+        ModelLog log;
         QVERIFY(city.source("a1").isValid());
         QVERIFY(!city.tree.mapFromSource(city.source("a1")).isValid());
         QVERIFY(city.tree.listFromSource(city.source("a1")).isEmpty());
@@ -151,25 +154,25 @@ private slots:
         TreeNodeGML* const newer = addNode(city.tree, city.feature("b2"));
         newer->setChildNumber(2);
         city.node("b2")->setChildNumber(-1);
-        LogCapture log;
+        ModelLog log;
 
         const QList<QModelIndex> nodes = city.tree.listFromSource(city.source("b2"));
         QCOMPARE(nodes.size(), 1);
         QCOMPARE(nodes.front().internalPointer(), static_cast<void*>(newer));
         QCOMPARE(nodes.front().row(), 2);
-        QCOMPARE(log.take(), QStringList("30000 [tree] tree(list) listFromSource row unset : " +
+        QCOMPARE(log.take(), QStringList("WARN [tree] tree(list) listFromSource row unset : " +
                                          addressOf(city.node("b2"))));
 
         QVERIFY(!city.tree.mapFromSource(city.source("b2")).isValid());
         QCOMPARE(log.take(),
-                 QStringList("30000 [tree] mapFromSource row unset : " + addressOf(city.node("b2"))));
+                 QStringList("WARN [tree] mapFromSource row unset : " + addressOf(city.node("b2"))));
     }
 
     void otherNegativeRows()
     {
         CityTree city;
         city.node("b2")->setChildNumber(-2);
-        LogCapture log;
+        ModelLog log;
         QVERIFY(!city.tree.mapFromSource(city.source("b2")).isValid());
         QCOMPARE(log.take().size(), 1);
         QCOMPARE(city.tree.listFromSource(city.source("b2")).size(), 1);
@@ -213,5 +216,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(CityGMLProxyMappingTest)
+TEST_CLASS(CityGMLProxyMappingTest, Widgets)
 #include "citygmlproxymappingtest.moc"

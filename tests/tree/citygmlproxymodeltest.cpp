@@ -1,11 +1,13 @@
-#include "framework/OperationListener.h"
-#include "framework/OperationStatus.h"
 #include "support/CityGMLTreeFixture.h"
+#include "support/OperationRecorder.h"
+#include "support/TestClass.h"
 
 #include <memory>
 #include <QMetaMethod>
 #include <QPointer>
 #include <QtTest>
+
+using namespace testsupport;
 
 using Fondo::RefPtr;
 using tolvik::CityGMLProxyModel;
@@ -15,32 +17,7 @@ using tolvik::TreeNodeGML;
 
 namespace {
 
-const QStringList rebuild{"modelAboutToBeReset", "modelReset"};
 const QStringList rebuildForHost{"aboutToBeChanged", "modelAboutToBeReset", "modelReset", "changed"};
-
-/// Writes down the operations that are reported, with their totals.
-class Progress : public tolvik::OperationListener
-{
-public:
-    Progress() : former(tolvik::OperationStatus::setListener(this)) {}
-    ~Progress() override { tolvik::OperationStatus::setListener(former); }
-
-    void begin(const QString& title, long long totalSteps, bool blocking, int level) override
-    {
-        lines.append(QStringLiteral("%1 %2%3%4")
-                         .arg(title)
-                         .arg(totalSteps)
-                         .arg(blocking ? "" : " in the background")
-                         .arg(level == 0 ? "" : " within"));
-    }
-    void progress(long long /*doneSteps*/, int /*level*/) override {}
-    void end(int /*level*/) override { lines.append("end"); }
-
-    QStringList lines;
-
-private:
-    tolvik::OperationListener* former;
-};
 
 /// A document model that can have rows twice.
 class RepeatingModel : public tolvik::CityGMLModel
@@ -238,20 +215,22 @@ private slots:
     void threePhasesAreReported()
     {
         CityTree city;
-        const Progress progress;
+        const OperationRecorder progress;
         city.tree.computeNodeMap();
-        QCOMPARE(progress.lines, QStringList({"Building Proxy Nodes 7", "end",
-                                              "Building Nodes Parent/Children relashionship 7", "end",
-                                              "Building Root nodes 7", "end"}));
+        QCOMPARE(progress.lines,
+                 QStringList({"begin Building Proxy Nodes 7 blocking 0", "end 0",
+                              "begin Building Nodes Parent/Children relashionship 7 blocking 0", "end 0",
+                              "begin Building Root nodes 7 blocking 0", "end 0"}));
     }
 
     void withoutChildrenVisitorTheFirstPhaseIsLeftOut()
     {
         CityTree city;
-        const Progress progress;
+        const OperationRecorder progress;
         city.tree.setTraverseChildrenVisitor(nullptr);
-        QCOMPARE(progress.lines, QStringList({"Building Nodes Parent/Children relashionship 7", "end",
-                                              "Building Root nodes 7", "end"}));
+        QCOMPARE(progress.lines,
+                 QStringList({"begin Building Nodes Parent/Children relashionship 7 blocking 0", "end 0",
+                              "begin Building Root nodes 7 blocking 0", "end 0"}));
         QCOMPARE(city.dump(), QString("city b1 w1 d1 d2 w2 b2"));
         city.check();
     }
@@ -341,13 +320,13 @@ private slots:
         });
         city.model.dataSetChanged();
         QVERIFY(wasBusy);
-        QCOMPARE(recorder.take(), QStringList({"stored"}) + rebuild);
+        QCOMPARE(recorder.take(), QStringList({"stored"}) + resetSignals);
         QCOMPARE(city.dump(), QString("city a1 b1 w1 d1 d2 w2 b2"));
     }
 
     void sourcesAndDocumentsComeAndGo()
     {
-        const LogCapture log; // keeps the error of the failed load
+        const ModelLog log; // keeps the error of the failed load
         auto model = std::make_unique<tolvik::CityGMLModel>(nullptr, nullptr);
         auto other = std::make_unique<tolvik::CityGMLModel>(nullptr, nullptr);
         const auto load = [](tolvik::CityGMLModel& target, const QByteArray& document) {
@@ -360,30 +339,30 @@ private slots:
         const QAbstractItemModelTester tester(&tree, QAbstractItemModelTester::FailureReportingMode::Fatal);
         TreeRecorder recorder(&tree);
         tree.setSourceModel(model.get());
-        QCOMPARE(recorder.take(), rebuild);
+        QCOMPARE(recorder.take(), resetSignals);
         QCOMPARE(tree.rowCount(), 0);
         QVERIFY(tree.cityGML() == nullptr);
 
         load(*model, village());
-        QCOMPARE(recorder.take(), rebuild);
+        QCOMPARE(recorder.take(), resetSignals);
         QCOMPARE(tree.nodeMap.size(), std::size_t(7));
 
         load(*model, "<CityModel"); // the earlier document stays
-        QCOMPARE(recorder.take(), rebuild);
+        QCOMPARE(recorder.take(), resetSignals);
         QCOMPARE(tree.nodeMap.size(), std::size_t(7));
 
         load(*model, village());
         model->dataSetChanged();
-        QCOMPARE(recorder.take(), rebuild + rebuild);
+        QCOMPARE(recorder.take(), resetSignals + resetSignals);
         QCOMPARE(tree.nodeMap.size(), std::size_t(7));
 
         model->load("/no such file");
-        QCOMPARE(recorder.take(), rebuild);
+        QCOMPARE(recorder.take(), resetSignals);
         QCOMPARE(tree.rowCount(), 0);
         QVERIFY(tree.cityGML() != nullptr);
 
         tree.setSourceModel(other.get());
-        QCOMPARE(recorder.take(), rebuild);
+        QCOMPARE(recorder.take(), resetSignals);
         QCOMPARE(tree.cityGML(), other->cityGML());
         QCOMPARE(tree.rowCount(tree.index(0, 0)), 3);
         model->dataSetChanged();
@@ -391,7 +370,7 @@ private slots:
 
         const RefPtr<TreeNode> former = tree.treeNode(other->getFeature(1));
         other.reset();
-        QCOMPARE(recorder.take(), rebuild);
+        QCOMPARE(recorder.take(), resetSignals);
         QCOMPARE(tree.rowCount(), 0);
         QVERIFY(tree.cityGML() == nullptr);
         // The nodes go with the features that they stand for.
@@ -404,7 +383,7 @@ private slots:
         QCOMPARE(tree.nodeMap.size(), std::size_t(8));
         recorder.clear();
         tree.setSourceModel(nullptr);
-        QCOMPARE(recorder.take(), rebuild);
+        QCOMPARE(recorder.take(), resetSignals);
         QCOMPARE(tree.rowCount(), 0);
         QVERIFY(tree.nodeMap.empty());
     }
@@ -488,7 +467,7 @@ private slots:
         CityTree city;
         city.model.setObjectName("list");
         TreeNodeGML* building = nullptr;
-        LogCapture log;
+        ModelLog log;
         city.tree.setTraverseChildrenVisitor(
             new Claim(city.tree.nodeMap, [&](TreeNodeGML* node, auto& nodes) {
                 if (node->feature() == city.feature("b1")) {
@@ -500,7 +479,7 @@ private slots:
             }));
         std::ostringstream address;
         address << static_cast<TreeNode*>(building);
-        QCOMPARE(log.take(), QStringList("40000 [tree] tree(list) updateTreeNodes() : " +
+        QCOMPARE(log.take(), QStringList("ERROR [tree] tree(list) updateTreeNodes() : " +
                                          QString::fromStdString(address.str()) + " has nil children"));
         QCOMPARE(city.node("w1")->childNumber(), 0);
         QCOMPARE(city.node("w2")->childNumber(), 2);
@@ -537,7 +516,7 @@ private slots:
                                               QAbstractItemModelTester::FailureReportingMode::Fatal);
         TreeRecorder recorder(&city.tree);
         city.tree.resetModel();
-        QCOMPARE(recorder.take(), rebuild);
+        QCOMPARE(recorder.take(), resetSignals);
         QCOMPARE(city.tree.rowCount(), 0);
         QVERIFY(city.tree.nodeMap.empty());
         QVERIFY(!city.at("b1").isValid());
@@ -639,5 +618,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(CityGMLProxyModelTest)
+TEST_CLASS(CityGMLProxyModelTest, Widgets)
 #include "citygmlproxymodeltest.moc"

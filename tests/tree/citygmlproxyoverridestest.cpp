@@ -1,9 +1,12 @@
 #include "support/CityGMLTreeFixture.h"
+#include "support/TestClass.h"
 
 #include <memory>
 #include <QDataStream>
 #include <QMimeData>
 #include <QtTest>
+
+using namespace testsupport;
 
 using tolvik::TreeNode;
 using tolvik::TreeNodeGML;
@@ -142,5 +145,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(CityGMLProxyOverridesTest)
+TEST_CLASS(CityGMLProxyOverridesTest, Widgets)
 #include "citygmlproxyoverridestest.moc"

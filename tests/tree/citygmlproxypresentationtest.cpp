@@ -8,6 +8,8 @@
 #include <QTranslator>
 #include <QtTest>
 
+using namespace testsupport;
+
 using tolvik::TreeNode;
 
 namespace {

@@ -1,4 +1,5 @@
 #include "support/CityGMLTreeFixture.h"
+#include "support/TestClass.h"
 
 #include <memory>
 #include <QAction>
@@ -7,6 +8,8 @@
 #include <QMimeData>
 #include <QRegularExpression>
 #include <QtTest>
+
+using namespace testsupport;
 
 using tolvik::CityGMLProxyModel;
 using tolvik::TreeNode;
@@ -374,5 +377,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(CityGMLProxySelectionTest)
+TEST_CLASS(CityGMLProxySelectionTest, Widgets)
 #include "citygmlproxyselectiontest.moc"

@@ -1,8 +1,14 @@
+#include "bldg/BoundarySurfacePropertyType.hxx"
+#include "bldg/OpeningPropertyType.hxx"
+#include "gml/FeaturePropertyType.hxx"
 #include "support/CityGMLTreeFixture.h"
+#include "support/TestClass.h"
 
 #include <memory>
 #include <QItemSelectionModel>
 #include <QtTest>
+
+using namespace testsupport;
 
 using Fondo::RefPtr;
 using tolvik::CityGMLProxyModel;
@@ -676,5 +682,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(CityGMLProxySynchronisationTest)
+TEST_CLASS(CityGMLProxySynchronisationTest, Widgets)
 #include "citygmlproxysynchronisationtest.moc"

@@ -1,10 +1,13 @@
 #include "UI/Models/CityGMLModel/CityGMLTreeModel.h"
 #include "support/CityGMLTreeFixture.h"
+#include "support/TestClass.h"
 
 #include <QItemSelectionModel>
 #include <QRegularExpression>
 #include <QTreeView>
 #include <QtTest>
+
+using namespace testsupport;
 
 using tolvik::CityGMLTreeModel;
 using tolvik::TreeNodeGML;
@@ -600,5 +603,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(CityGMLTreeModelTest)
+TEST_CLASS(CityGMLTreeModelTest, Widgets)
 #include "citygmltreemodeltest.moc"

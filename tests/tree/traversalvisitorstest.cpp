@@ -1,9 +1,12 @@
 #include "app/AppearanceType.hxx"
 #include "frn/CityFurnitureType.hxx"
 #include "support/CityGMLTreeFixture.h"
+#include "support/TestClass.h"
 
 #include <QtTest>
 #include <typeinfo>
+
+using namespace testsupport;
 
 using Fondo::RefPtr;
 using tolvik::CityGMLFeaturesVisitor;
@@ -282,5 +285,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(TraversalVisitorsTest)
+TEST_CLASS(TraversalVisitorsTest, None)
 #include "traversalvisitorstest.moc"

@@ -1,4 +1,5 @@
 #include "support/RandomCity.h"
+#include "support/TestClass.h"
 #include "support/TrackedIndexes.h"
 #include "UI/Models/CityGMLModel/CityGMLTreeModel.h"
 
@@ -10,6 +11,8 @@
 #include <QTreeView>
 #include <QtTest>
 #include <set>
+
+using namespace testsupport;
 
 // A tree view, a sorted and a filtered proxy model with views of their own above one feature tree, through a
 // long random run under the item model tester. After each operation the tree is compared with a plain model
@@ -585,5 +588,5 @@ private:
     QtMessageHandler formerHandler = nullptr;
 };
 
-QTEST_MAIN(TreeModelRandomTest)
+TEST_CLASS(TreeModelRandomTest, Widgets)
 #include "treemodelrandomtest.moc"

@@ -4,9 +4,12 @@
 #include "fondo/ClassType.h"
 #include "framework/TextConversion.h"
 #include "gml/CodeType.hxx"
+#include "support/TestClass.h"
 
 #include <memory>
 #include <QtTest>
+
+using namespace testsupport;
 
 using tolvik::TreeNode;
 using tolvik::TreeNodeGML;
@@ -122,5 +125,5 @@ private slots:
     }
 };
 
-QTEST_APPLESS_MAIN(TreeNodeGMLTest)
+TEST_CLASS(TreeNodeGMLTest, None)
 #include "treenodegmltest.moc"

@@ -1,8 +1,11 @@
 #include "framework/OperationListener.h"
 #include "framework/OperationStatus.h"
 #include "support/CityGMLTreeFixture.h"
+#include "support/TestClass.h"
 
 #include <QtTest>
+
+using namespace testsupport;
 
 namespace tolvik {
 
@@ -65,5 +68,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(TreeProgressTest)
+TEST_CLASS(TreeProgressTest, Widgets)
 #include "treeprogresstest.moc"

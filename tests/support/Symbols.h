@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace testsupport {
+
+/// The symbols that a shared library of the build defines and exports, as the linker sees them; empty if it
+/// cannot be read.
+/// \param name of the library, such as `CityGMLModel`
+QStringList exportedSymbols(const QString& name);
+
+/// The C++ name of a symbol or type; the symbol itself where it has none.
+QString demangled(const char* symbol);
+
+} // namespace testsupport
