@@ -187,9 +187,10 @@ protected:
         }
     }
 
-    void selectSiblings(bool sameType, bool /*reserved*/) override
+    void selectSiblings(bool sameType, bool reserved) override
     {
-        calls.append(sameType ? "siblings of same type" : "siblings");
+        calls.append(QString(sameType ? "siblings of same type" : "siblings") +
+                     (reserved ? ", true" : ", false"));
     }
 
     void encodeData(const QList<QModelIndex>& indexes, QDataStream& stream) const override
