@@ -157,6 +157,33 @@ private slots:
         QVERIFY(visitor.walkChildren && visitor.walkStart);
     }
 
+    void aCopyWalksAsItsOriginal()
+    {
+        const auto document = read(house);
+        auto& building = *document->featureMember().front()._Feature();
+        for (const bool children : {true, false}) {
+            for (const bool start : {true, false}) {
+                Recorder original;
+                original.walkChildren = children;
+                original.walkStart = start;
+                Recorder copy(original);
+                Recorder assigned;
+                assigned.walkChildren = !children;
+                assigned.walkStart = !start;
+                assigned = original;
+                QCOMPARE(copy.walkChildren, children);
+                QCOMPARE(copy.walkStart, start);
+                QCOMPARE(assigned.walkChildren, children);
+                QCOMPARE(assigned.walkStart, start);
+                building.accept(&original);
+                building.accept(&copy);
+                building.accept(&assigned);
+                QCOMPARE(copy.visited, original.visited);
+                QCOMPARE(assigned.visited, original.visited);
+            }
+        }
+    }
+
     void withoutChildrenAVisitStaysInside()
     {
         const auto document = readStrictly(documentText(house, " gml:id='root'"));

@@ -337,7 +337,7 @@ private slots:
     void viewsStayConsistent()
     {
         QFETCH(unsigned, seed);
-        const LogCapture log; // keeps the errors of failed loads
+        const ModelLog log; // keeps the errors of failed loads
         Run run(seed);
         QCOMPARE(run.difference(), QString());
         QStringList recent;

@@ -43,6 +43,38 @@ private slots:
         QCOMPARE(footprint.first().size(), 4);
     }
 
+    /// Coordinates without a height are those of the ground.
+    void aFlatEnvelopeLiesAtHeightZero()
+    {
+        tolvik::CityGMLModel model(&m_plugin, nullptr);
+        load(model, "<gml:boundedBy><gml:Envelope><gml:lowerCorner>1 2</gml:lowerCorner>"
+                    "<gml:upperCorner>5 8</gml:upperCorner></gml:Envelope></gml:boundedBy>");
+        const tolvik::CoreModel::_geoPoint anchor = model.anchor();
+        QCOMPARE(anchor.x, 3.0);
+        QCOMPARE(anchor.y, 5.0);
+        QCOMPARE(anchor.z, 0.0);
+        QCOMPARE(model.footprint().first().first().z, 0.0);
+    }
+
+    void anIncompleteEnvelopeIsNoPlace_data()
+    {
+        QTest::addColumn<QByteArray>("corners");
+        QTest::newRow("lower corner alone") << QByteArray("<gml:lowerCorner>1 2 3</gml:lowerCorner>");
+        QTest::newRow("upper corner alone") << QByteArray("<gml:upperCorner>1 2 3</gml:upperCorner>");
+        QTest::newRow("one position") << QByteArray("<gml:pos>1 2 3</gml:pos>");
+        QTest::newRow("three positions")
+            << QByteArray("<gml:pos>1 2 3</gml:pos><gml:pos>4 5 6</gml:pos><gml:pos>7 8 9</gml:pos>");
+        QTest::newRow("one corner of one number")
+            << QByteArray("<gml:lowerCorner>1</gml:lowerCorner><gml:upperCorner>4 5 6</gml:upperCorner>");
+    }
+    void anIncompleteEnvelopeIsNoPlace()
+    {
+        QFETCH(QByteArray, corners);
+        tolvik::CityGMLModel model(&m_plugin, nullptr);
+        load(model, "<gml:boundedBy><gml:Envelope>" + corners + "</gml:Envelope></gml:boundedBy>");
+        QVERIFY(model.footprint().isEmpty());
+    }
+
     void aDocumentWithoutAnEnvelopeHasNoPlace()
     {
         tolvik::CityGMLModel model(&plugin, nullptr);

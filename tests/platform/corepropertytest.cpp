@@ -129,6 +129,30 @@ private slots:
         QCOMPARE(root->getProperty("wanted", true)->value(), QVariant("below first"));
     }
 
+    void recursiveSearchGoesToTheBottom()
+    {
+        const RefPtr<CoreProperty> root = new CoreProperty("", QVariant());
+        CoreProperty* deepest = root.get();
+        for (int level = 0; level < 5; ++level) {
+            auto* const below = new CoreProperty(QString::number(level), level);
+            deepest->addProperty(below);
+            deepest = below;
+        }
+        QCOMPARE(root->getProperty("4", true), deepest);
+        QVERIFY(root->getProperty("4", false) == nullptr);
+    }
+
+    /// One of that name further down is another one.
+    void getOrCreateMakesAChild()
+    {
+        const RefPtr<CoreProperty> root = new CoreProperty("", QVariant());
+        auto* const group = new CoreProperty("group", QVariant());
+        root->addProperty(group);
+        group->addProperty(new CoreProperty("Year", 1990));
+        QCOMPARE(root->getOrCreateProperty("Year", 2000)->value(), QVariant(2000));
+        QCOMPARE(root->properties().size(), 2);
+    }
+
     void getOrCreateFindsBeforeItMakes()
     {
         const RefPtr<CoreProperty> root = new CoreProperty("", QVariant());
@@ -170,6 +194,8 @@ private slots:
         QTest::newRow("km") << 3 << 1 << 2.5 << 2500.0;
         QTest::newRow("km2") << 3 << 2 << 2.0 << 2e6;
         QTest::newRow("cm") << -2 << 1 << 7.0 << 0.07;
+        // Seven and the like come out the same either way; this one shows whether it is divided.
+        QTest::newRow("exact cm") << -2 << 1 << 35.0 << 0.35;
         QTest::newRow("cm2") << -2 << 2 << 30.0 << 0.003;
         QTest::newRow("1/km") << 3 << -1 << 5.0 << 0.005;
     }
@@ -200,6 +226,30 @@ private slots:
         QCOMPARE(property->SIValue(), QVariant(4000.0));
         property->setUnit(nullptr);
         QCOMPARE(property->SIValue(), QVariant(4.0));
+    }
+
+    void everyKindOfNumberGoesThroughTheUnit_data()
+    {
+        QTest::addColumn<QVariant>("number");
+        QTest::newRow("int") << QVariant::fromValue<int>(2);
+        QTest::newRow("unsigned") << QVariant::fromValue<unsigned>(2);
+        QTest::newRow("long") << QVariant::fromValue<long>(2);
+        QTest::newRow("unsigned long") << QVariant::fromValue<unsigned long>(2);
+        QTest::newRow("long long") << QVariant::fromValue<qlonglong>(2);
+        QTest::newRow("unsigned long long") << QVariant::fromValue<qulonglong>(2);
+        QTest::newRow("short") << QVariant::fromValue<short>(2);
+        QTest::newRow("unsigned short") << QVariant::fromValue<unsigned short>(2);
+        QTest::newRow("float") << QVariant::fromValue<float>(2);
+        QTest::newRow("double") << QVariant::fromValue<double>(2);
+    }
+
+    void everyKindOfNumberGoesThroughTheUnit()
+    {
+        QFETCH(QVariant, number);
+        const RefPtr<CoreProperty> property = new CoreProperty("p", number);
+        property->setUnit(UnitCreator::getOrCreateSingleUnit("test-km", 3, 1));
+        QCOMPARE(property->SIValue(), QVariant(2000.0));
+        QCOMPARE(property->displayValue(), QVariant("2 test-km"));
     }
 
     void whatIsNoNumberHasNoUnit_data()

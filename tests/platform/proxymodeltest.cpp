@@ -44,6 +44,20 @@ public:
     QVector<int> searchFilter() override { return {0}; }
 };
 
+class StillTree : public TestTree
+{
+public:
+    using TestTree::TestTree;
+    void computeNodeMap() override
+    {
+        if (!isStill) {
+            TestTree::computeNodeMap();
+        }
+    }
+
+    bool isStill = false;
+};
+
 } // namespace
 
 class ProxyModelTest : public QObject
@@ -113,6 +127,18 @@ private slots:
         QCOMPARE(found.column(), 0);
     }
 
+    /// A node that is met below two parents is where it was found.
+    void searchStartsFromOnePlaceOfANode()
+    {
+        City city;
+        TestTree& tree = city.tree;
+        tree.rootNode(1)->children().push_back(tree.rootNode(0)->children()[0]);
+        QCOMPARE(city.search(tree.find("door"), "o"), QString("window"));
+        const QModelIndex second = tree.index(1, 0, tree.index(1, 0));
+        QCOMPARE(second.data().toString(), QString("door"));
+        QCOMPARE(city.search(second, "o"), QString("tower"));
+    }
+
     void searchForNothing()
     {
         City city;
@@ -155,6 +181,20 @@ private slots:
                                                "dataChanged 0/1:0 0/1:1 []", "dataChanged 1:0 1:1 []"}));
     }
 
+    /// Also where a subclass finds nothing to do, so that no reset says that the tree is ready.
+    void nodesAreThereAgainWhenTheSourceIsReady()
+    {
+        StillTree tree;
+        TestModel model({"a"});
+        tree.setSourceModel(&model);
+        tree.isStill = true;
+        QVERIFY(tree.find("a").flags().testFlag(Qt::ItemIsEnabled));
+        emit model.layoutAboutToBeChanged();
+        QCOMPARE(tree.find("a").flags(), Qt::ItemFlags(Qt::NoItemFlags));
+        emit model.layoutChanged();
+        QVERIFY(tree.find("a").flags().testFlag(Qt::ItemIsEnabled));
+    }
+
     void selectionModelIsAttachedAndDetached()
     {
         City city;
@@ -188,7 +228,7 @@ private slots:
         city.tree.calls.clear();
         // Actions are connected by name.
         QVERIFY(QMetaObject::invokeMethod(&city.tree, "selectSiblingsWithSameType"));
-        QCOMPARE(city.tree.calls, QStringList({"siblings of same type"}));
+        QCOMPARE(city.tree.calls, QStringList({"siblings of same type, false"}));
     }
 
     void actionsAreMadeOnce()

@@ -56,6 +56,8 @@ private slots:
         QCOMPARE(property->name(), QString("Any label"));
         QCOMPARE(property->value(), QVariant(12.5));
         QCOMPARE(property->unit()->name(), QString("m"));
+        // Of a unit no more is known than its name.
+        QCOMPARE(property->SIValue(), QVariant(12.5));
         QCOMPARE(property->displayValue(), QVariant("12.5 m"));
         QCOMPARE(property->defaultValue(), QVariant(0.0));
         QVERIFY(property->editable());

@@ -274,6 +274,9 @@ private slots:
         const QVariant link = toQVariant<optional<uri>>(optional<uri>(uri("http://a/b c")));
         QCOMPARE(link.userType(), int(QMetaType::QUrl));
         QCOMPARE(link.toUrl(), QUrl("http://a/b c", QUrl::TolerantMode));
+        // What is no address as it stands is understood, and not lost.
+        QCOMPARE(toQVariant<optional<uri>>(optional<uri>(uri("http://a/50% off"))).toUrl().toEncoded(),
+                 QByteArray("http://a/50%25%20off"));
         QCOMPARE(typedText(toQVariant<optional<uri>>(optional<uri>())), QString("invalid"));
         QCOMPARE(fromQVariant<uri>(QUrl("http://a/b"), metre), std::string("http://a/b"));
         QCOMPARE(fromQVariant<optional<uri>>("b c", metre).get(), std::string("b c"));

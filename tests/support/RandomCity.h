@@ -1,6 +1,9 @@
 #pragma once
 
 #include "app/AppearanceType.hxx"
+#include "bldg/BoundarySurfacePropertyType.hxx"
+#include "bldg/OpeningPropertyType.hxx"
+#include "gml/FeaturePropertyType.hxx"
 #include "support/CityReference.h"
 
 #include <QtTest>

@@ -146,9 +146,10 @@ void TestTree::rowsAboutToBeRemovedInSourceModel(const QModelIndex& /*parent*/, 
     }
 }
 
-void TestTree::selectSiblings(bool sameType, bool /*reserved*/)
+void TestTree::selectSiblings(bool sameType, bool reserved)
 {
-    calls.append(sameType ? "siblings of same type" : "siblings");
+    calls.append(QString(sameType ? "siblings of same type" : "siblings") +
+                 (reserved ? ", true" : ", false"));
 }
 
 void TestTree::encodeData(const QList<QModelIndex>& indexes, QDataStream& stream) const

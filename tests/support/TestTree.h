@@ -69,7 +69,7 @@ protected:
 
     void rowsAboutToBeRemovedInSourceModel(const QModelIndex& /*parent*/, int start, int /*end*/) override;
 
-    void selectSiblings(bool sameType, bool /*reserved*/) override;
+    void selectSiblings(bool sameType, bool reserved) override;
 
     void encodeData(const QList<QModelIndex>& indexes, QDataStream& stream) const override;
     QList<QModelIndex> decodeData(QDataStream& /*stream*/) const override { return {}; }

@@ -255,6 +255,7 @@ private slots:
             help.out.contains("1 a document could not be loaded or saved, has no such\nfeature or attribute, "
                               "or the attribute refused the value"),
             help.out);
+        QCOMPARE(inspect({"-h"}).out, help.out);
         const ProcessResult version = inspect({"--version"});
         QCOMPARE(version.code, 0);
         QVERIFY(QString::fromUtf8(version.out)

@@ -48,7 +48,7 @@ const QByteArray documentText =
 second	line \ end</gen:value>
       </gen:stringAttribute>
       <gen:stringAttribute name="same">
-        <gen:value>other</gen:value>
+        <gen:value>other&#13;</gen:value>
       </gen:stringAttribute>
       <gen:stringAttribute name="same[2]">
         <gen:value>brackets</gen:value>
@@ -143,7 +143,7 @@ private slots:
                                                         "        ReferenceUri: http://two\n"
                                                         "    a/b: slash\n"
                                                         "    same: first line\\nsecond\\tline \\\\ end\n"
-                                                        "    same: other\n"
+                                                        "    same: other\\r\n"
                                                         "    same[2]: brackets\n"
                                                         "    long: 5000000000\n"
                                                         "    ClassType: Building\n"
@@ -154,6 +154,27 @@ private slots:
                                                         "  Properties\n"
                                                         "    Energy\n"
                                                         "      isLandmarked: true\n"));
+    }
+
+    /// JSON has no such numbers.
+    void numbersBeyondJson()
+    {
+        QFile file(path("numbers.gml"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("<core:CityModel xmlns:core='http://www.opengis.net/citygml/2.0' "
+                   "xmlns:bldg='http://www.opengis.net/citygml/building/2.0' "
+                   "xmlns:gen='http://www.opengis.net/citygml/generics/2.0'>"
+                   "<core:cityObjectMember><bldg:Building>"
+                   "<gen:doubleAttribute name='none'><gen:value>NaN</gen:value></gen:doubleAttribute>"
+                   "<gen:doubleAttribute name='all'><gen:value>-INF</gen:value></gen:doubleAttribute>"
+                   "</bldg:Building></core:cityObjectMember></core:CityModel>");
+        file.close();
+        QJsonParseError error;
+        const ProcessResult result = inspect({"properties", path("numbers.gml"), "--row", "1", "--json"});
+        QJsonDocument::fromJson(result.out, &error);
+        QCOMPARE(error.error, QJsonParseError::NoError);
+        QVERIFY2(result.out.contains("\"value\":\"nan\"") && result.out.contains("\"value\":\"-inf\""),
+                 result.out);
     }
 
     void json()
@@ -193,6 +214,28 @@ private slots:
         QCOMPARE(every.array().at(1).toObject(), root);
     }
 
+    /// A label without a number is the first of that name, also where the second one has what is asked for.
+    void aLabelIsTheFirstOfItsName()
+    {
+        const QString group = "Fields/ExternalReferences/externalObjectReference";
+        QCOMPARE(inspect({"set", path("in.gml"), "--id", "b", group + "[2]/ReferenceName", "two",
+                          path("second.gml")})
+                     .code,
+                 0);
+        QCOMPARE(inspect({"set", path("second.gml"), "--id", "b", group + "/ReferenceName", "one",
+                          path("both.gml")})
+                     .code,
+                 0);
+        const QByteArray text = inspect({"properties", path("both.gml"), "--id", "b"}).out;
+        QVERIFY2(text.contains("      externalObjectReference\n"
+                               "        ReferenceName: one\n"
+                               "        ReferenceUri: http://one\n"
+                               "      externalObjectReference\n"
+                               "        ReferenceName: two\n"
+                               "        ReferenceUri: http://two\n"),
+                 text);
+    }
+
     void absentAttributes()
     {
         const QString text = inspect({"properties", path("in.gml"), "--row", "1", "--absent"}).out;
@@ -219,11 +262,13 @@ private slots:
         row("label with a slash", "Fields/a/b", "new & <old>", ">slash<", ">new &amp; &lt;old&gt;<");
         row("the first of two", "Fields/same", "x", ">first line\nsecond\tline \\ end<", ">x<");
         row("the first by its number", "Fields/same[1]", "x", ">first line\nsecond\tline \\ end<", ">x<");
-        row("the second of two", "Fields/same[2]", "x", ">other<", ">x<");
+        row("the second of two", "Fields/same[2]", "x", ">other&#13;<", ">x<");
         row("label with brackets", "Fields/same[2][1]", "x", ">brackets<", ">x<");
         row("empty text", "Fields/a/b", "", "<gen:value>slash</gen:value>", "<gen:value/>");
         row("below a group", "Fields/ExternalReferences/externalObjectReference[2]/ReferenceUri",
             "http://new/x", "http://two", "http://new/x");
+        row("link that is no address", "Fields/ExternalReferences/externalObjectReference/ReferenceUri",
+            "http://a/50% off", ">http://one<", ">http://a/50% off<");
         row("list", "Fields/Function", "[\"1\"]", ">1000<", ">1<");
         row("list of one", "Fields/Function", "1600", ">1000<", ">1600<");
         row("nullable list", "Fields/StoreyHeightsAboveGround", "[\"2.50\", \"withheld\"]", ">3.0 unknown<",

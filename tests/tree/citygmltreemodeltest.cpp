@@ -538,7 +538,7 @@ private slots:
     void failedLoads()
     {
         Town town;
-        const LogCapture log;
+        const ModelLog log;
         town.load("<CityModel");
         QCOMPARE(town.recorder.take(), QStringList({"modelAboutToBeReset", "modelReset"}));
         QCOMPARE(town.dump(), QString("city(b1(w1(d1 d2) w2) b2)"));

@@ -559,7 +559,7 @@ private slots:
     {
         QFETCH(unsigned, seed);
         const int operations = qEnvironmentVariableIsSet("TOLVIK_LONG_RUNS") ? 10000 : 1000;
-        const LogCapture log; // keeps the errors of failed loads
+        const ModelLog log; // keeps the errors of failed loads
         Run run(seed);
         QStringList recent;
         for (int i = 0; i < operations; ++i) {

@@ -13,13 +13,18 @@ namespace binding {
 
 namespace {
 
+/// The text without its plus sign, which from_chars does not read. A plus sign before a minus sign stays, for
+/// the text to be refused.
+std::string_view withoutPlus(std::string_view text)
+{
+    const bool isSign = text.size() > 1 && text[0] == '+' && text[1] != '-';
+    return isSign ? text.substr(1) : text;
+}
+
 template <typename T>
 T parseDecimal(std::string_view text, const char* kind)
 {
-    std::string_view digits = text;
-    if (!digits.empty() && digits.front() == '+' && digits.size() > 1 && digits[1] != '-') {
-        digits.remove_prefix(1);
-    }
+    const std::string_view digits = withoutPlus(text);
     T value{};
     const char* end = digits.data() + digits.size();
     const auto result = std::from_chars(digits.data(), end, value);
@@ -42,10 +47,7 @@ T parseReal(std::string_view text)
         return std::numeric_limits<T>::quiet_NaN();
     }
 
-    std::string_view digits = text;
-    if (!digits.empty() && digits.front() == '+') {
-        digits.remove_prefix(1);
-    }
+    const std::string_view digits = withoutPlus(text);
     // from_chars also reads names such as "inf", which are no numbers here.
     const std::size_t first = !digits.empty() && digits.front() == '-' ? 1 : 0;
     if (digits.size() <= first || !(digits[first] == '.' || (digits[first] >= '0' && digits[first] <= '9'))) {

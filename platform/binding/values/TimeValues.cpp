@@ -323,9 +323,6 @@ void parseValue(xml_schema::duration& value, std::string_view text)
         reader.skip(length + 1);
         ++unit;
     }
-    if (text.back() == 'T') {
-        reader.fail();
-    }
     value.negative(result.negative());
     value.years(result.years());
     value.months(result.months());
