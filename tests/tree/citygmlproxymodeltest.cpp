@@ -239,7 +239,7 @@ private slots:
     {
         CityTree city;
         QStringList seen;
-        struct Asking : Progress
+        struct Asking : OperationRecorder
         {
             void begin(const QString& title, long long /*total*/, bool /*blocking*/, int /*level*/) override
             {

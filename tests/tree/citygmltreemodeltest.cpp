@@ -1,4 +1,6 @@
 #include "UI/Models/CityGMLModel/CityGMLTreeModel.h"
+#include "bldg/BoundarySurfacePropertyType.hxx"
+#include "bldg/BuildingType.hxx"
 #include "support/CityGMLTreeFixture.h"
 #include "support/TestClass.h"
 
