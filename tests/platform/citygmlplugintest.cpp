@@ -46,7 +46,7 @@ private slots:
     /// Coordinates without a height are those of the ground.
     void aFlatEnvelopeLiesAtHeightZero()
     {
-        tolvik::CityGMLModel model(&m_plugin, nullptr);
+        tolvik::CityGMLModel model(&plugin, nullptr);
         load(model, "<gml:boundedBy><gml:Envelope><gml:lowerCorner>1 2</gml:lowerCorner>"
                     "<gml:upperCorner>5 8</gml:upperCorner></gml:Envelope></gml:boundedBy>");
         const tolvik::CoreModel::_geoPoint anchor = model.anchor();
@@ -70,7 +70,7 @@ private slots:
     void anIncompleteEnvelopeIsNoPlace()
     {
         QFETCH(QByteArray, corners);
-        tolvik::CityGMLModel model(&m_plugin, nullptr);
+        tolvik::CityGMLModel model(&plugin, nullptr);
         load(model, "<gml:boundedBy><gml:Envelope>" + corners + "</gml:Envelope></gml:boundedBy>");
         QVERIFY(model.footprint().isEmpty());
     }
