@@ -9,10 +9,10 @@
 
 using namespace faults;
 using faults::Document;
+using testsupport::errorOf;
 using testsupport::readStrictly;
 using testsupport::schemas;
 using testsupport::SchemaValidator;
-using testsupport::strictErrorOf;
 using testsupport::write;
 using testsupport::XmlNode;
 
@@ -142,7 +142,7 @@ private slots:
     {
         Complaints complaints;
         for (const Document& document : qAsConst(faultless)) {
-            const QString error = strictErrorOf(document.faultless);
+            const QString error = errorOf(document.faultless);
             const QStringList differences =
                 error.isEmpty() ? differencesAfterSave(document.faultless) : QStringList(error);
             if (!differences.isEmpty()) {
@@ -158,7 +158,7 @@ private slots:
         Complaints complaints;
         int refused = 0;
         for (const Document& document : qAsConst(documents)) {
-            const QString error = strictErrorOf(document.faulty);
+            const QString error = errorOf(document.faulty);
             const QString place = QString("document:%1:%2 ").arg(document.line).arg(document.column);
             if (document.isRefused && !error.trimmed().startsWith(place)) {
                 complaints.add(document, "not at " + place + ": " + error);
@@ -177,7 +177,7 @@ private slots:
             if (document.isRefused) {
                 continue;
             }
-            const QString error = strictErrorOf(document.faulty);
+            const QString error = errorOf(document.faulty);
             if (!error.isEmpty()) {
                 complaints.add(document, error);
             } else if (document.kind != Kind::OutOfOrder &&

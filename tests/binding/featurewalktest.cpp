@@ -83,6 +83,12 @@ const QByteArray house =
     "gml:id='member'/>"
     "</grp:groupMember></grp:CityObjectGroup></core:cityObjectMember>";
 
+Document readHouse()
+{
+    return readStrictly(
+        documentText(house, " xmlns:grp='http://www.opengis.net/citygml/cityobjectgroup/2.0' gml:id='root'"));
+}
+
 template <typename Features>
 QStringList idsOf(const Features& features)
 {
@@ -135,7 +141,7 @@ private slots:
 
     void aDeepWalkListsTheDocumentInItsOrder()
     {
-        const auto document = readStrictly(documentText(house, " gml:id='root'"));
+        const auto document = readHouse();
         tolvik::CityGMLFeaturesFillVisitor visitor;
         QVERIFY(document->accept(&visitor));
         QCOMPARE(idsOf(visitor.getModelFeatures()),
@@ -148,7 +154,7 @@ private slots:
 
     void aWalkFromAStartGoesOneLevelDown()
     {
-        const auto document = readStrictly(documentText(house, " gml:id='root'"));
+        const auto document = readHouse();
         auto& building = *document->featureMember().front()._Feature();
         Recorder visitor;
         visitor.walkChildren = visitor.walkStart = true;
@@ -159,7 +165,7 @@ private slots:
 
     void aCopyWalksAsItsOriginal()
     {
-        const auto document = read(house);
+        const auto document = readHouse();
         auto& building = *document->featureMember().front()._Feature();
         for (const bool children : {true, false}) {
             for (const bool start : {true, false}) {
@@ -186,7 +192,7 @@ private slots:
 
     void withoutChildrenAVisitStaysInside()
     {
-        const auto document = readStrictly(documentText(house, " gml:id='root'"));
+        const auto document = readHouse();
         for (const bool start : {true, false}) {
             Recorder visitor;
             visitor.walkChildren = false;
@@ -198,7 +204,7 @@ private slots:
 
     void belowARefusedFeatureNothingIsWalked()
     {
-        const auto document = readStrictly(documentText(house, " gml:id='root'"));
+        const auto document = readHouse();
         Refusing visitor({"wall", "group"});
         QVERIFY(document->accept(&visitor));
         QCOMPARE(visitor.visited,
@@ -207,7 +213,7 @@ private slots:
 
     void anotherWalkDoesNotGoOnWithARefusedFeature()
     {
-        const auto document = readStrictly(documentText(house, " gml:id='root'"));
+        const auto document = readHouse();
         Refusing visitor({"house", "look"});
         QVERIFY(!document->featureMember().front()._Feature()->accept(&visitor));
         QCOMPARE(visitor.visited, QStringList("house"));
@@ -215,7 +221,7 @@ private slots:
         QVERIFY(document->featureMember().back()._Feature()->accept(&visitor));
         QCOMPARE(visitor.visited, QStringList({"group", "member"}));
         // Nor does it read what is gone.
-        QVERIFY(!readStrictly(documentText(house, " gml:id='root'"))
+        QVERIFY(!readHouse()
                      ->featureMember()
                      .front()
                      ._Feature()
@@ -227,7 +233,7 @@ private slots:
 
     void anotherWalkDoesNotGoOnWithAnEndedOne()
     {
-        const auto document = readStrictly(documentText(house, " gml:id='root'"));
+        const auto document = readHouse();
         Refusing visitor({});
         visitor.throwsAt = "wall";
         QVERIFY_EXCEPTION_THROWN(document->accept(&visitor), std::runtime_error);

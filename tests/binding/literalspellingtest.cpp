@@ -6,7 +6,6 @@
 #include "support/TestClass.h"
 #include "support/XmlTree.h"
 
-#include <log4cplus/initializer.h>
 #include <QtTest>
 
 using namespace testsupport;
@@ -87,9 +86,6 @@ private slots:
         QVERIFY_EXCEPTION_THROWN(readStrictly(QByteArray(capital).replace("EntirelyA", "entirelya")),
                                  xsd::cxx::tree::parsing<char>);
     }
-
-private:
-    log4cplus::Initializer logging;
 };
 
 TEST_CLASS(LiteralSpellingTest, None)

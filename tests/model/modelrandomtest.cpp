@@ -1,3 +1,4 @@
+#include "support/LogRecorder.h"
 #include "support/RandomCity.h"
 #include "support/TestClass.h"
 #include "support/TrackedIndexes.h"
@@ -19,7 +20,11 @@ using tolvik::CityGMLProxyModel;
 
 namespace {
 
-constexpr int operations = 10000;
+/// How many operations a run has; with TOLVIK_LONG_RUNS=1 in the environment there are more of them.
+int operations()
+{
+    return qEnvironmentVariableIsSet("TOLVIK_LONG_RUNS") ? 100000 : 10000;
+}
 
 /// The model with its views, its reference and the operations on both.
 class Run : public RandomCity
@@ -341,7 +346,7 @@ private slots:
         Run run(seed);
         QCOMPARE(run.difference(), QString());
         QStringList recent;
-        for (int i = 0; i < operations; ++i) {
+        for (int i = 0; i < operations(); ++i) {
             recent.append(run.step());
             if (recent.size() > 5) {
                 recent.removeFirst();

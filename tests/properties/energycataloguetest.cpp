@@ -286,9 +286,9 @@ private slots:
                    typedText(enumerationLiterals().value(type)) + '\n';
         };
         QCOMPARE(attributesText<energy::ThermalBoundaryType>(boundary),
-                 " = -\n"
-                 "  Properties = -\n"
-                 "    pivotEnergy = -\n" +
+                 " = invalid\n"
+                 "  Properties = invalid\n"
+                 "    pivotEnergy = invalid\n" +
                      expected("boundaryContext", "pivotEnergy::BoundaryContextType", "OnStreet") +
                      expected("insulationTypeEnumeration", "pivotEnergy::InsulationTypeEnumerationType",
                               "NoThermalInsulation") +
@@ -303,9 +303,9 @@ private slots:
             "</frn:CityFurniture>";
         QCOMPARE(treeText(furniture), QString("Fields\n  ClassType: CityFurniture\n"));
         QCOMPARE(attributesText<frn::CityFurnitureType>(furniture),
-                 QString(" = -\n"
-                         "  Properties = -\n"
-                         "    Epadesa = -\n"
+                 QString(" = invalid\n"
+                         "  Properties = invalid\n"
+                         "    Epadesa = invalid\n"
                          "      cityFurnitureType = QString bench by GmlGenericApplicationAttributeProperty<"
                          "epadesa::poly_cityFurnitureType, string> default QString \n"));
     }

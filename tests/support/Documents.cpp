@@ -17,20 +17,6 @@ Document readWith(const QByteArray& xml, xsd::cxx::tree::flags flags)
     return Document(core::CityModel(stream, flags).release());
 }
 
-/// The text of an error; empty if the operation throws none of the reader.
-template <class Operation>
-QString errorIn(Operation operation)
-{
-    try {
-        operation();
-    } catch (const xsd::cxx::tree::exception<char>& error) {
-        std::ostringstream text;
-        text << error;
-        return QString::fromStdString(text.str());
-    }
-    return QString();
-}
-
 QByteArray writeWith(const core::CityModelType& document,
                      const xsd::cxx::xml::dom::namespace_infomap<char>& namespaces)
 {
@@ -73,7 +59,7 @@ QByteArray documentWithBuilding(const QByteArray& content)
 
 Document read(const QByteArray& xml)
 {
-    return readWith(xml, 0x400);
+    return readWith(xml, xsd::cxx::tree::flags::dont_validate);
 }
 
 Document readStrictly(const QByteArray& xml)
@@ -96,19 +82,19 @@ QByteArray writeWithoutPrefixes(const core::CityModelType& document)
     return writeWith(document, xsd::cxx::xml::dom::namespace_infomap<char>());
 }
 
-QString errorOf(const QByteArray& xml)
+QString errorOf(const QByteArray& xml, Document* document)
 {
-    return errorIn([&] { read(xml); });
-}
-
-QString strictErrorOf(const QByteArray& xml, Document* document)
-{
-    return errorIn([&] {
+    try {
         Document made = readStrictly(xml);
         if (document != nullptr) {
             *document = std::move(made);
         }
-    });
+    } catch (const xsd::cxx::tree::exception<char>& error) {
+        std::ostringstream text;
+        text << error;
+        return QString::fromStdString(text.str());
+    }
+    return QString();
 }
 
 std::list<gml::AbstractFeatureType*> featuresOf(core::CityModelType& document)

@@ -25,10 +25,10 @@ QByteArray buildingMember(const QByteArray& content, const QByteArray& id = "b")
 /// A document that has nothing but this member.
 QByteArray documentWithBuilding(const QByteArray& content);
 
-/// Reads a document as the model does. Throws the errors of the reader.
+/// Reads a document as loads of the model do. Throws the errors of the reader.
 Document read(const QByteArray& xml);
 
-/// The same without allowance for faults.
+/// The same where only documents without fault are wanted.
 Document readStrictly(const QByteArray& xml);
 
 /// The text of a save.
@@ -37,12 +37,9 @@ QByteArray write(const core::CityModelType& document);
 /// The same without the prefixes and schema locations that a save gives to all namespaces it knows.
 QByteArray writeWithoutPrefixes(const core::CityModelType& document);
 
-/// What reading reports; empty if it succeeds.
-QString errorOf(const QByteArray& xml);
-
 /// What strict reading reports; empty if it succeeds.
 /// \param document where the document goes, if it is wanted
-QString strictErrorOf(const QByteArray& xml, Document* document = nullptr);
+QString errorOf(const QByteArray& xml, Document* document = nullptr);
 
 /// The features of a document, in the order of the walk.
 std::list<gml::AbstractFeatureType*> featuresOf(core::CityModelType& document);

@@ -1,9 +1,6 @@
 #pragma once
 
 #include "app/AppearanceType.hxx"
-#include "bldg/BoundarySurfacePropertyType.hxx"
-#include "bldg/OpeningPropertyType.hxx"
-#include "gml/FeaturePropertyType.hxx"
 #include "support/CityReference.h"
 
 #include <QtTest>
@@ -20,20 +17,7 @@ public:
     virtual ~RandomCity() = default;
 
     /// Does one operation, and gives its name.
-    QString step()
-    {
-        int total = 0;
-        for (const Operation& each : operations) {
-            total += each.weight;
-        }
-        int drawn = below(total);
-        auto chosen = operations.begin();
-        for (; drawn >= chosen->weight; ++chosen) {
-            drawn -= chosen->weight;
-        }
-        chosen->run();
-        return chosen->name;
-    }
+    QString step();
 
     tolvik::CityGMLModel model{nullptr, nullptr};
     Reference reference;
@@ -49,193 +33,44 @@ protected:
     }
 
     /// Adds those that need the list alone.
-    void addListOperations()
-    {
-        using City = RandomCity;
-        add("load a document", 1, &City::loadDocument);
-        add("load what is no document", 1, &City::loadMalformed);
-        add("load a file that is not there", 1, &City::loadMissing);
-        add("reload", 3, &City::reload);
-        add("add a new feature", 22, &City::addNew);
-        add("add a feature of the document", 18, &City::addAgain);
-        add("remove a row", 14, &City::removeRow);
-        add("remove a branch from the document", 8, &City::removeBranch);
-        add("rename in the list", 8, &City::renameInList);
-        add("hide one", 6, &City::hideOne);
-        add("show one", 6, &City::showOne);
-        add("hide some", 6, &City::hideSome);
-        add("show some", 6, &City::showSome);
-        add("hide all", 1, &City::hideAll);
-        add("show all", 2, &City::showAll);
-        add("disable", 6, &City::disable);
-        add("enable", 8, &City::enable);
-    }
+    void addListOperations();
 
     int below(int limit) { return std::uniform_int_distribution<int>(0, limit - 1)(random); }
     bool chance() { return below(2) == 0; }
 
     QString newName() { return chance() ? QString("name %1").arg(below(1000)) : QString(); }
 
-    Item* anyRow()
-    {
-        return reference.rows.empty() ? nullptr
-                                      : reference.rows[std::size_t(below(int(reference.rows.size())))];
-    }
+    Item* anyRow();
 
-    std::vector<Item*> someRows()
-    {
-        std::vector<Item*> some;
-        for (int count = reference.rows.empty() ? 0 : below(6); count > 0; --count) {
-            some.push_back(anyRow());
-        }
-        return some;
-    }
+    std::vector<Item*> someRows();
 
-    Item* anyNode()
-    {
-        std::vector<Item*> nodes;
-        for (const auto& item : reference.items) {
-            if (item->isNode) {
-                nodes.push_back(item.get());
-            }
-        }
-        return nodes.empty() ? nullptr : nodes[std::size_t(below(int(nodes.size())))];
-    }
+    Item* anyNode();
 
-    QModelIndex inList(const Item* item, int column = 0) const
-    {
-        return model.index(reference.rowOf(item), column);
-    }
-    QList<QModelIndex> inList(const std::vector<Item*>& items) const
-    {
-        QList<QModelIndex> indexes;
-        for (const Item* const item : items) {
-            indexes.append(inList(item));
-        }
-        return indexes;
-    }
+    QModelIndex inList(const Item* item, int column = 0) const;
+    QList<QModelIndex> inList(const std::vector<Item*>& items) const;
 
-    void bindFeatures()
-    {
-        for (const auto& item : reference.items) {
-            item->feature = item->kind == Kind::City ? static_cast<gml::AbstractFeatureType*>(model.cityGML())
-                                                     : model.getFeature(item->id);
-            QVERIFY(item->feature != nullptr);
-        }
-    }
+    void bindFeatures();
 
-    void loadText(const QByteArray& text)
-    {
-        std::istringstream stream(text.toStdString());
-        model.load(stream);
-    }
+    void loadText(const QByteArray& text);
 
-    virtual void loadDocument()
-    {
-        Reference fresh;
-        fresh.showsAppearances = reference.showsAppearances;
-        fresh.isFlat = reference.isFlat;
-        Item* const city = fresh.add(Kind::City, nullptr, QString());
-        for (int i = below(5); i >= 0; --i) {
-            Item* const building = fresh.add(Kind::Building, city, newName());
-            if (below(4) == 0) {
-                fresh.add(Kind::Appearance, city, newName());
-            }
-            for (int j = below(4); j > 0; --j) {
-                Item* const wall = fresh.add(Kind::Wall, building, newName());
-                for (int k = below(3); k > 0; --k) {
-                    fresh.add(Kind::Door, wall, newName());
-                }
-            }
-        }
-        reference = std::move(fresh);
-        loadText(documentOf(*reference.items.front()));
-        bindFeatures();
-        reference.resetRows(true);
-    }
+    virtual void loadDocument();
 
-    void loadMalformed()
-    {
-        loadText("<CityModel");
-        reference.resetRows(true);
-    }
+    void loadMalformed();
 
-    void loadMissing()
-    {
-        model.load("/no such file");
-        reference.resetRows(false);
-    }
+    void loadMissing();
 
-    void reload()
-    {
-        model.dataSetChanged();
-        reference.resetRows(true);
-    }
+    void reload();
 
-    void addFeature(Item* item)
-    {
-        model.addFeature(item->feature);
-        reference.appendRow(item);
-    }
+    void addFeature(Item* item);
 
-    void addNew()
-    {
-        if (reference.items.size() >= mostFeatures) {
-            return;
-        }
-        Item* const owner = reference.items[std::size_t(below(int(reference.items.size())))].get();
-        if (owner->kind == Kind::Door || owner->kind == Kind::Appearance) {
-            return;
-        }
-        const Kind kind = owner->kind == Kind::City ? (below(5) == 0 ? Kind::Appearance : Kind::Building)
-                          : owner->kind == Kind::Building ? Kind::Wall
-                                                          : Kind::Door;
-        Item* const item = reference.add(kind, owner, newName());
-        switch (kind) {
-        case Kind::Appearance:
-            item->feature = addMember(*model.cityGML(), make<app::AppearanceType>(*item));
-            break;
-        case Kind::Building:
-            item->feature = addMember(*model.cityGML(), make<bldg::BuildingType>(*item));
-            break;
-        case Kind::Wall:
-            item->feature = addSurface(dynamic_cast<bldg::AbstractBuildingType&>(*owner->feature),
-                                       make<bldg::WallSurfaceType>(*item));
-            break;
-        default:
-            item->feature = addOpening(dynamic_cast<bldg::AbstractBoundarySurfaceType&>(*owner->feature),
-                                       make<bldg::DoorType>(*item));
-            break;
-        }
-        addFeature(item);
-    }
+    void addNew();
 
-    void addAgain()
-    {
-        std::vector<Item*> without;
-        for (const auto& item : reference.items) {
-            if (!reference.hasRow(item.get())) {
-                without.push_back(item.get());
-            }
-        }
-        if (!without.empty()) {
-            addFeature(without[std::size_t(below(int(without.size())))]);
-        }
-    }
+    void addAgain();
 
     /// Takes away the row of a feature.
-    virtual void remove(Item* item)
-    {
-        model.removeFeature(item->feature);
-        reference.removeRow(item);
-    }
+    virtual void remove(Item* item);
 
-    void removeRow()
-    {
-        if (Item* const item = anyRow()) {
-            remove(item);
-        }
-    }
+    void removeRow();
 
     template <class Members, class Held>
     static void eraseMember(Members& members, const gml::AbstractFeatureType* feature, Held held)
@@ -247,150 +82,32 @@ protected:
         members.erase(found);
     }
 
-    virtual void removeBranch()
-    {
-        Item* const top = anyRow();
-        if (top == nullptr || top->kind == Kind::City) {
-            return;
-        }
-        std::vector<Item*> branch;
-        Reference::collect(top, branch);
-        if (chance()) {
-            std::reverse(branch.begin(), branch.end());
-        }
-        for (Item* const item : branch) {
-            if (reference.hasRow(item)) {
-                remove(item);
-            }
-        }
-        switch (top->kind) {
-        case Kind::Wall:
-            eraseMember(
-                dynamic_cast<bldg::AbstractBuildingType&>(*top->owner->feature).boundedBy1(), top->feature,
-                [](auto& member) -> auto& { return member._BoundarySurface(); });
-            break;
-        case Kind::Door:
-            eraseMember(
-                dynamic_cast<bldg::AbstractBoundarySurfaceType&>(*top->owner->feature).opening(),
-                top->feature, [](auto& member) -> auto& { return member._Opening(); });
-            break;
-        default:
-            eraseMember(
-                model.cityGML()->featureMember(), top->feature,
-                [](auto& member) -> auto& { return member._Feature(); });
-            break;
-        }
-        reference.erase(top);
-    }
+    virtual void removeBranch();
 
-    void rename(Item* item, QAbstractItemModel& in, const QModelIndex& index)
-    {
-        const QString name = QString("name %1").arg(below(1000));
-        QVERIFY(in.setData(index, name));
-        item->name = name;
-        if (item->isNode) {
-            item->nodeName = name;
-        }
-    }
+    void rename(Item* item, QAbstractItemModel& in, const QModelIndex& index);
 
-    void renameInList()
-    {
-        if (Item* const item = anyRow()) {
-            rename(item, model, inList(item));
-        }
-    }
+    void renameInList();
 
-    void show(const std::vector<Item*>& items, bool visible)
-    {
-        for (Item* const item : items) {
-            item->isVisible = visible;
-        }
-    }
+    void show(const std::vector<Item*>& items, bool visible);
 
-    void hideOne()
-    {
-        if (Item* const item = anyRow()) {
-            model.hide(inList(item));
-            show({item}, false);
-        }
-    }
+    void hideOne();
 
-    void showOne()
-    {
-        if (Item* const item = anyRow()) {
-            model.show(inList(item));
-            show({item}, true);
-        }
-    }
+    void showOne();
 
-    void hideSome()
-    {
-        const std::vector<Item*> some = someRows();
-        model.hide(inList(some) << QModelIndex());
-        show(some, false);
-    }
+    void hideSome();
 
-    void showSome()
-    {
-        const std::vector<Item*> some = someRows();
-        model.show(inList(some) << QModelIndex());
-        show(some, true);
-    }
+    void showSome();
 
-    void hideAll()
-    {
-        model.hideAll();
-        show(reference.rows, false);
-    }
+    void hideAll();
 
-    void showAll()
-    {
-        model.showAll();
-        show(reference.rows, true);
-    }
+    void showAll();
 
-    void disable()
-    {
-        const std::vector<Item*> some = someRows();
-        model.disable(inList(some));
-        for (Item* const item : some) {
-            item->isDisabled = true;
-        }
-    }
+    void disable();
 
-    void enable()
-    {
-        const std::vector<Item*> some = chance() ? reference.rows : someRows();
-        model.enable(inList(some));
-        for (Item* const item : some) {
-            item->isDisabled = false;
-        }
-    }
+    void enable();
 
     /// What differs between the list and the reference; empty if nothing does.
-    QString listDifference() const
-    {
-        if (model.rowCount() != int(reference.rows.size())) {
-            return QString("%1 rows instead of %2").arg(model.rowCount()).arg(reference.rows.size());
-        }
-        for (int row = 0; row < model.rowCount(); ++row) {
-            const Item& item = *reference.rows[std::size_t(row)];
-            const QModelIndex index = model.index(row, 0);
-            const QString shown = index.data().toString();
-            const QString name = item.name.isNull() ? QString("<unset>") : item.name;
-            if (model.getFeature(row) != item.feature || model.getRow(item.feature) != row || shown != name ||
-                model.index(row, 1).data().toString() != typeOf(item.kind) ||
-                model.isVisible(index) != item.isVisible ||
-                index.data(Qt::CheckStateRole).toBool() != item.isVisible ||
-                model.isDisabled(item.feature) != item.isDisabled ||
-                model.flags(index).testFlag(Qt::ItemIsEnabled) == item.isDisabled) {
-                return QString("row %1 shows \"%2\" for \"%3\", or its state is wrong")
-                    .arg(row)
-                    .arg(shown, name);
-            }
-        }
-        return QString();
-    }
+    QString listDifference() const;
 
 private:
     struct Operation

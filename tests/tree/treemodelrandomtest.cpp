@@ -1,3 +1,4 @@
+#include "support/LogRecorder.h"
 #include "support/RandomCity.h"
 #include "support/TestClass.h"
 #include "support/TrackedIndexes.h"
