@@ -1,5 +1,8 @@
 #include "support/RandomCity.h"
 
+#include "bldg/BoundarySurfacePropertyType.hxx"
+#include "bldg/OpeningPropertyType.hxx"
+#include "gml/FeaturePropertyType.hxx"
 namespace testsupport {
 
 QString RandomCity::step()
