@@ -3,6 +3,7 @@
 #include "bldg/BoundarySurfacePropertyType.hxx"
 #include "bldg/OpeningPropertyType.hxx"
 #include "gml/FeaturePropertyType.hxx"
+
 namespace testsupport {
 
 QString RandomCity::step()
