@@ -207,6 +207,7 @@ private slots:
         // It is signalled for the top.
         Town town;
         const RefPtr<TreeNode> plain = new TreeNode(nullptr);
+        plain->setChildNumber(1);
         town.tree.setTraverseChildrenVisitor(
             new Claim(town.tree.nodeMap, [&](TreeNodeGML* node, auto& /*nodes*/) {
                 if (node->feature() == town.feature("b3")) {
@@ -540,6 +541,25 @@ private slots:
         town.model.removeFeature(town.feature("d1"));
         QCOMPARE(town.tree.rowCount(), roots); // it was none of them
         QVERIFY(town.node("d1") == nullptr);
+    }
+
+    void indexOfANodeThatNothingClaimsAnyMore()
+    {
+        Town town;
+        QList<const char*> claimed{"d1", "d2", "b2", "w2"};
+        town.tree.setTraverseChildrenVisitor(
+            new Claim(town.tree.nodeMap, [&](TreeNodeGML* node, auto& nodes) {
+                if (node->feature() == town.feature("w1")) {
+                    for (const char* const id : qAsConst(claimed)) {
+                        node->children().emplace_back(nodes.at(town.feature(id)).front().get());
+                    }
+                }
+            }));
+        claimed.removeAt(1);
+        town.addBuilding("b3");
+        const QPersistentModelIndex door(town.at("d2"));
+        town.model.removeFeature(town.feature("d1"));
+        QVERIFY(!door.isValid() || QModelIndex(door) == town.at("d2"));
     }
 
     void renamingShowsAtOnce()

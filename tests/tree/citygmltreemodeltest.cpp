@@ -23,6 +23,7 @@ public:
     using CityGMLTreeModel::nodeMap;
     using CityGMLTreeModel::rowsInsertedInSourceModel;
     using CityGMLTreeModel::sourceDataChanged;
+    using ProxyModel::sourceBusy;
     using QAbstractItemModel::persistentIndexList;
 };
 
@@ -281,6 +282,25 @@ private slots:
         QCOMPARE(town.recorder.take(), QStringList());
         QCOMPARE(town.tree.nodeMap.at(town.feature("b2")).size(), std::size_t(1));
         QCOMPARE(town.tree.treeNode(town.feature("b2")), node);
+
+        class Repeating : public tolvik::CityGMLModel
+        {
+        public:
+            Repeating() : CityGMLModel(nullptr, nullptr) {}
+            void appendAgain(int row)
+            {
+                beginResetModel();
+                append(getFeature(row));
+                endResetModel();
+            }
+        } repeating;
+        std::istringstream stream(village().toStdString());
+        repeating.load(stream);
+        repeating.appendAgain(2);
+        town.tree.setSourceModel(&repeating);
+        QCOMPARE(town.tree.nodeMap.at(repeating.getFeature(2)).size(), std::size_t(1));
+        QCOMPARE(town.dump(), QString("city(b1(w1(d1 d2) w2) b2)"));
+        town.tree.setSourceModel(nullptr);
     }
 
     void removalIsSignalledForTheTrueParent_data()
@@ -455,6 +475,21 @@ private slots:
         town.recorder.clear();
         QCoreApplication::processEvents();
         QCOMPARE(town.recorder.take(), QStringList());
+    }
+
+    void nothingIsAnnouncedWhileTheSourceIsBusy()
+    {
+        Town town;
+        town.model.hide(town.source("b2"));
+        town.model.updateData(town.source("b2"));
+        town.recorder.clear();
+        town.tree.sourceBusy = true;
+        QCoreApplication::processEvents();
+        emit town.model.visibilityChanged(QList<QModelIndex>{town.source("b2")});
+        town.model.hide(town.source("w2"));
+        QCOMPARE(town.recorder.take(), QStringList());
+        town.tree.sourceBusy = false;
+        QCOMPARE(town.dump(true), QString("city~(b1+(w1+(d1+ d2+) w2+) b2-)"));
     }
 
     void boxesOfWhatStandsAboveFollow()
