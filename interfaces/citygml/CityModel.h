@@ -16,13 +16,15 @@ namespace core {
 
 /// Reads a CityGML 2.0 document.
 ///
-/// The document is not validated; a required element or attribute that is missing and a value that its type
-/// cannot hold are errors all the same. No external entity and no document type definition is ever opened.
+/// The document is not validated. A required element or attribute that is missing, a value that its type
+/// cannot hold, an element that is abstract and an `xsi:type` that does not fit are errors all the same, unless
+/// the flags say otherwise. No external entity and no document type definition is ever opened.
 ///
 /// The stream does not throw at its end, whatever its exceptions() say, and is not failed afterwards for
 /// having been read to there.
 /// \param stream bytes of an XML document, from the current position to the end
-/// \param flags taken for the signature's sake: a document is read in one way only
+/// \param flags with `dont_validate` these errors, but for what is missing, are findings: what is wrong is
+/// kept, a save writes it back, and citygml::findingsOf() answers it; other flags mean nothing
 /// \param properties likewise
 /// \return the root, which owns the document
 /// \throws xsd::cxx::tree::exception<char> for the first error, with line, column and reason in print

@@ -7,10 +7,11 @@
 
 namespace core {
 
-std::auto_ptr<CityModelType> CityModel(std::istream& stream, xsd::cxx::tree::flags,
+std::auto_ptr<CityModelType> CityModel(std::istream& stream, xsd::cxx::tree::flags flags,
                                        const xsd::cxx::tree::properties<char>&)
 {
-    return std::auto_ptr<CityModelType>(citygml::binding::readDocument(stream).release());
+    const bool isLenient = (flags & xsd::cxx::tree::flags::dont_validate) != 0;
+    return std::auto_ptr<CityModelType>(citygml::binding::readDocument(stream, isLenient).release());
 }
 
 void CityModel(std::ostream& stream, const CityModelType& model,

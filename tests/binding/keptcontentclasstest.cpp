@@ -33,7 +33,7 @@ KeptContent::Value value(std::optional<KeptContent::MemberIndex> member, std::ui
 KeptContent::Value nilValue(KeptContent::MemberIndex member, std::uint32_t index)
 {
     KeptContent::Value result = value(member, index, "nil");
-    result.isNil = true;
+    result.isAbsent = true;
     return result;
 }
 
@@ -185,9 +185,9 @@ private slots:
         KeptContent kept;
         kept.addValue(nilValue(5, 0));
         kept.addValue(value(1, 0, "1"));
-        QVERIFY(kept.hasNilValue(5));
-        QVERIFY(!kept.hasNilValue(1));
-        QVERIFY(!kept.hasNilValue(0));
+        QVERIFY(kept.hasAbsentValue(5));
+        QVERIFY(!kept.hasAbsentValue(1));
+        QVERIFY(!kept.hasAbsentValue(0));
     }
 
     void nilIsAnAttributeOfItsNamespace()

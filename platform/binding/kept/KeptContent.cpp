@@ -81,6 +81,8 @@ void KeptContent::assign(xml_schema::type& target, const xml_schema::type& sourc
         target.elementName = source.elementName;
         target.spelledOut = source.spelledOut;
         target.kept = source.kept ? std::make_unique<KeptContent>(*source.kept) : nullptr;
+    } else if (target.kept) {
+        target.kept->forgetWrongText();
     }
 }
 
@@ -142,16 +144,31 @@ KeptContent::Values KeptContent::valuesOf(std::optional<MemberIndex> member) con
     return Values(first, last);
 }
 
-bool KeptContent::hasNilValue(MemberIndex member) const
+bool KeptContent::hasAbsentValue(MemberIndex member) const
 {
     return std::any_of(keptValues.begin(), keptValues.end(),
-                       [member](const Value& value) { return value.isNil && value.member == member; });
+                       [member](const Value& value) { return value.isAbsent && value.member == member; });
+}
+
+const KeptContent::Value* KeptContent::wrongValueOf(std::optional<MemberIndex> member) const
+{
+    const Values values = valuesOf(member);
+    const Value* const value = values.begin();
+    return value != values.end() && value->isWrong ? value : nullptr;
+}
+
+void KeptContent::forgetWrongText()
+{
+    if (wrongValueOf(std::nullopt) != nullptr) {
+        keptValues.erase(keptValues.begin());
+    }
 }
 
 std::string_view KeptContent::spellingOf(std::optional<MemberIndex> member) const
 {
     const Values values = valuesOf(member);
-    return values.begin() != values.end() ? std::string_view(values.begin()->spelling) : std::string_view();
+    const bool isSpelled = values.begin() != values.end() && !values.begin()->isWrong;
+    return isSpelled ? std::string_view(values.begin()->spelling) : std::string_view();
 }
 
 } // namespace binding

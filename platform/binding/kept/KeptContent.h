@@ -1,6 +1,7 @@
 #pragma once
 
 #include "BindingExport.h"
+#include "citygml/Findings.h"
 #include "xml-schema.hxx"
 
 #include <cstddef>
@@ -99,6 +100,8 @@ public:
         std::shared_ptr<const std::string> uri;
         std::string name;
         std::string value;
+        /// Whether it is an `xsi:type` that the object does not have.
+        bool isOtherType = false;
 
         bool is(std::string_view otherUri, std::string_view otherName) const
         {
@@ -128,14 +131,19 @@ public:
     {
         /// Empty for the object's own text.
         std::optional<MemberIndex> member;
-        /// Index of the value in the member. A value that is nil is not in the member, and only this tells
-        /// that it is there: it has the index of the value behind it.
+        /// Index of the value in the member. A value that is absent has the index of the one behind it.
         std::uint32_t index = 0;
-        bool isNil = false;
+        /// Whether the member has no value for it, so that only this tells that it is there: it is nil or
+        /// wrong.
+        bool isAbsent = false;
+        /// Whether the document's text is no value of the type. What is in the member in its place, if
+        /// anything, is a new value.
+        bool isWrong = false;
         std::vector<Attribute> attributes;
         /// In the order of the text.
         std::vector<Node> nodes;
-        /// The document's text, where one value can be spelled in several ways; else empty.
+        /// The document's text, where one value can be spelled in several ways, or the text is wrong; else
+        /// empty.
         std::string spelling;
     };
 
@@ -167,6 +175,7 @@ public:
         /// Comments and processing instructions around the root.
         std::vector<std::string> prologue;
         std::vector<std::string> epilogue;
+        std::vector<FindingGroup> findings;
     };
 
     /// Hands out the nodes of an object in their order, each once.
@@ -238,11 +247,18 @@ public:
     bool hasText() const;
     /// What is kept about the values of a member, of sealed content.
     Values valuesOf(std::optional<MemberIndex> member) const;
-    /// Whether a member has a value that is nil; before the content is sealed, too.
-    bool hasNilValue(MemberIndex member) const;
+    /// Whether a member has a value that is absent; before the content is sealed, too.
+    bool hasAbsentValue(MemberIndex member) const;
+    /// What is kept about an attribute or, with an empty member, about the object's own text, where the
+    /// document's text is no value of the type.
+    ///
+    /// \return null where it is one.
+    const Value* wrongValueOf(std::optional<MemberIndex> member) const;
+    /// Forgets the object's own text, where that is no value of the type.
+    void forgetWrongText();
     /// The document's text of an attribute or, with an empty member, of the object itself.
     ///
-    /// \return empty where none is kept.
+    /// \return empty where none is kept, and where it is wrong.
     std::string_view spellingOf(std::optional<MemberIndex> member) const;
     /// Empty where the children stand in the order of the schema.
     const std::vector<MemberIndex>& childOrder() const { return order; }

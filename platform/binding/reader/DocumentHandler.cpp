@@ -24,9 +24,10 @@ bool isTrue(const char* value)
     return text == "true" || text == "1";
 }
 
-/// Whether a member has its only value already, or a nil one in its place.
-bool isTaken(const xml_schema::type& owner, const TypeIndex::FlatMember& member, const MemberSlot& slot)
+/// Whether a member has its only value already, or one that is absent.
+bool isTaken(const xml_schema::type& owner, const TypeIndex& type, const MemberSlot& slot)
 {
+    const TypeIndex::FlatMember& member = type.members()[slot.member];
     if (!member.declaration->ops->single) {
         return false;
     }
@@ -34,15 +35,22 @@ bool isTaken(const xml_schema::type& owner, const TypeIndex::FlatMember& member,
         return true;
     }
     const KeptContent* const kept = slot.type == nullptr ? KeptContent::find(owner) : nullptr;
-    return kept != nullptr && kept->hasNilValue(slot.member);
+    return kept != nullptr && kept->hasAbsentValue(slot.member);
 }
 
 } // namespace
 
-DocumentHandler::DocumentHandler(NamespaceScopes& scopes, KeptContentLog& log)
-    : scopes(scopes), log(log), index(SchemaIndex::instance()), names(index, scopes),
-      values(scopes, names, log), unknown(names)
+DocumentHandler::DocumentHandler(const XmlParser& parser, NamespaceScopes& scopes, KeptContentLog& log,
+                                 bool isLenient)
+    : parser(parser), scopes(scopes), log(log), isLenient(isLenient), index(SchemaIndex::instance()),
+      names(index, scopes), values(scopes, names, log), unknown(names)
 {
+}
+
+std::unique_ptr<core::CityModelType> DocumentHandler::takeRoot()
+{
+    document->findings = findings.take();
+    return std::move(root);
 }
 
 void DocumentHandler::startElement(const char* name, const XmlAttributes& attributes)
@@ -60,8 +68,12 @@ void DocumentHandler::startElement(const char* name, const XmlAttributes& attrib
     if (open.top().content == Content::Children) {
         keepText(open.top());
         slot = index.slotOf(*open.top().type, id);
-        if (slot != nullptr && startChild(*slot, id, attributes)) {
-            return;
+        if (slot != nullptr && !isTaken(*open.top().object, *open.top().type, *slot)) {
+            if (startChild(*slot, id, attributes)) {
+                return;
+            }
+            // Where it stands nothing is in its way.
+            slot = nullptr;
         }
     }
     startUnknown(name, slot, attributes);
@@ -100,15 +112,19 @@ void DocumentHandler::startRoot(const char* name, NameId id, const XmlAttributes
     startObject(*root, index.typeOf(*root), id, attributes);
 }
 
-/// \return false where the member cannot take the element.
+/// \return false where no object can be made for the element.
 bool DocumentHandler::startChild(const MemberSlot& slot, NameId id, const XmlAttributes& attributes)
 {
     xml_schema::type& owner = *open.top().object;
     const TypeIndex::FlatMember& member = open.top().type->members()[slot.member];
-    if (isTaken(owner, member, slot)) {
+    const TypeIndex* const type = slot.type != nullptr ? typeOfChild(slot, attributes) : nullptr;
+    if (type == nullptr && (slot.type != nullptr || slot.isAbstract)) {
+        if (faults.empty()) {
+            addFault("the element '" + names.textOf(id) + "' is abstract");
+        }
+        tellFaults(open.wholePath(names) + '/' + names.textOf(id));
         return false;
     }
-    const TypeIndex* const type = typeOfChild(slot, id, attributes);
     open.beginChild(member);
     if (type == nullptr) {
         startValue(member, id, attributes);
@@ -122,38 +138,67 @@ bool DocumentHandler::startChild(const MemberSlot& slot, NameId id, const XmlAtt
     return true;
 }
 
-/// The type of the slot or the one that `xsi:type` tells; null for a fundamental type.
-const TypeIndex* DocumentHandler::typeOfChild(const MemberSlot& slot, NameId id,
-                                              const XmlAttributes& attributes) const
+/// The type of the slot or the one that `xsi:type` tells; null where there are no objects of it.
+const TypeIndex* DocumentHandler::typeOfChild(const MemberSlot& slot, const XmlAttributes& attributes)
 {
-    const TypeIndex* type = slot.type;
-    bool isAbstract = slot.isAbstract;
     for (const XmlAttribute attribute : attributes) {
         const char* const colon = std::strchr(attribute.name, ':');
         if (colon != nullptr && std::strcmp(colon + 1, "type") == 0 &&
-            isXsi(PrefixedName(attribute.name), "type") && type != nullptr) {
-            type = &typeNamed(attribute.value, *type, isAbstract);
+            isXsi(PrefixedName(attribute.name), "type")) {
+            if (const TypeIndex* const named = typeNamed(attribute.value, slot)) {
+                return named;
+            }
         }
     }
-    if (isAbstract) {
-        throw DocumentError{"the element '" + names.textOf(id) + "' is abstract"};
-    }
-    return type;
+    return slot.isAbstract ? nullptr : slot.type;
 }
 
-/// The type of a qualified name, where it is one that can stand for the declared type and is known.
-const TypeIndex& DocumentHandler::typeNamed(const char* text, const TypeIndex& declared,
-                                            bool& isAbstract) const
+/// The type of a qualified name, where it can stand for the declared type; that one where no such type is
+/// known.
+///
+/// \return null where there are no objects of it, or it cannot stand for the declared type.
+const TypeIndex* DocumentHandler::typeNamed(const char* text, const MemberSlot& slot)
 {
+    const TypeIndex& declared = *slot.type;
     const std::string value = collapsed(text);
     const PrefixedName name(value);
-    const TypeIndex* const named = index.findType(scopes.namespaceOf(name.prefix), name.local);
-    if (named != nullptr && !named->isDerivedFrom(&declared)) {
-        throw DocumentError{"the type '" + value + "' cannot stand for '" + declared.record()->name + "'"};
+    try {
+        const TypeIndex* const named = index.findType(scopes.namespaceOf(name.prefix), name.local);
+        const TypeIndex& type = named != nullptr ? *named : declared;
+        const bool fits = type.isDerivedFrom(&declared);
+        if (fits && !type.record()->isAbstract) {
+            return &type;
+        }
+        if (!fits) {
+            addFault("the type '" + value + "' cannot stand for '" + declared.record()->name + "'");
+        } else if (!slot.isAbstract) {
+            addFault("the type '" + value + "' is abstract");
+        }
+    } catch (const ValueError& error) {
+        addFault(error.message);
     }
-    const TypeIndex& type = named != nullptr ? *named : declared;
-    isAbstract = type.record()->isAbstract;
-    return type;
+    isOtherType = true;
+    return nullptr;
+}
+
+/// Notes that the element which is being read is not as the schema wants it.
+void DocumentHandler::addFault(const std::string& reason)
+{
+    if (!isLenient) {
+        throw DocumentError{reason};
+    }
+    faults.push_back(reason);
+}
+
+/// Makes findings of what was noted.
+void DocumentHandler::tellFaults(const std::string& path)
+{
+    const XmlParser::Place place = parser.place();
+    for (std::string& reason : faults) {
+        findings.add({place.line, place.column, path, std::move(reason), open.featureId()});
+    }
+    faults.clear();
+    isOtherType = false;
 }
 
 void DocumentHandler::startObject(xml_schema::type& object, const TypeIndex& type, NameId id,
@@ -165,6 +210,9 @@ void DocumentHandler::startObject(xml_schema::type& object, const TypeIndex& typ
         if (!attribute.isDeclaration()) {
             readAttribute(open.top(), attribute);
         }
+    }
+    if (!faults.empty()) {
+        tellFaults(open.wholePath(names));
     }
 }
 
@@ -219,7 +267,7 @@ void DocumentHandler::readAttribute(OpenElement& element, const XmlAttribute& at
     try {
         values.readAttribute(*element.object, *member, attribute.value);
     } catch (const ValueError& error) {
-        throw ValueError{error.message + ", in the attribute '" + attribute.name + "'"};
+        addFault(error.message + ", in the attribute '" + attribute.name + "'");
     }
 }
 
@@ -234,7 +282,9 @@ void DocumentHandler::keepAttribute(OpenElement& element, const XmlAttribute& at
         return;
     }
     log.add("attribute", attribute.name);
-    KeptContent::of(*element.object).addAttribute(keptAttribute(name, attribute.value));
+    KeptContent::Attribute kept = keptAttribute(name, attribute.value);
+    kept.isOtherType = isOtherType && isXsi(name, "type");
+    KeptContent::of(*element.object).addAttribute(std::move(kept));
 }
 
 /// \return false where the text is not made of pairs, so that nothing can be joined to it.
@@ -309,7 +359,12 @@ void DocumentHandler::endChildren(OpenElement& element)
 void DocumentHandler::endText(const OpenElement& element)
 {
     if (!element.isNil || !isBlank(text)) {
-        values.readText(*element.object, *element.type, element.name, text);
+        try {
+            values.readText(*element.object, *element.type, element.name, text);
+        } catch (const ValueError& error) {
+            addFault(error.message);
+            tellFaults(open.wholePath(names));
+        }
     }
     checkRequired(element);
     KeptContent::seal(*element.object);
@@ -321,18 +376,31 @@ void DocumentHandler::endValue(const OpenElement& element)
     const std::size_t index = ops.count(*element.object);
     if (element.isNil && isBlank(text)) {
         // A value that is not there is not in the member; the element itself comes back.
-        keptValue().isNil = true;
+        keptValue().isAbsent = true;
     } else {
-        std::string spelling = values.readValue(*element.object, *element.member, element.name, text);
-        if (!spelling.empty()) {
-            keptValue().spelling = std::move(spelling);
-        }
+        readValue(element);
     }
     if (ofValue) {
         ofValue->member = element.member->index;
         ofValue->index = static_cast<std::uint32_t>(index);
         KeptContent::of(*element.object).addValue(std::move(*ofValue));
         ofValue.reset();
+    }
+}
+
+void DocumentHandler::readValue(const OpenElement& element)
+{
+    try {
+        std::string spelling = values.readValue(*element.object, *element.member, element.name, text);
+        if (!spelling.empty()) {
+            keptValue().spelling = std::move(spelling);
+        }
+    } catch (const ValueError& error) {
+        addFault(error.message);
+        tellFaults(open.wholePath(names));
+        keptValue().isAbsent = true;
+        keptValue().isWrong = true;
+        keptValue().spelling = text;
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "core/CityModelType.hxx"
 #include "platform/binding/kept/KeptContent.h"
+#include "platform/binding/reader/FindingLog.h"
 #include "platform/binding/reader/KeptContentLog.h"
 #include "platform/binding/reader/MarkupCopy.h"
 #include "platform/binding/reader/NameResolver.h"
@@ -29,7 +30,9 @@ class DocumentHandler : public XmlHandler
 {
 public:
     /// \param scopes follows the parser
-    DocumentHandler(NamespaceScopes& scopes, KeptContentLog& log);
+    /// \param isLenient whether what the schema does not allow is kept and told as a finding; else the first
+    /// such thing throws a DocumentError
+    DocumentHandler(const XmlParser& parser, NamespaceScopes& scopes, KeptContentLog& log, bool isLenient);
 
     void startElement(const char* name, const XmlAttributes& attributes) override;
     void endElement(const char* name) override;
@@ -38,20 +41,23 @@ public:
     void processingInstruction(std::string markup) override;
     std::string path() const override;
 
-    /// The document, once the parser has come to its end.
-    std::unique_ptr<core::CityModelType> takeRoot() { return std::move(root); }
+    /// The document, with what was found in it, once the parser has come to its end.
+    std::unique_ptr<core::CityModelType> takeRoot();
     /// Whether the document is of the older version of CityGML.
     bool isOlderVersion() const { return isOlder; }
 
 private:
     void startRoot(const char* name, NameId id, const XmlAttributes& attributes);
     bool startChild(const MemberSlot& slot, NameId id, const XmlAttributes& attributes);
-    const TypeIndex* typeOfChild(const MemberSlot& slot, NameId id, const XmlAttributes& attributes) const;
-    const TypeIndex& typeNamed(const char* text, const TypeIndex& declared, bool& isAbstract) const;
+    const TypeIndex* typeOfChild(const MemberSlot& slot, const XmlAttributes& attributes);
+    const TypeIndex* typeNamed(const char* text, const MemberSlot& slot);
     void startObject(xml_schema::type& object, const TypeIndex& type, NameId id,
                      const XmlAttributes& attributes);
     void startValue(const TypeIndex::FlatMember& member, NameId id, const XmlAttributes& attributes);
     void startUnknown(const char* name, const MemberSlot* slot, const XmlAttributes& attributes);
+
+    void addFault(const std::string& reason);
+    void tellFaults(const std::string& path);
 
     void readAttribute(OpenElement& element, const XmlAttribute& attribute);
     void keepAttribute(OpenElement& element, const XmlAttribute& attribute);
@@ -62,6 +68,7 @@ private:
     void endChildren(OpenElement& element);
     void endText(const OpenElement& element);
     void endValue(const OpenElement& element);
+    void readValue(const OpenElement& element);
     void checkRequired(const OpenElement& element) const;
 
     void keepText(const OpenElement& element);
@@ -69,8 +76,10 @@ private:
     void keepUnknown(const OpenElement& parent);
     KeptContent::Value& keptValue();
 
+    const XmlParser& parser;
     NamespaceScopes& scopes;
     KeptContentLog& log;
+    const bool isLenient;
     const SchemaIndex& index;
     NameResolver names;
     ValueReader values;
@@ -85,6 +94,11 @@ private:
     // Comments and processing instructions in front of the root.
     std::vector<std::string> prologue;
     bool isOlder = false;
+    // Why the element that is being read is not as it should be; told when its path and feature are known.
+    std::vector<std::string> faults;
+    // Whether one of these is the element's `xsi:type`.
+    bool isOtherType = false;
+    FindingLog findings;
 };
 
 } // namespace binding

@@ -1,6 +1,8 @@
 #include "platform/binding/reader/DocumentReader.h"
 
+#include "citygml/Findings.h"
 #include "platform/binding/reader/DocumentHandler.h"
+#include "platform/binding/reader/FindingLog.h"
 #include "platform/binding/reader/KeptContentLog.h"
 #include "platform/binding/reader/NamespaceScopes.h"
 #include "platform/binding/reader/XmlParser.h"
@@ -46,22 +48,24 @@ private:
 
 } // namespace
 
-std::unique_ptr<core::CityModelType> readDocument(std::istream& stream)
+std::unique_ptr<core::CityModelType> readDocument(std::istream& stream, bool isLenient)
 {
     const EndOfStreamGuard guard(stream);
     const log4cplus::Logger logger =
         log4cplus::Logger::getInstance(LOG4CPLUS_TEXT("tolvik.citygml.DocumentReader"));
     KeptContentLog log(logger);
     NamespaceScopes scopes(SchemaIndex::instance());
-    DocumentHandler handler(scopes, log);
-    XmlParser parser(scopes, handler);
-    parser.parse(stream);
+    XmlParser parser(scopes);
+    DocumentHandler handler(parser, scopes, log, isLenient);
+    parser.parse(stream, handler);
     log.write();
+    std::unique_ptr<core::CityModelType> document = handler.takeRoot();
+    FindingLog::write(findingsOf(*document), logger);
     if (handler.isOlderVersion()) {
         LOG4CPLUS_WARN(logger, "the document is of CityGML 1.0; it is read as CityGML 2.0, and a save "
                                "writes CityGML 2.0");
     }
-    return handler.takeRoot();
+    return document;
 }
 
 } // namespace binding

@@ -1,5 +1,6 @@
 #include "platform/binding/reader/OpenElements.h"
 
+#include "gml/AbstractFeatureType.hxx"
 #include "platform/binding/reader/NameResolver.h"
 #include "platform/binding/reader/Shortened.h"
 
@@ -56,6 +57,26 @@ std::string OpenElements::path(const NameResolver& names) const
         }
     }
     return text;
+}
+
+std::string OpenElements::wholePath(const NameResolver& names) const
+{
+    std::string text;
+    for (const Entry& entry : elements) {
+        text += '/' + names.textOf(entry.element.name);
+    }
+    return text;
+}
+
+std::string OpenElements::featureId() const
+{
+    for (auto entry = elements.rbegin(); entry != elements.rend(); ++entry) {
+        if (const auto* const feature =
+                dynamic_cast<const gml::AbstractFeatureType*>(entry->element.object)) {
+            return feature->id().present() ? std::string(*feature->id()) : std::string();
+        }
+    }
+    return std::string();
 }
 
 } // namespace binding

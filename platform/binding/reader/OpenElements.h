@@ -55,6 +55,10 @@ public:
 
     /// For messages: the names, one behind the other; of a long path its two ends.
     std::string path(const NameResolver& names) const;
+    /// The names of all, one behind the other.
+    std::string wholePath(const NameResolver& names) const;
+    /// Identifier of the innermost feature; empty where there is none, or it has no identifier.
+    std::string featureId() const;
 
 private:
     struct Entry

@@ -48,32 +48,74 @@ void addIdentifier(xml_schema::type& owner, const MemberOps& ops, std::unique_pt
 void ValueReader::readText(xml_schema::type& object, const TypeIndex& type, NameId element,
                            std::string_view text) const
 {
-    type.record()->text->parse(object, text, scopes);
-    if (readLiteral(object, type) || (type.hasSpellings() && isOtherSpelling(object, type, text))) {
+    bool isToBeKept = false;
+    try {
+        isToBeKept = parse(object, type, text);
+    } catch (const ValueError&) {
+        if (type.record()->literals == nullptr) {
+            reset(object, type);
+            keepWrong(object, nullptr, text);
+        }
+        throw;
+    }
+    if (isToBeKept) {
         logSpelling(element);
         KeptContent::of(object).addSpelling(std::nullopt, trimmed(text));
     }
 }
 
+/// \return whether the text is spelled otherwise than it will be written.
+bool ValueReader::parse(xml_schema::type& object, const TypeIndex& type, std::string_view text) const
+{
+    type.record()->text->parse(object, text, scopes);
+    return readLiteral(object, type) || (type.hasSpellings() && isOtherSpelling(object, type, text));
+}
+
 void ValueReader::readAttribute(xml_schema::type& owner, const TypeIndex::FlatMember& member,
                                 const char* text) const
 {
-    const MemberOps& ops = *member.declaration->ops;
-    bool isToBeKept = false;
-    if (member.type == nullptr) {
-        ops.addText(owner, text);
-        isToBeKept = isDigitOfBoolean(owner, ops, 0, text);
-    } else {
-        std::unique_ptr<xml_schema::type> created(member.type->record()->create());
-        if (auto* identifier = dynamic_cast<xml_schema::id*>(created.get())) {
-            addIdentifier(owner, ops, std::move(created), *identifier, text);
-            return;
-        }
-        member.type->record()->text->parse(*created, text, scopes);
-        isToBeKept = readLiteral(*created, *member.type) ||
-                     (member.type->hasSpellings() && isOtherSpelling(*created, *member.type, text));
-        ops.add(owner, created.release());
+    if (member.type != nullptr) {
+        readObjectAttribute(owner, member, text);
+        return;
     }
+    const MemberOps& ops = *member.declaration->ops;
+    try {
+        ops.addText(owner, text);
+    } catch (const ValueError&) {
+        keepWrong(owner, &member, text);
+        throw;
+    }
+    if (isDigitOfBoolean(owner, ops, 0, text)) {
+        logSpelling(member.name);
+        KeptContent::of(owner).addSpelling(member.index, trimmed(text));
+    }
+}
+
+void ValueReader::readObjectAttribute(xml_schema::type& owner, const TypeIndex::FlatMember& member,
+                                      const char* text) const
+{
+    const MemberOps& ops = *member.declaration->ops;
+    const TypeRecord& record = *member.type->record();
+    std::unique_ptr<xml_schema::type> created(record.create());
+    if (auto* identifier = dynamic_cast<xml_schema::id*>(created.get())) {
+        addIdentifier(owner, ops, std::move(created), *identifier, text);
+        return;
+    }
+    bool isToBeKept = false;
+    try {
+        isToBeKept = parse(*created, *member.type, text);
+    } catch (const ValueError&) {
+        if (record.literals != nullptr) {
+            ops.add(owner, created.release());
+        } else {
+            if (member.requiredBit != 0) {
+                ops.add(owner, record.create());
+            }
+            keepWrong(owner, &member, text);
+        }
+        throw;
+    }
+    ops.add(owner, created.release());
     if (isToBeKept) {
         logSpelling(member.name);
         KeptContent::of(owner).addSpelling(member.index, trimmed(text));
@@ -90,6 +132,29 @@ std::string ValueReader::readValue(xml_schema::type& owner, const TypeIndex::Fla
     }
     logSpelling(element);
     return std::string(trimmed(text));
+}
+
+/// \param member an attribute; null for the object's own text
+void ValueReader::keepWrong(xml_schema::type& owner, const TypeIndex::FlatMember* member,
+                            std::string_view text) const
+{
+    KeptContent::Value value;
+    if (member != nullptr) {
+        value.member = member->index;
+        value.isAbsent = member->declaration->ops->count(owner) == 0;
+    }
+    value.isWrong = true;
+    value.spelling = text;
+    KeptContent::of(owner).addValue(std::move(value));
+}
+
+/// Makes the value that of a new object. Parsing may have stopped in the middle of a list.
+void ValueReader::reset(xml_schema::type& object, const TypeIndex& type) const
+{
+    const std::unique_ptr<xml_schema::type> fresh(type.record()->create());
+    std::string unset;
+    type.record()->text->format(*fresh, unset, scopes);
+    type.record()->text->parse(object, unset, scopes);
 }
 
 /// Whether the text of an object is spelled otherwise than it will be written.

@@ -85,18 +85,18 @@ struct XmlParser::Callbacks
     static void XMLCALL characters(void* self, const XML_Char* text, int length)
     {
         guarded(self, [&](XmlParser& p) {
-            p.handler.characters(std::string_view(text, static_cast<std::size_t>(length)));
+            p.handler->characters(std::string_view(text, static_cast<std::size_t>(length)));
         });
     }
     static void XMLCALL comment(void* self, const XML_Char* text)
     {
-        guarded(self, [&](XmlParser& p) { p.handler.comment("<!--" + std::string(text) + "-->"); });
+        guarded(self, [&](XmlParser& p) { p.handler->comment("<!--" + std::string(text) + "-->"); });
     }
     static void XMLCALL processingInstruction(void* self, const XML_Char* target, const XML_Char* data)
     {
         guarded(self, [&](XmlParser& p) {
             const std::string text = *data != 0 ? std::string(target) + ' ' + data : std::string(target);
-            p.handler.processingInstruction("<?" + text + "?>");
+            p.handler->processingInstruction("<?" + text + "?>");
         });
     }
     static void XMLCALL doctypeDeclaration(void* self, const XML_Char*, const XML_Char* system,
@@ -159,8 +159,8 @@ struct XmlParser::Callbacks
     }
 };
 
-XmlParser::XmlParser(NamespaceScopes& scopes, XmlHandler& handler)
-    : scopes(scopes), handler(handler), parser(XML_ParserCreate(nullptr), &XML_ParserFree)
+XmlParser::XmlParser(NamespaceScopes& scopes)
+    : scopes(scopes), parser(XML_ParserCreate(nullptr), &XML_ParserFree)
 {
     if (!parser) {
         throw std::bad_alloc();
@@ -173,8 +173,9 @@ XmlParser::XmlParser(NamespaceScopes& scopes, XmlHandler& handler)
 
 XmlParser::~XmlParser() = default;
 
-void XmlParser::parse(std::istream& stream)
+void XmlParser::parse(std::istream& stream, XmlHandler& told)
 {
+    handler = &told;
     for (bool atEnd = false; !atEnd;) {
         void* buffer = XML_GetBuffer(parser.get(), chunkSize);
         if (buffer == nullptr) {
@@ -214,12 +215,12 @@ void XmlParser::startElement(const char* name, const char** list)
     if (hasDefaults) {
         limitDefaults(list);
     }
-    handler.startElement(name, attributes);
+    handler->startElement(name, attributes);
 }
 
 void XmlParser::endElement(const char* name)
 {
-    handler.endElement(name);
+    handler->endElement(name);
     --depth;
     scopes.leave(depth);
 }
@@ -268,17 +269,22 @@ void XmlParser::limitDefaults(const char** list)
     }
 }
 
+XmlParser::Place XmlParser::place() const
+{
+    return {XML_GetCurrentLineNumber(parser.get()), XML_GetCurrentColumnNumber(parser.get()) + 1};
+}
+
 void XmlParser::raise(const std::string& reason) const
 {
     std::string message = shortened(reason, longestReason);
-    const std::string path = handler.path();
+    const std::string path = handler->path();
     if (!path.empty()) {
         message += ", in " + path;
     }
+    const Place at = place();
     xsd::cxx::tree::diagnostics<char> diagnostics;
-    diagnostics.push_back(xsd::cxx::tree::error<char>(xsd::cxx::tree::severity::error, "document",
-                                                      XML_GetCurrentLineNumber(parser.get()),
-                                                      XML_GetCurrentColumnNumber(parser.get()) + 1, message));
+    diagnostics.push_back(xsd::cxx::tree::error<char>(xsd::cxx::tree::severity::error, "document", at.line,
+                                                      at.column, message));
     throw xsd::cxx::tree::parsing<char>(diagnostics);
 }
 

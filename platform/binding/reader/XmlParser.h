@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
 #include <exception>
 #include <iosfwd>
@@ -92,8 +93,15 @@ public:
 class XmlParser
 {
 public:
+    /// A place in the document, counted from 1.
+    struct Place
+    {
+        std::uint64_t line;
+        std::uint64_t column;
+    };
+
     /// \param scopes follows the parser, so that it always holds the namespaces of the place it has reached
-    XmlParser(NamespaceScopes& scopes, XmlHandler& handler);
+    explicit XmlParser(NamespaceScopes& scopes);
     ~XmlParser();
     XmlParser(const XmlParser&) = delete;
     XmlParser& operator=(const XmlParser&) = delete;
@@ -101,7 +109,9 @@ public:
     /// Parses a document to its end. A parser does so once.
     ///
     /// \throws xsd::cxx::tree::parsing<char> for the first error, with its line and column, counted from 1.
-    void parse(std::istream& stream);
+    void parse(std::istream& stream, XmlHandler& told);
+    /// Where that begins which the handler is told of.
+    Place place() const;
 
 private:
     struct Callbacks;
@@ -113,7 +123,8 @@ private:
     [[noreturn]] void raise(const std::string& reason) const;
 
     NamespaceScopes& scopes;
-    XmlHandler& handler;
+    // Null but while parsing.
+    XmlHandler* handler = nullptr;
     std::unique_ptr<XML_ParserStruct, void (*)(XML_ParserStruct*)> parser;
     // What a callback has thrown.
     std::exception_ptr failure;

@@ -68,7 +68,13 @@ void ElementWriter::writeAttributes(const xml_schema::type& object, const TypeIn
     for (std::size_t i = type.elementCount(); i < type.members().size(); ++i) {
         const TypeIndex::FlatMember& member = type.members()[i];
         if (member.declaration->ops->count(object) == 0) {
-            if (member.requiredBit != 0 && !hasNilAttribute(kept)) {
+            const KeptContent::Value* const wrong =
+                kept != nullptr ? kept->wrongValueOf(member.index) : nullptr;
+            if (wrong != nullptr) {
+                text.clear();
+                values.formatAbsent(object, member, *wrong, text);
+                out.attribute(names.ofAttribute(member), text);
+            } else if (member.requiredBit != 0 && !hasNilAttribute(kept)) {
                 const QualifiedName& name = index.name(member.name);
                 throw xsd::cxx::tree::expected_attribute<char>(name.name, name.uri);
             }
@@ -105,7 +111,8 @@ bool ElementWriter::writeKeptAttributes(const xml_schema::type& object, const Ty
             tellsType = true;
             const PrefixedName named(trimmed(attribute.value));
             const TypeRecord& record = *type.record();
-            if (named.local == record.name && !namespaces.rootMeans(named.prefix, record.uri)) {
+            if (!attribute.isOtherType && named.local == record.name &&
+                !namespaces.rootMeans(named.prefix, record.uri)) {
                 writeType(type);
                 continue;
             }
@@ -115,11 +122,12 @@ bool ElementWriter::writeKeptAttributes(const xml_schema::type& object, const Ty
     return tellsType;
 }
 
-/// Whether a value that the document left nil has not been set since.
+/// Whether a value that the document left nil has not been set since. One that says both has its text.
 bool ElementWriter::isUnsetNil(const xml_schema::type& object, const TypeIndex& type,
                                const KeptContent* kept) const
 {
-    return hasNilAttribute(kept) && values.isUnset(object, type);
+    return hasNilAttribute(kept) && kept->wrongValueOf(std::nullopt) == nullptr &&
+           values.isUnset(object, type);
 }
 
 void ElementWriter::writeText(const xml_schema::type& object, const TypeIndex& type, const std::string& name,
@@ -269,11 +277,13 @@ void ElementWriter::writeValue(const Content& content, const TypeIndex::FlatMemb
         }
     }
     text.clear();
-    if (!child.isNil) {
+    if (child.isAbsent) {
+        values.formatAbsent(content.object, member, *child.kept, text);
+    } else {
         values.formatValue(content.object, member, child.index, child.kept, text);
     }
     const bool hasNodes = child.kept != nullptr && !child.kept->nodes.empty();
-    if (child.isNil && !hasNodes) {
+    if (child.isAbsent && text.empty() && !hasNodes) {
         out.endEmptyTag();
     } else {
         out.endStartTag();

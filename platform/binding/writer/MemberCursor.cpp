@@ -8,9 +8,9 @@ void MemberCursor::findKept(const KeptContent& content)
     const KeptContent::Values values = content.valuesOf(ofMember->index);
     kept = values.begin();
     keptEnd = values.end();
-    // A single value that has been set since is no longer nil.
+    // A single value that has been set since is no longer absent.
     const bool isSet = ofMember->declaration->ops->single && count != 0;
-    while (isSet && kept != keptEnd && kept->isNil) {
+    while (isSet && kept != keptEnd && kept->isAbsent) {
         ++kept;
     }
 }
@@ -18,8 +18,8 @@ void MemberCursor::findKept(const KeptContent& content)
 MemberCursor::Child MemberCursor::take()
 {
     Child child;
-    child.isNil = isNil();
-    if (child.isNil) {
+    child.isAbsent = isAbsent();
+    if (child.isAbsent) {
         child.kept = kept++;
         return child;
     }

@@ -8,17 +8,17 @@
 namespace citygml {
 namespace binding {
 
-/// Goes over the children of one member as they are written: its values, and between them those that are nil,
-/// of which only the kept content knows.
+/// Goes over the children of one member as they are written: its values, and between them those that are
+/// absent, of which only the kept content knows.
 class MemberCursor
 {
 public:
     struct Child
     {
-        /// Index of the value in the member, unless it is nil.
+        /// Index of the value in the member, unless it is absent.
         std::size_t index = 0;
-        bool isNil = false;
-        /// What is kept about the value, or null; never null for one that is nil.
+        bool isAbsent = false;
+        /// What is kept about the value, or null; never null for one that is absent.
         const KeptContent::Value* kept = nullptr;
     };
 
@@ -33,13 +33,16 @@ public:
     }
 
     const TypeIndex::FlatMember& member() const { return *ofMember; }
-    bool atEnd() const { return value == count && !isNil(); }
+    bool atEnd() const { return value == count && !isAbsent(); }
     Child take();
 
 private:
     void findKept(const KeptContent& content);
-    /// Whether the next child is nil. Where values have been removed, nil ones come at the end.
-    bool isNil() const { return kept != keptEnd && kept->isNil && (kept->index <= value || value == count); }
+    /// Whether the next child is absent. Where values have been removed, absent ones come at the end.
+    bool isAbsent() const
+    {
+        return kept != keptEnd && kept->isAbsent && (kept->index <= value || value == count);
+    }
 
     const TypeIndex::FlatMember* ofMember;
     std::size_t count;

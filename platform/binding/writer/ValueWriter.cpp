@@ -17,11 +17,21 @@ void respellBoolean(std::string_view spelling, std::string& text)
     }
 }
 
+bool isUnsetNumber(std::string_view text)
+{
+    return text == "0" || text == "false";
+}
+
 } // namespace
 
 void ValueWriter::formatText(const xml_schema::type& object, const TypeIndex& type, const KeptContent* kept,
                              std::string& text) const
 {
+    const KeptContent::Value* const wrong = kept != nullptr ? kept->wrongValueOf(std::nullopt) : nullptr;
+    if (wrong != nullptr && isUnset(object, type)) {
+        text += wrong->spelling;
+        return;
+    }
     const bool isSpelled = kept != nullptr && (type.hasSpellings() || type.record()->literals != nullptr);
     formatObject(object, type, isSpelled ? kept->spellingOf(std::nullopt) : std::string_view(), text);
 }
@@ -37,6 +47,10 @@ void ValueWriter::formatAttribute(const xml_schema::type& owner, const TypeIndex
         ops.format(owner, 0, text);
         respellBoolean(spelling, text);
     }
+    const KeptContent::Value* const wrong = kept != nullptr ? kept->wrongValueOf(member.index) : nullptr;
+    if (wrong != nullptr && isUnset(owner, member, text)) {
+        text = wrong->spelling;
+    }
 }
 
 void ValueWriter::formatValue(const xml_schema::type& owner, const TypeIndex::FlatMember& member,
@@ -48,6 +62,21 @@ void ValueWriter::formatValue(const xml_schema::type& owner, const TypeIndex::Fl
     }
 }
 
+void ValueWriter::formatAbsent(const xml_schema::type& owner, const TypeIndex::FlatMember& member,
+                               const KeptContent::Value& kept, std::string& text) const
+{
+    const std::size_t begin = text.size();
+    if (kept.isWrong && member.type == nullptr && member.requiredBit != 0) {
+        // A required number can be set without the member's knowing.
+        member.declaration->ops->format(owner, 0, text);
+        if (!isUnsetNumber(std::string_view(text).substr(begin))) {
+            return;
+        }
+        text.resize(begin);
+    }
+    text += kept.spelling;
+}
+
 bool ValueWriter::isUnset(const xml_schema::type& object, const TypeIndex& type) const
 {
     const std::unique_ptr<xml_schema::type> fresh(type.record()->create());
@@ -55,6 +84,16 @@ bool ValueWriter::isUnset(const xml_schema::type& object, const TypeIndex& type)
     type.record()->text->format(object, text, scope);
     type.record()->text->format(*fresh, unset, scope);
     return text == unset;
+}
+
+/// Whether an attribute of that text has the value that a new owner or a new value has.
+bool ValueWriter::isUnset(const xml_schema::type& owner, const TypeIndex::FlatMember& member,
+                          std::string_view text) const
+{
+    if (member.declaration->defaultText != nullptr) {
+        return text == member.declaration->defaultText;
+    }
+    return member.type != nullptr && isUnset(member.declaration->ops->at(owner, 0), *member.type);
 }
 
 /// \param spelling the document's text of the object; empty where none is kept

@@ -10,7 +10,8 @@
 namespace citygml {
 namespace binding {
 
-/// Makes the texts of values: as the document spelled them, while they mean the same.
+/// Makes the texts of values: as the document spelled them, while they mean the same, and where the document
+/// has no value, its text, until there is one.
 ///
 /// Every operation appends to a text, which is not escaped.
 class ValueWriter
@@ -35,10 +36,18 @@ public:
     void formatValue(const xml_schema::type& owner, const TypeIndex::FlatMember& member, std::size_t index,
                      const KeptContent::Value* kept, std::string& text) const;
 
+    /// A value in a member of fundamental type, or an attribute, that is absent.
+    ///
+    /// \param kept of the value
+    void formatAbsent(const xml_schema::type& owner, const TypeIndex::FlatMember& member,
+                      const KeptContent::Value& kept, std::string& text) const;
+
     /// Whether an object with text has the value of a new one.
     bool isUnset(const xml_schema::type& object, const TypeIndex& type) const;
 
 private:
+    bool isUnset(const xml_schema::type& owner, const TypeIndex::FlatMember& member,
+                 std::string_view text) const;
     void formatObject(const xml_schema::type& object, const TypeIndex& type, std::string_view spelling,
                       std::string& text) const;
 

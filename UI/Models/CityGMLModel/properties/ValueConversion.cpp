@@ -261,7 +261,7 @@ struct Conversion<sequence<T>>
         QVariantList list;
         list.reserve(static_cast<int>(value.size()));
         for (const T& entry : value) {
-            list.append(Conversion<T>::show(entry));
+            list.append(shown(entry));
         }
         return list;
     }

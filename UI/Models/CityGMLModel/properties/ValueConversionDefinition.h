@@ -2,12 +2,14 @@
 
 // How the conversions are made; included where they are instantiated.
 
+#include "citygml/Findings.h"
 #include "UI/Models/CityGMLModel/properties/SchemaValues.h"
 #include "UI/Models/CityGMLModel/properties/ValueConversion.h"
 
 #include <QString>
 
 #include <string>
+#include <type_traits>
 
 namespace tolvik {
 
@@ -35,10 +37,33 @@ struct Conversion<schema::optional<T>>
     static QVariant start() { return Conversion<T>::start(); }
 };
 
+/// What an editor shows of an object or a number; nothing of an object whose text is no value of its type.
+template <typename T>
+QVariant shown(const T& value)
+{
+    if constexpr (std::is_base_of_v<xml_schema::type, T>) {
+        if (citygml::isSetAside(value)) {
+            return QVariant();
+        }
+    }
+    return Conversion<T>::show(value);
+}
+
+template <typename T>
+QVariant shown(const schema::optional<T>& value)
+{
+    if constexpr (std::is_base_of_v<xml_schema::type, T>) {
+        if (value.present() && citygml::isSetAside(value.get())) {
+            return QVariant();
+        }
+    }
+    return Conversion<schema::optional<T>>::show(value);
+}
+
 template <typename T>
 QVariant toQVariant(const T& value)
 {
-    return Conversion<T>::show(value);
+    return shown(value);
 }
 
 template <typename T>
