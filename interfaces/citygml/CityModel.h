@@ -17,8 +17,8 @@ namespace core {
 /// Reads a CityGML 2.0 document.
 ///
 /// The document is not validated. A required element or attribute that is missing, a value that its type
-/// cannot hold, an element that is abstract and an `xsi:type` that does not fit are errors all the same, unless
-/// the flags say otherwise. No external entity and no document type definition is ever opened.
+/// cannot hold, an element that is abstract and an `xsi:type` that does not fit are errors all the same,
+/// unless the flags say otherwise. No external entity and no document type definition is ever opened.
 ///
 /// The stream does not throw at its end, whatever its exceptions() say, and is not failed afterwards for
 /// having been read to there.

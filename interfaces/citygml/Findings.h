@@ -18,9 +18,11 @@ struct Finding
 {
     /// Counted from 1.
     std::uint64_t line = 0;
+    /// In bytes, counted from 1.
     std::uint64_t column = 0;
     /// The names of the elements from the root on, each behind a slash.
     std::string path;
+    /// What is wrong, as a sentence for people.
     std::string reason;
     /// Identifier of the innermost feature around it; empty where there is none, or it has no identifier.
     std::string featureId;
@@ -29,7 +31,9 @@ struct Finding
 /// Findings of one reason at one path.
 struct FindingGroup
 {
+    /// That of all its findings.
     std::string reason;
+    /// The same, see Finding::path.
     std::string path;
     /// Number of all, those that are not listed included.
     std::uint64_t count = 0;

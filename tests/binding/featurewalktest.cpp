@@ -221,11 +221,7 @@ private slots:
         QVERIFY(document->featureMember().back()._Feature()->accept(&visitor));
         QCOMPARE(visitor.visited, QStringList({"group", "member"}));
         // Nor does it read what is gone.
-        QVERIFY(!readHouse()
-                     ->featureMember()
-                     .front()
-                     ._Feature()
-                     ->accept(&visitor));
+        QVERIFY(!readHouse()->featureMember().front()._Feature()->accept(&visitor));
         visitor.visited.clear();
         QVERIFY(document->accept(&visitor));
         QCOMPARE(visitor.visited, QStringList({"root", "house", "second", "group", "member"}));

@@ -10,7 +10,6 @@
 #include <QtTest>
 
 using namespace testsupport;
-
 using tolvik::TreeNode;
 
 namespace {
@@ -36,7 +35,6 @@ struct Fixture
     }
 
     int state(const QString& name) const { return tree.data(tree.find(name), Qt::CheckStateRole).toInt(); }
-
     void hide(const QString& name) { model->hide(tree.mapToSource(tree.find(name))); }
 
     void select(const QString& name, QItemSelectionModel::SelectionFlags flags)

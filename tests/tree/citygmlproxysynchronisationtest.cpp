@@ -9,16 +9,14 @@
 #include <QtTest>
 
 using namespace testsupport;
-
 using Fondo::RefPtr;
 using tolvik::CityGMLProxyModel;
 using tolvik::TreeNode;
 using tolvik::TreeNodeGML;
 
-// Two signals cannot satisfy the item model tester. An insertion is signalled when the tree has changed, so
-// that the number of rows before it is that after it. A removal below the second level is signalled for
-// another parent. Where they occur, the tests compare the signals with their required form, and run the
-// tester over the tree afterwards.
+// Insertions are signalled when the tree has changed, removals below the second level for another parent,
+// which no model tester takes: the tests compare these signals with their form, and run the tester
+// afterwards.
 
 namespace {
 
@@ -46,7 +44,6 @@ QString parentAndRow(const QModelIndex& parent, int row)
 struct Town : CityTree
 {
     explicit Town(const QByteArray& document = village()) : CityTree(document) {}
-
     core::CityModelType& city() { return *model.cityGML(); }
 
     /// Puts a feature into the document and into the list.
@@ -58,9 +55,7 @@ struct Town : CityTree
     }
 
     void rename(const char* id, const QString& name) { QVERIFY(model.setData(source(id), name)); }
-
     QString shown(const char* id) const { return at(id).data().toString(); }
-
     TreeRecorder recorder{&tree};
 };
 
