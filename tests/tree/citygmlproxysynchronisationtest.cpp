@@ -14,9 +14,8 @@ using tolvik::CityGMLProxyModel;
 using tolvik::TreeNode;
 using tolvik::TreeNodeGML;
 
-// Insertions are signalled when the tree has changed, removals below the second level for another parent,
-// which no model tester takes: the tests compare these signals with their form, and run the tester
-// afterwards.
+// Insertions are signalled when the tree has changed, removals below the second level for another parent. No
+// model tester takes that: the tests compare these signals with their form, and run it afterwards.
 
 namespace {
 
