@@ -48,8 +48,9 @@ protected:
     single_object& operator=(const single_object&) = delete;
     ~single_object()
     {
-        if (present())
+        if (present()) {
             delete object();
+        }
     }
 
     type* object() const { return reinterpret_cast<type*>(word); }
@@ -91,8 +92,9 @@ public:
     /// Takes ownership; null leaves the member empty.
     void set(std::auto_ptr<T> value)
     {
-        if (value.get() != nullptr && value->_container() != owner())
+        if (value.get() != nullptr && value->_container() != owner()) {
             value->_container(owner());
+        }
         replace(value.release());
     }
     std::auto_ptr<T> detach() { return std::auto_ptr<T>(static_cast<T*>(release())); }
@@ -101,17 +103,20 @@ protected:
     explicit single(container* owner) : single_object(owner) {}
     single(const single& other, flags f, container* owner) : single_object(owner)
     {
-        if (other.present())
+        if (other.present()) {
             setCopy(other.get(), f);
+        }
     }
     single& operator=(const single& other)
     {
-        if (this == &other)
+        if (this == &other) {
             return *this;
-        if (other.present())
+        }
+        if (other.present()) {
             setCopy(other.get(), 0);
-        else
+        } else {
             replace(nullptr);
+        }
         return *this;
     }
 
@@ -152,7 +157,15 @@ public:
     }
     bool present() const { return isSet; }
 
+    /// The member that holds a value, from a reference that one of its `get` returned. Writing through such a
+    /// reference does not make an empty member present, `set` does.
+    /// @{
+    static const one& holding(const T& value) { return reinterpret_cast<const one&>(value); }
+    static one& holding(T& value) { return reinterpret_cast<one&>(value); }
+    /// @}
+
 private:
+    // The first field, so that its address is the member's.
     T value = T();
     bool isSet = false;
 };
@@ -175,8 +188,9 @@ public:
 
     optional& operator=(const T& value)
     {
-        if (!this->present() || &this->get() != &value)
+        if (!this->present() || &this->get() != &value) {
             this->set(value);
+        }
         return *this;
     }
     optional& operator=(const optional& other) = default;
@@ -288,8 +302,9 @@ protected:
     }
     type* slot(size_type index) const
     {
-        if (index >= size())
+        if (index >= size()) {
             throw std::out_of_range("no such element in a sequence of a schema object");
+        }
         return objects()[index];
     }
 
@@ -444,10 +459,11 @@ public:
     void resize(size_type count) { resize(count, T()); }
     void resize(size_type count, const T& value)
     {
-        if (count < size())
+        if (count < size()) {
             truncate(count);
-        else
+        } else {
             appendCopies(count - size(), value);
+        }
     }
 
     const_iterator begin() const { return const_iterator(objects()); }
@@ -475,8 +491,9 @@ public:
     std::auto_ptr<T> detach_back(bool pop = true)
     {
         std::auto_ptr<T> result(static_cast<T*>(release(size() - 1)));
-        if (pop)
+        if (pop) {
             pop_back();
+        }
         return result;
     }
 
@@ -490,8 +507,9 @@ public:
     iterator insert(iterator position, std::auto_ptr<T> value)
     {
         const difference_type index = position - begin();
-        if (value->_container() != owner())
+        if (value->_container() != owner()) {
             value->_container(owner());
+        }
         insertOwned(static_cast<size_type>(index), value.get());
         value.release();
         return begin() + index;
@@ -504,8 +522,9 @@ public:
     void insert(iterator position, const I& first, const I& last)
     {
         size_type index = static_cast<size_type>(position - begin());
-        for (I i(first); i != last; ++i)
+        for (I i(first); i != last; ++i) {
             insertCopies(index++, 1, *i);
+        }
     }
 
     iterator erase(iterator position) { return erase(position, position + 1); }
