@@ -100,7 +100,8 @@ void printJson(CoreProperty& property, const std::string& indent, std::ostream& 
 }
 
 /// Rows of the selected features. Empty with a word on \a err if there are none.
-QVector<int> selectedRows(const CityGMLModel& model, const PropertiesOptions& options, std::ostream& err)
+QVector<int> selectedRows(const CityGMLModel& model, const QString& file, const PropertiesOptions& options,
+                          std::ostream& err)
 {
     const int count = model.rowCount(QModelIndex());
     QVector<int> rows;
@@ -111,19 +112,21 @@ QVector<int> selectedRows(const CityGMLModel& model, const PropertiesOptions& op
         }
     }
     if (rows.isEmpty() && options.id) {
-        err << "tolvik-inspect: no feature has the gml:id " << *options.id << '\n';
+        err << "tolvik-inspect: " << file.toStdString() << " has no feature with the gml:id " << *options.id
+            << '\n';
     } else if (rows.isEmpty() && options.row) {
-        err << "tolvik-inspect: there is no row " << *options.row << "; the document has " << count << '\n';
+        err << "tolvik-inspect: " << file.toStdString() << " has no row " << *options.row << "; it has "
+            << count << '\n';
     }
     return rows;
 }
 
 } // namespace
 
-int runProperties(tolvik::CityGMLModel& model, const PropertiesOptions& options, std::ostream& out,
-                  std::ostream& err)
+int runProperties(tolvik::CityGMLModel& model, const QString& file, const PropertiesOptions& options,
+                  std::ostream& out, std::ostream& err)
 {
-    const QVector<int> rows = selectedRows(model, options, err);
+    const QVector<int> rows = selectedRows(model, file, options, err);
     if (rows.isEmpty() && !options.every) {
         return 1;
     }

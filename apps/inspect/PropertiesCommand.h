@@ -24,10 +24,11 @@ struct PropertiesOptions
 };
 
 /// Prints the property trees of the selected features of a loaded document.
-/// \param out takes the trees, in UTF-8
-/// \param err takes the reason of a failure
+/// \param file the document's name in messages
+/// \param out  takes the trees, in UTF-8; nothing on a failure
+/// \param err  takes the reason of a failure
 /// \return the program's exit code: 0, or 1 for a selection that selects nothing
-int runProperties(tolvik::CityGMLModel& model, const PropertiesOptions& options, std::ostream& out,
-                  std::ostream& err);
+int runProperties(tolvik::CityGMLModel& model, const QString& file, const PropertiesOptions& options,
+                  std::ostream& out, std::ostream& err);
 
 } // namespace tolvik::inspect

@@ -1,3 +1,5 @@
+#include "DocumentFiles.h"
+#include "EachDocument.h"
 #include "LoadDocument.h"
 #include "PropertiesCommand.h"
 #include "RowsCommand.h"
@@ -9,6 +11,7 @@
 
 #include <clocale>
 #include <exception>
+#include <functional>
 #include <iostream>
 #include <log4cplus/consoleappender.h>
 #include <log4cplus/initializer.h>
@@ -34,10 +37,11 @@ const char usage[] =
 
 FILE is a CityGML 2.0 document; `-` reads one from standard input.
 
-  rows FILE [--json]     list the features: number, type, gml:id and name, with tabs between them
-  tree FILE [--json] [--all]
+  rows FILE... [--json] [--recursive]
+                         list the features: number, type, gml:id and name, with tabs between them
+  tree FILE... [--json] [--all] [--recursive]
                          show the features as a tree; --all keeps appearances
-  properties FILE (--id ID | --row N | --every) [--absent] [--json]
+  properties FILE... (--id ID | --row N | --every) [--absent] [--json] [--recursive]
                          show the attributes of the features; --absent adds those that
                          they could have and have not
   set FILE --id ID PATH VALUE OUT
@@ -47,6 +51,10 @@ FILE is a CityGML 2.0 document; `-` reads one from standard input.
   save FILE OUT          load FILE and save it as OUT
   --help                 show this text
   --version              show the version
+
+With --recursive a FILE may be a directory: it stands for the *.gml, *.xml and *.citygml in it and
+below. With several files each output names its file, in a line in front or, in JSON, as `file`; one
+that cannot be loaded is told, and the others are shown.
 
 Output is UTF-8. Exit code: 0 done; 1 a document could not be loaded or saved, has no such
 feature or attribute, or the attribute refused the value; 2 wrong usage.
@@ -63,6 +71,7 @@ struct UsageError : std::runtime_error
 class Arguments
 {
 public:
+    /// \param names   the last may end in `...`, for one or more
     /// \param options what may be given; those that take a value end in `=`
     Arguments(const QStringList& given, const QStringList& names, const QStringList& options)
         : positionalNames(names)
@@ -80,7 +89,7 @@ public:
         if (count < names.size()) {
             throw UsageError(QStringLiteral("%1 is missing").arg(names.at(count)).toStdString());
         }
-        if (count > names.size()) {
+        if (count > names.size() && !names.last().endsWith(QLatin1String("..."))) {
             throw UsageError(QStringLiteral("too much: %1")
                                  .arg(parser.positionalArguments().at(names.size()))
                                  .toStdString());
@@ -91,6 +100,7 @@ public:
     {
         return parser.positionalArguments().at(positionalNames.indexOf(name));
     }
+    QStringList all() const { return parser.positionalArguments(); }
     bool has(const QString& option) const { return parser.isSet(option); }
     QString value(const QString& option) const { return parser.value(option); }
 
@@ -99,24 +109,29 @@ private:
     QStringList positionalNames;
 };
 
+/// Prints each of the documents that the arguments name.
+int list(const Arguments& arguments, const char* key,
+         const std::function<int(CityGMLModel& model, const QString& file)>& print)
+{
+    const DocumentFiles files(arguments.all(), arguments.has("recursive"), std::cerr);
+    return printEach(files, {arguments.has("json"), key, print}, std::cout, std::cerr);
+}
+
 int rows(const QStringList& given)
 {
-    const Arguments arguments(given, {"FILE"}, {"json"});
-    CityGMLModel model(nullptr, nullptr);
-    if (!loadDocument(model, arguments.at("FILE"), std::cerr)) {
-        return failure;
-    }
-    return runRows(model, arguments.has("json"), std::cout);
+    const Arguments arguments(given, {"FILE..."}, {"json", "recursive"});
+    const bool json = arguments.has("json");
+    return list(arguments, "rows",
+                [&](CityGMLModel& model, const QString&) { return runRows(model, json, std::cout); });
 }
 
 int tree(const QStringList& given)
 {
-    const Arguments arguments(given, {"FILE"}, {"json", "all"});
-    CityGMLModel model(nullptr, nullptr);
-    if (!loadDocument(model, arguments.at("FILE"), std::cerr)) {
-        return failure;
-    }
-    return runTree(model, arguments.has("json"), arguments.has("all"), std::cout);
+    const Arguments arguments(given, {"FILE..."}, {"json", "all", "recursive"});
+    const bool json = arguments.has("json");
+    const bool all = arguments.has("all");
+    return list(arguments, "tree",
+                [&](CityGMLModel& model, const QString&) { return runTree(model, json, all, std::cout); });
 }
 
 PropertiesOptions propertiesOptions(const Arguments& arguments)
@@ -143,13 +158,11 @@ PropertiesOptions propertiesOptions(const Arguments& arguments)
 
 int properties(const QStringList& given)
 {
-    const Arguments arguments(given, {"FILE"}, {"id=", "row=", "every", "absent", "json"});
+    const Arguments arguments(given, {"FILE..."}, {"id=", "row=", "every", "absent", "json", "recursive"});
     const PropertiesOptions options = propertiesOptions(arguments);
-    CityGMLModel model(nullptr, nullptr);
-    if (!loadDocument(model, arguments.at("FILE"), std::cerr)) {
-        return failure;
-    }
-    return runProperties(model, options, std::cout, std::cerr);
+    return list(arguments, "properties", [&](CityGMLModel& model, const QString& file) {
+        return runProperties(model, file, options, std::cout, std::cerr);
+    });
 }
 
 int set(const QStringList& given)
@@ -216,7 +229,7 @@ void leaveLocale()
 void logToStandardError()
 {
     log4cplus::SharedAppenderPtr appender(new log4cplus::ConsoleAppender(true, true));
-    appender->setLayout(std::make_unique<log4cplus::PatternLayout>("%p %c: %m%n"));
+    appender->setLayout(std::make_unique<log4cplus::PatternLayout>("%p %c: %x%m%n"));
     log4cplus::Logger::getRoot().addAppender(appender);
     log4cplus::Logger::getRoot().setLogLevel(log4cplus::INFO_LOG_LEVEL);
 }

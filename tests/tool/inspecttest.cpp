@@ -221,7 +221,7 @@ private slots:
         QTest::newRow("nothing") << QStringList();
         QTest::newRow("unknown command") << QStringList{"lines", district};
         QTest::newRow("no file") << QStringList{"rows"};
-        QTest::newRow("two files") << QStringList{"rows", district, district};
+        QTest::newRow("two targets") << QStringList{"save", district, "/dev/null", "/dev/null"};
         QTest::newRow("unknown option") << QStringList{"rows", district, "--yaml"};
         QTest::newRow("option of another command") << QStringList{"rows", district, "--all"};
         QTest::newRow("no target") << QStringList{"save", district};
@@ -247,7 +247,8 @@ private slots:
     {
         const ProcessResult help = inspect({"--help"});
         QCOMPARE(help.code, 0);
-        for (const char* command : {"rows FILE", "tree FILE", "properties FILE", "set FILE", "save FILE"}) {
+        for (const char* command :
+             {"rows FILE...", "tree FILE...", "properties FILE...", "set FILE", "save FILE"}) {
             QVERIFY2(help.out.contains(command), command);
         }
         // What the code of a refused value means.
