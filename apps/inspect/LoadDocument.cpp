@@ -1,5 +1,6 @@
 #include "LoadDocument.h"
 
+#include "OpenDocument.h"
 #include "UI/Models/CityGMLModel/CityGMLModel.h"
 
 #include <cstdio>
@@ -10,21 +11,6 @@
 
 namespace tolvik::inspect {
 namespace {
-
-/// \return why the file cannot be loaded at all; empty if it can be tried
-QString obstacle(const QFileInfo& file)
-{
-    if (!file.exists()) {
-        return QStringLiteral("no such file");
-    }
-    if (file.isDir()) {
-        return QStringLiteral("is a directory");
-    }
-    if (!file.isReadable()) {
-        return QStringLiteral("permission denied");
-    }
-    return QString();
-}
 
 /// A pipe has no path that could be opened a second time, so it is read as a device.
 void loadFromDevice(CityGMLModel& model, const QString& file)
@@ -44,7 +30,7 @@ bool loadDocument(CityGMLModel& model, const QString& file, std::ostream& err)
     const QFileInfo info(file);
     const bool standardInput = file == QLatin1String("-");
     // The model says nothing at all of a file that it cannot open.
-    const QString reason = standardInput ? QString() : obstacle(info);
+    const QString reason = obstacle(file);
     if (!reason.isEmpty()) {
         err << "tolvik-inspect: " << file.toStdString() << " could not be loaded: " << reason.toStdString()
             << '\n';

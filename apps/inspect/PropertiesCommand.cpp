@@ -4,6 +4,7 @@
 #include "framework/CoreProperty.h"
 #include "gml/AbstractFeatureType.hxx"
 #include "JsonText.h"
+#include "TextLine.h"
 #include "UI/Models/CityGMLModel/CityGMLModel.h"
 #include "UI/Models/CityGMLModel/properties/GmlCorePropertyCreator.h"
 
@@ -29,12 +30,7 @@ QString valueText(const QVariant& value)
     if (value.userType() == QMetaType::QDateTime) {
         return value.toDateTime().toString(Qt::ISODate);
     }
-    QString text = value.toString();
-    text.replace(QLatin1Char('\\'), QStringLiteral("\\\\"));
-    text.replace(QLatin1Char('\n'), QStringLiteral("\\n"));
-    text.replace(QLatin1Char('\r'), QStringLiteral("\\r"));
-    text.replace(QLatin1Char('\t'), QStringLiteral("\\t"));
-    return text;
+    return textLine(value.toString());
 }
 
 /// A value in JSON: numbers and truth values as such, lists as arrays, an invalid one as null, and all else

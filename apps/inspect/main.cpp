@@ -1,3 +1,4 @@
+#include "CheckCommand.h"
 #include "DocumentFiles.h"
 #include "EachDocument.h"
 #include "LoadDocument.h"
@@ -49,6 +50,9 @@ FILE is a CityGML 2.0 document; `-` reads one from standard input.
                          `properties` shows, with `/` between them; `[2]` behind a label
                          takes the second of equal ones
   save FILE OUT          load FILE and save it as OUT
+  check FILE... [--json] [--recursive]
+                         tell all that is wrong, in lines of FILE:LINE:COLUMN: PATH: REASON or, in
+                         JSON, one object a line
   --help                 show this text
   --version              show the version
 
@@ -57,7 +61,7 @@ below. With several files each output names its file, in a line in front or, in 
 that cannot be loaded is told, and the others are shown.
 
 Output is UTF-8. Exit code: 0 done; 1 a document could not be loaded or saved, has no such
-feature or attribute, or the attribute refused the value; 2 wrong usage.
+feature or attribute, or the attribute refused the value, or `check` found something; 2 wrong usage.
 An argument that begins with `-` and is no option stands behind a `--`.
 )";
 
@@ -189,6 +193,13 @@ int save(const QStringList& given)
     return done ? 0 : failure;
 }
 
+int check(const QStringList& given)
+{
+    const Arguments arguments(given, {"FILE..."}, {"json", "recursive"});
+    const DocumentFiles files(arguments.all(), arguments.has("recursive"), std::cerr);
+    return runCheck(files, arguments.has("json"), std::cout, std::cerr);
+}
+
 struct Command
 {
     const char* name;
@@ -196,7 +207,8 @@ struct Command
 };
 
 const Command commands[] = {
-    {"rows", rows}, {"tree", tree}, {"properties", properties}, {"save", save}, {"set", set},
+    {"rows", rows}, {"tree", tree}, {"properties", properties},
+    {"save", save}, {"set", set},   {"check", check},
 };
 
 int run(const QStringList& arguments)

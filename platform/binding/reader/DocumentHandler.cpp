@@ -1,5 +1,6 @@
 #include "platform/binding/reader/DocumentHandler.h"
 
+#include "platform/binding/reader/DocumentChecks.h"
 #include "platform/binding/reader/NamespaceScopes.h"
 #include "platform/binding/values/WhiteSpace.h"
 #include "platform/binding/xml/Namespaces.h"
@@ -45,6 +46,12 @@ DocumentHandler::DocumentHandler(const XmlParser& parser, NamespaceScopes& scope
     : parser(parser), scopes(scopes), log(log), isLenient(isLenient), index(SchemaIndex::instance()),
       names(index, scopes), values(scopes, names, log), unknown(names)
 {
+}
+
+void DocumentHandler::setChecks(DocumentChecks& told)
+{
+    checks = &told;
+    findings.setListener([&told](const Finding& finding) { told.add(finding); });
 }
 
 std::unique_ptr<core::CityModelType> DocumentHandler::takeRoot()
@@ -230,6 +237,9 @@ void DocumentHandler::startValue(const TypeIndex::FlatMember& member, NameId id,
         const PrefixedName name(attribute.name);
         element.isNil = element.isNil || (isXsi(name, "nil") && isTrue(attribute.value));
         log.add("attribute", attribute.name);
+        if (checks != nullptr) {
+            checks->meetAttribute(nullptr, attribute.name);
+        }
         keptValue().attributes.push_back(keptAttribute(name, attribute.value));
     }
 }
@@ -250,6 +260,9 @@ void DocumentHandler::startUnknown(const char* name, const MemberSlot* slot, con
         }
     }
     log.add("element", name);
+    if (checks != nullptr) {
+        checks->meetElement(parent.type, name);
+    }
     unknown.begin(position, scopes.around(open.count() + 1));
     unknown.startElement(name, attributes);
 }
@@ -264,6 +277,10 @@ void DocumentHandler::readAttribute(OpenElement& element, const XmlAttribute& at
     }
     element.met |= member->requiredBit;
     KeptContent::setSpelledOut(*element.object, member->defaultBit);
+    if (checks != nullptr && checks->isTakenIdentifier(attribute)) {
+        values.setAside(*element.object, *member, attribute.value);
+        return;
+    }
     try {
         values.readAttribute(*element.object, *member, attribute.value);
     } catch (const ValueError& error) {
@@ -282,6 +299,9 @@ void DocumentHandler::keepAttribute(OpenElement& element, const XmlAttribute& at
         return;
     }
     log.add("attribute", attribute.name);
+    if (checks != nullptr) {
+        checks->meetAttribute(element.type, attribute.name);
+    }
     KeptContent::Attribute kept = keptAttribute(name, attribute.value);
     kept.isOtherType = isOtherType && isXsi(name, "type");
     KeptContent::of(*element.object).addAttribute(std::move(kept));

@@ -21,6 +21,7 @@
 namespace citygml {
 namespace binding {
 
+class DocumentChecks;
 class NamespaceScopes;
 struct PrefixedName;
 
@@ -34,6 +35,12 @@ public:
     /// such thing throws a DocumentError
     DocumentHandler(const XmlParser& parser, NamespaceScopes& scopes, KeptContentLog& log, bool isLenient);
 
+    /// Has a check told of what is found, and of what else the schema does not know, in place of keeping the
+    /// findings with the document. An identifier that stands twice is set aside then.
+    ///
+    /// \param told outlives the reading
+    void setChecks(DocumentChecks& told);
+
     void startElement(const char* name, const XmlAttributes& attributes) override;
     void endElement(const char* name) override;
     void characters(std::string_view characters) override;
@@ -41,6 +48,8 @@ public:
     void processingInstruction(std::string markup) override;
     std::string path() const override;
 
+    /// Identifier of the innermost feature that is open; empty where there is none, or it has no identifier.
+    std::string featureId() const { return open.featureId(); }
     /// The document, with what was found in it, once the parser has come to its end.
     std::unique_ptr<core::CityModelType> takeRoot();
     /// Whether the document is of the older version of CityGML.
@@ -99,6 +108,8 @@ private:
     // Whether one of these is the element's `xsi:type`.
     bool isOtherType = false;
     FindingLog findings;
+    // Null but for a check.
+    DocumentChecks* checks = nullptr;
 };
 
 } // namespace binding

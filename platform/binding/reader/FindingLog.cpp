@@ -19,6 +19,10 @@ constexpr std::size_t mostLines = 20;
 
 void FindingLog::add(Finding finding)
 {
+    if (listener) {
+        listener(finding);
+        return;
+    }
     FindingGroup& group = groupOf(finding);
     ++group.count;
     if (group.first.size() < mostListed) {

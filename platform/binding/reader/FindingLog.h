@@ -2,6 +2,7 @@
 
 #include "citygml/Findings.h"
 
+#include <functional>
 #include <log4cplus/logger.h>
 #include <map>
 #include <string>
@@ -16,6 +17,8 @@ namespace binding {
 class FindingLog
 {
 public:
+    /// Has all findings told in place of collecting them.
+    void setListener(std::function<void(const Finding&)> told) { listener = std::move(told); }
     void add(Finding finding);
     /// All groups, the first first.
     std::vector<FindingGroup> take() { return std::move(groups); }
@@ -26,6 +29,7 @@ public:
 private:
     FindingGroup& groupOf(const Finding& finding);
 
+    std::function<void(const Finding&)> listener;
     std::vector<FindingGroup> groups;
     // Indices of the groups by reason and path.
     std::map<std::pair<std::string, std::string>, std::size_t> known;

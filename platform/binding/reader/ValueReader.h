@@ -34,6 +34,11 @@ public:
                   std::string_view text) const;
     /// Sets an attribute of an object.
     void readAttribute(xml_schema::type& owner, const TypeIndex::FlatMember& member, const char* text) const;
+    /// Keeps the text of an attribute as a wrong one, without a look at it.
+    void setAside(xml_schema::type& owner, const TypeIndex::FlatMember& member, const char* text) const
+    {
+        keepWrong(owner, &member, text);
+    }
     /// Adds a value to a member of fundamental type.
     ///
     /// \param element the name of its element
