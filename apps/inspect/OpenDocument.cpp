@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QString>
+#include <sstream>
 
 namespace tolvik::inspect {
 namespace {
@@ -51,6 +52,18 @@ std::unique_ptr<std::istream> openDocument(const QString& file, std::ostream& er
     }
     err << "tolvik-inspect: " << file.toStdString() << " could not be loaded: " << reason << '\n';
     return nullptr;
+}
+
+std::unique_ptr<std::istream> openSeekableDocument(const QString& file, std::ostream& err)
+{
+    std::unique_ptr<std::istream> stream = openDocument(file, err);
+    if (stream == nullptr || (!isStandardInput(file) && QFileInfo(file).isFile())) {
+        return stream;
+    }
+    auto copy = std::make_unique<std::stringstream>();
+    *copy << stream->rdbuf();
+    copy->clear();
+    return copy;
 }
 
 } // namespace tolvik::inspect

@@ -16,4 +16,7 @@ QString obstacle(const QString& file);
 /// \return null if it cannot
 std::unique_ptr<std::istream> openDocument(const QString& file, std::ostream& err);
 
+/// The same as a stream that can go back to its beginning, which a pipe cannot.
+std::unique_ptr<std::istream> openSeekableDocument(const QString& file, std::ostream& err);
+
 } // namespace tolvik::inspect

@@ -3,6 +3,7 @@
 #include "EachDocument.h"
 #include "LoadDocument.h"
 #include "PropertiesCommand.h"
+#include "RepairCommand.h"
 #include "RowsCommand.h"
 #include "SaveDocument.h"
 #include "SetCommand.h"
@@ -53,6 +54,8 @@ FILE is a CityGML 2.0 document; `-` reads one from standard input.
   check FILE... [--json] [--recursive]
                          tell all that is wrong, in lines of FILE:LINE:COLUMN: PATH: REASON or, in
                          JSON, one object a line
+  repair FILE OUT        save FILE as OUT with a free name for each gml:id that stands twice, as
+                         CityGML 2.0; what was done is told, and FILE stays as it is
   --help                 show this text
   --version              show the version
 
@@ -200,6 +203,12 @@ int check(const QStringList& given)
     return runCheck(files, arguments.has("json"), std::cout, std::cerr);
 }
 
+int repair(const QStringList& given)
+{
+    const Arguments arguments(given, {"FILE", "OUT"}, {});
+    return runRepair(arguments.at("FILE"), arguments.at("OUT"), std::cout, std::cerr);
+}
+
 struct Command
 {
     const char* name;
@@ -207,8 +216,8 @@ struct Command
 };
 
 const Command commands[] = {
-    {"rows", rows}, {"tree", tree}, {"properties", properties},
-    {"save", save}, {"set", set},   {"check", check},
+    {"rows", rows}, {"tree", tree},   {"properties", properties}, {"save", save},
+    {"set", set},   {"check", check}, {"repair", repair},
 };
 
 int run(const QStringList& arguments)
