@@ -43,6 +43,9 @@ Bits bit(std::size_t number)
     return static_cast<Bits>(Bits(1) << number);
 }
 
+/// Stands in a table for a name that has no slot.
+const MemberSlot noSlot;
+
 } // namespace
 
 bool TypeIndex::isDerivedFrom(const TypeIndex* other) const
@@ -186,16 +189,27 @@ const TypeIndex* SchemaIndex::findType(std::string_view uri, std::string_view na
 
 const MemberSlot* SchemaIndex::slotOf(const TypeIndex& type, NameId name) const
 {
-    if (type.slotNumbers.empty()) {
-        type.slotNumbers.resize(names.size());
+    const TypeIndex::SlotTable* const table = type.slots.load(std::memory_order_acquire);
+    const MemberSlot* slot = table != nullptr ? (*table)[name].load(std::memory_order_acquire) : nullptr;
+    if (slot == nullptr) {
+        slot = addSlot(type, name);
     }
-    std::uint16_t& number = type.slotNumbers[name];
-    if (number == 0) {
-        type.slots.push_back(name != 0 ? findSlot(type, name) : std::nullopt);
-        number = static_cast<std::uint16_t>(type.slots.size());
+    return slot != &noSlot ? slot : nullptr;
+}
+
+/// Looks up what the type's table does not have yet.
+const MemberSlot* SchemaIndex::addSlot(const TypeIndex& type, NameId name) const
+{
+    const std::lock_guard<std::mutex> lock(slotsMutex);
+    TypeIndex::SlotTable* table = type.slots.load(std::memory_order_relaxed);
+    if (table == nullptr) {
+        table = &slotTables.emplace_back(names.size());
+        type.slots.store(table, std::memory_order_release);
     }
-    const std::optional<MemberSlot>& slot = type.slots[number - 1];
-    return slot ? &*slot : nullptr;
+    const std::optional<MemberSlot> found = name != 0 ? findSlot(type, name) : std::nullopt;
+    const MemberSlot* const slot = found ? &foundSlots.emplace_back(*found) : &noSlot;
+    (*table)[name].store(slot, std::memory_order_release);
+    return slot;
 }
 
 std::optional<MemberSlot> SchemaIndex::findSlot(const TypeIndex& type, NameId name) const

@@ -2,8 +2,10 @@
 
 #include "platform/binding/Tables.h"
 
+#include <atomic>
 #include <cstdint>
 #include <deque>
+#include <mutex>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -86,14 +88,13 @@ private:
     std::uint64_t required = 0;
     bool mixed = false;
     bool spelledVariously = false;
-    // By name: 0 not looked up yet, else one more than an index of slots. Of all types a document has few, so
-    // that a type gets its slots when a document first asks for them.
-    mutable std::vector<std::uint16_t> slotNumbers;
-    // Null for a name that has no slot.
-    mutable std::deque<std::optional<MemberSlot>> slots;
+    // Of all types a document has few, so that a type gets its table when a document first asks for a slot.
+    // Several threads may ask: the table and its entries are only ever added.
+    using SlotTable = std::vector<std::atomic<const MemberSlot*>>;
+    mutable std::atomic<SlotTable*> slots{nullptr};
 };
 
-/// Look-ups over the schema tables, made once for the process.
+/// Look-ups over the schema tables, made once for the process. Any number of threads may look up.
 class SchemaIndex
 {
 public:
@@ -132,6 +133,7 @@ private:
     void joinMembers(TypeIndex& type);
     /// Finds the groups of a type's members, and gives each required and each defaulted one its bit.
     static void numberMembers(TypeIndex& type);
+    const MemberSlot* addSlot(const TypeIndex& type, NameId name) const;
     std::optional<MemberSlot> findSlot(const TypeIndex& type, NameId name) const;
 
     std::vector<QualifiedName> names;
@@ -142,6 +144,11 @@ private:
     std::unordered_map<const TypeRecord*, const TypeIndex*> typeOfRecord;
     std::unordered_map<std::string, const TypeIndex*> typeByName;
     std::vector<std::string> uris;
+
+    // What addSlot() has made.
+    mutable std::mutex slotsMutex;
+    mutable std::deque<TypeIndex::SlotTable> slotTables;
+    mutable std::deque<MemberSlot> foundSlots;
 };
 
 } // namespace binding

@@ -54,6 +54,54 @@ void DocumentHandler::setChecks(DocumentChecks& told)
     findings.setListener([&told](const Finding& finding) { told.add(finding); });
 }
 
+DocumentHandler::DocumentHandler(const XmlParser& parser, NamespaceScopes& scopes, KeptContentLog& log,
+                                 const RootContext& context)
+    : DocumentHandler(parser, scopes, log, context.isLenient)
+{
+    isApart = true;
+    isOlder = context.isOlderVersion;
+    root = std::make_unique<core::CityModelType>();
+    if (!context.identifier.empty()) {
+        root->id(context.identifier);
+    }
+    open.open({Content::Children, context.name, root.get(), &index.typeOf(*root), nullptr});
+}
+
+RootContext DocumentHandler::rootContext() const
+{
+    const std::string identifier = root->id().present() ? std::string(*root->id()) : std::string();
+    return {scopes, KeptContent::elementName(*root), identifier, isOlder, isLenient};
+}
+
+std::vector<RootChild> DocumentHandler::takeChildren()
+{
+    if (open.count() > 1) {
+        children.pop_back();
+    }
+    return std::move(children);
+}
+
+bool DocumentHandler::addChild(RootChild& child, const XmlParser::Place& begin)
+{
+    for (const xml_schema::id* const identifier : child.identifiers) {
+        const xsd::cxx::tree::identity_impl<char, xml_schema::ncname> identity(*identifier);
+        if (root->_lookup_id(identity) != nullptr) {
+            return false;
+        }
+    }
+    keepText(open.top());
+    open.beginChild(*child.member);
+    child.member->declaration->ops->add(*root, child.object.release());
+    for (Finding& finding : child.findings) {
+        const XmlParser::Place place = XmlParser::Place{finding.line, finding.column}.from(begin);
+        finding.line = place.line;
+        finding.column = place.column;
+        findings.add(std::move(finding));
+    }
+    log.add(child.log);
+    return true;
+}
+
 std::unique_ptr<core::CityModelType> DocumentHandler::takeRoot()
 {
     document->findings = findings.take();
@@ -122,7 +170,6 @@ void DocumentHandler::startRoot(const char* name, NameId id, const XmlAttributes
 /// \return false where no object can be made for the element.
 bool DocumentHandler::startChild(const MemberSlot& slot, NameId id, const XmlAttributes& attributes)
 {
-    xml_schema::type& owner = *open.top().object;
     const TypeIndex::FlatMember& member = open.top().type->members()[slot.member];
     const TypeIndex* const type = slot.type != nullptr ? typeOfChild(slot, attributes) : nullptr;
     if (type == nullptr && (slot.type != nullptr || slot.isAbstract)) {
@@ -140,9 +187,36 @@ bool DocumentHandler::startChild(const MemberSlot& slot, NameId id, const XmlAtt
     std::unique_ptr<xml_schema::type> created(type->record()->create());
     xml_schema::type& object = *created;
     KeptContent::setElementName(object, id);
-    member.declaration->ops->add(owner, created.release());
+    addObject(member, std::move(created));
     startObject(object, *type, id, attributes);
     return true;
+}
+
+/// Gives an object to the innermost element.
+void DocumentHandler::addObject(const TypeIndex::FlatMember& member,
+                                std::unique_ptr<xml_schema::type> created)
+{
+    if (!isApart || open.count() > 1) {
+        member.declaration->ops->add(*open.top().object, created.release());
+        return;
+    }
+    if (member.declaration->ops->single) {
+        throw DocumentError{"only the whole document tells whether there is one already"};
+    }
+    children.emplace_back();
+    children.back().member = &member;
+    children.back().object = std::move(created);
+    values.listIdentifiersIn(children.back().identifiers);
+}
+
+/// To be called when a child of the root has ended that is read apart.
+void DocumentHandler::endChildApart()
+{
+    if (KeptContent::find(*root) != nullptr) {
+        children.pop_back();
+        throw DocumentError{"what stands between the children of a root is kept with the root"};
+    }
+    children.back().log = log.take();
 }
 
 /// The type of the slot or the one that `xsi:type` tells; null where there are no objects of it.
@@ -202,10 +276,21 @@ void DocumentHandler::tellFaults(const std::string& path)
 {
     const XmlParser::Place place = parser.place();
     for (std::string& reason : faults) {
-        findings.add({place.line, place.column, path, std::move(reason), open.featureId()});
+        addFinding({place.line, place.column, path, std::move(reason), open.featureId()});
     }
     faults.clear();
     isOtherType = false;
+}
+
+void DocumentHandler::addFinding(Finding finding)
+{
+    if (!isApart) {
+        findings.add(std::move(finding));
+    } else if (open.count() > 1) {
+        children.back().findings.push_back(std::move(finding));
+    } else {
+        throw DocumentError{finding.reason};
+    }
 }
 
 void DocumentHandler::startObject(xml_schema::type& object, const TypeIndex& type, NameId id,
@@ -363,6 +448,9 @@ void DocumentHandler::endElement(const char* name)
     }
     text.clear();
     open.close();
+    if (isApart && open.count() == 1) {
+        endChildApart();
+    }
 }
 
 void DocumentHandler::endChildren(OpenElement& element)

@@ -7,6 +7,7 @@
 #include "platform/binding/reader/MarkupCopy.h"
 #include "platform/binding/reader/NameResolver.h"
 #include "platform/binding/reader/OpenElements.h"
+#include "platform/binding/reader/RootChild.h"
 #include "platform/binding/reader/ValueReader.h"
 #include "platform/binding/reader/XmlParser.h"
 #include "platform/binding/SchemaIndex.h"
@@ -34,6 +35,14 @@ public:
     /// \param isLenient whether what the schema does not allow is kept and told as a finding; else the first
     /// such thing throws a DocumentError
     DocumentHandler(const XmlParser& parser, NamespaceScopes& scopes, KeptContentLog& log, bool isLenient);
+    /// A handler for children of a root alone, which stand in no document until another handler adds them.
+    /// What it cannot know without the rest of the document, such as whether the root has one of a member
+    /// already, ends the parsing; so does whatever throws for the handler of a whole document.
+    ///
+    /// \param parser is given what stands inside of the root
+    /// \param scopes a copy of those of the context
+    DocumentHandler(const XmlParser& parser, NamespaceScopes& scopes, KeptContentLog& log,
+                    const RootContext& context);
 
     /// Has a check told of what is found, and of what else the schema does not know, in place of keeping the
     /// findings with the document. An identifier that stands twice is set aside then.
@@ -50,6 +59,17 @@ public:
 
     /// Identifier of the innermost feature that is open; empty where there is none, or it has no identifier.
     std::string featureId() const { return open.featureId(); }
+
+    /// Of the root, once its start tag has ended.
+    RootContext rootContext() const;
+    /// The children that have ended, of a handler for children alone.
+    std::vector<RootChild> takeChildren();
+    /// Adds a child that was read apart, at the place that has been reached.
+    ///
+    /// \param begin where its findings' places are counted from
+    /// \return false where an identifier in it is in use; then nothing has happened
+    bool addChild(RootChild& child, const XmlParser::Place& begin);
+
     /// The document, with what was found in it, once the parser has come to its end.
     std::unique_ptr<core::CityModelType> takeRoot();
     /// Whether the document is of the older version of CityGML.
@@ -65,6 +85,9 @@ private:
     void startValue(const TypeIndex::FlatMember& member, NameId id, const XmlAttributes& attributes);
     void startUnknown(const char* name, const MemberSlot* slot, const XmlAttributes& attributes);
 
+    void addObject(const TypeIndex::FlatMember& member, std::unique_ptr<xml_schema::type> created);
+    void endChildApart();
+    void addFinding(Finding finding);
     void addFault(const std::string& reason);
     void tellFaults(const std::string& path);
 
@@ -110,6 +133,9 @@ private:
     FindingLog findings;
     // Null but for a check.
     DocumentChecks* checks = nullptr;
+    // Whether the root is a stand-in, and its children are these.
+    bool isApart = false;
+    std::vector<RootChild> children;
 };
 
 } // namespace binding

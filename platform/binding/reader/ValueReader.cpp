@@ -99,6 +99,9 @@ void ValueReader::readObjectAttribute(xml_schema::type& owner, const TypeIndex::
     std::unique_ptr<xml_schema::type> created(record.create());
     if (auto* identifier = dynamic_cast<xml_schema::id*>(created.get())) {
         addIdentifier(owner, ops, std::move(created), *identifier, text);
+        if (identifiers != nullptr) {
+            identifiers->push_back(identifier);
+        }
         return;
     }
     bool isToBeKept = false;

@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace citygml {
 namespace binding {
@@ -26,6 +27,9 @@ public:
         : scopes(scopes), names(names), log(log)
     {
     }
+
+    /// Lists the identifiers that are read from now on.
+    void listIdentifiersIn(std::vector<const xml_schema::id*>& list) { identifiers = &list; }
 
     /// Sets the text of an object.
     ///
@@ -59,6 +63,8 @@ private:
     const NamespaceScopes& scopes;
     const NameResolver& names;
     KeptContentLog& log;
+    // Null where nobody wants to know.
+    std::vector<const xml_schema::id*>* identifiers = nullptr;
 };
 
 } // namespace binding

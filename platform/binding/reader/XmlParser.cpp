@@ -159,11 +159,18 @@ struct XmlParser::Callbacks
     }
 };
 
-XmlParser::XmlParser(NamespaceScopes& scopes)
+XmlParser::XmlParser(NamespaceScopes& scopes, Part part)
     : scopes(scopes), parser(XML_ParserCreate(nullptr), &XML_ParserFree)
 {
     if (!parser) {
         throw std::bad_alloc();
+    }
+    if (part == Part::InsideRoot) {
+        // Any root does: names mean what the scopes say.
+        constexpr std::string_view root = "<_>";
+        XML_Parse(parser.get(), root.data(), static_cast<int>(root.size()), XML_FALSE);
+        depth = 1;
+        continueAt(Place());
     }
     XML_SetUserData(parser.get(), this);
     Callbacks::set(parser.get());
@@ -186,15 +193,66 @@ void XmlParser::parse(std::istream& stream, XmlHandler& told)
         if (stream.bad()) {
             raise("the input cannot be read");
         }
-        const XML_Status status =
-            XML_ParseBuffer(parser.get(), static_cast<int>(stream.gcount()), static_cast<int>(atEnd));
-        if (failure) {
-            std::rethrow_exception(failure);
-        }
-        if (status != XML_STATUS_OK) {
-            raise(XML_ErrorString(XML_GetErrorCode(parser.get())));
-        }
+        checkParsed(
+            XML_ParseBuffer(parser.get(), static_cast<int>(stream.gcount()), static_cast<int>(atEnd)));
     }
+}
+
+void XmlParser::feed(std::string_view bytes, XmlHandler& told, bool isLast)
+{
+    handler = &told;
+    for (bool isAtEnd = false; !isAtEnd;) {
+        const std::string_view part = bytes.substr(0, chunkSize);
+        bytes.remove_prefix(part.size());
+        isAtEnd = bytes.empty();
+        checkParsed(XML_Parse(parser.get(), part.data(), static_cast<int>(part.size()),
+                              static_cast<int>(isAtEnd && isLast)));
+    }
+}
+
+void XmlParser::checkParsed(int status) const
+{
+    if (failure) {
+        std::rethrow_exception(failure);
+    }
+    if (status != XML_STATUS_OK) {
+        raise(XML_ErrorString(XML_GetErrorCode(parser.get())));
+    }
+}
+
+void XmlParser::continueAt(const Place& next)
+{
+    jumpedFrom = counted();
+    jumpedTo = next;
+}
+
+/// Counts as the parser does: columns in characters, and each of the three kinds of line ends as one.
+XmlParser::Place XmlParser::behind(const Place& begin, std::string_view text)
+{
+    Place place = begin;
+    std::size_t lineBegin = std::string_view::npos;
+    const bool hasReturns = text.find('\r') != std::string_view::npos;
+    for (std::size_t i = text.find_first_of("\r\n"); i < text.size(); ++i) {
+        if (!hasReturns) {
+            i = text.find('\n', i);
+            if (i == std::string_view::npos) {
+                break;
+            }
+        } else if (text[i] != '\n' && text[i] != '\r') {
+            continue;
+        } else if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n') {
+            ++i;
+        }
+        ++place.line;
+        lineBegin = i + 1;
+    }
+    if (lineBegin != std::string_view::npos) {
+        place.column = 1;
+        text.remove_prefix(lineBegin);
+    }
+    const auto isCharacter = [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; };
+    place.column += static_cast<std::uint64_t>(std::count_if(text.begin(), text.end(), isCharacter));
+    return place;
 }
 
 void XmlParser::startElement(const char* name, const char** list)
@@ -270,6 +328,14 @@ void XmlParser::limitDefaults(const char** list)
 }
 
 XmlParser::Place XmlParser::place() const
+{
+    const Place at = counted();
+    const bool isOnLineOfJump = at.line == jumpedFrom.line;
+    return {at.line - jumpedFrom.line + jumpedTo.line,
+            isOnLineOfJump ? at.column - jumpedFrom.column + jumpedTo.column : at.column};
+}
+
+XmlParser::Place XmlParser::counted() const
 {
     return {XML_GetCurrentLineNumber(parser.get()), XML_GetCurrentColumnNumber(parser.get()) + 1};
 }

@@ -96,12 +96,21 @@ public:
     /// A place in the document, counted from 1.
     struct Place
     {
-        std::uint64_t line;
-        std::uint64_t column;
+        std::uint64_t line = 1;
+        std::uint64_t column = 1;
+
+        /// The same place, where it was counted from another one.
+        Place from(const Place& begin) const
+        {
+            return {line + begin.line - 1, line == 1 ? column + begin.column - 1 : column};
+        }
     };
 
+    /// Whether a parser is given a whole document, or only what stands in the root of one.
+    enum class Part { Document, InsideRoot };
+
     /// \param scopes follows the parser, so that it always holds the namespaces of the place it has reached
-    explicit XmlParser(NamespaceScopes& scopes);
+    explicit XmlParser(NamespaceScopes& scopes, Part part = Part::Document);
     ~XmlParser();
     XmlParser(const XmlParser&) = delete;
     XmlParser& operator=(const XmlParser&) = delete;
@@ -110,8 +119,18 @@ public:
     ///
     /// \throws xsd::cxx::tree::parsing<char> for the first error, with its line and column, counted from 1.
     void parse(std::istream& stream, XmlHandler& told);
-    /// Where that begins which the handler is told of.
+    /// Parses the bytes of a document that follow those before. Errors are those of parse().
+    void feed(std::string_view bytes, XmlHandler& told, bool isLast = false);
+    /// Says that the bytes to be fed next do not follow those before, and where they stand. All that was fed
+    /// is whole tags and text.
+    void continueAt(const Place& next);
+    /// Ends the parsing with an error at the place that it has come to.
+    [[noreturn]] void raise(const std::string& reason) const;
+    /// Where that begins which the handler is told of; behind whole tags that were fed, where these end.
     Place place() const;
+
+    /// Where a text ends that begins at a place.
+    static Place behind(const Place& begin, std::string_view text);
 
 private:
     struct Callbacks;
@@ -120,7 +139,8 @@ private:
     void endElement(const char* name);
     void checkDistinct(const XmlAttributes& attributes) const;
     void limitDefaults(const char** list);
-    [[noreturn]] void raise(const std::string& reason) const;
+    void checkParsed(int status) const;
+    Place counted() const;
 
     NamespaceScopes& scopes;
     // Null but while parsing.
@@ -130,6 +150,9 @@ private:
     std::exception_ptr failure;
     // Number of open elements.
     std::size_t depth = 0;
+    // Where the parser was, by its own count, when it was last told to continue elsewhere, and where that is.
+    Place jumpedFrom;
+    Place jumpedTo;
     // Whether a document type gives values to attributes, and how many bytes of these so far.
     bool hasDefaults = false;
     unsigned long long defaultBytes = 0;

@@ -1,0 +1,176 @@
+#include "platform/binding/reader/PiecewiseReader.h"
+
+#include "platform/binding/reader/DocumentHandler.h"
+#include "platform/binding/reader/Encodings.h"
+
+#include <istream>
+#include <utility>
+#include <vector>
+
+namespace citygml {
+namespace binding {
+
+namespace {
+
+constexpr std::size_t blockSize = 1 << 16;
+// A child of so many pieces is read by the parser of the whole document, bit by bit.
+constexpr std::size_t mostPieces = 16;
+
+} // namespace
+
+PiecewiseReader::PiecewiseReader(XmlParser& parser, DocumentHandler& handler, unsigned threads,
+                                 std::size_t pieceSize)
+    : parser(parser), handler(handler), threads(threads), pieceSize(pieceSize)
+{
+}
+
+void PiecewiseReader::read(std::istream& stream)
+{
+    while (!isAtEnd) {
+        readBlock(stream);
+        if (!isWhole) {
+            cutter.scan(buffer);
+            cut();
+        } else if (!isAtEnd) {
+            feed(buffer.size());
+        }
+    }
+    finish();
+}
+
+/// Reads the next bytes. What the stream has to say comes behind the errors of the bytes in front of it.
+void PiecewiseReader::readBlock(std::istream& stream)
+{
+    const std::size_t begin = buffer.size();
+    buffer.resize(begin + blockSize);
+    std::size_t count = 0;
+    try {
+        stream.read(&buffer[begin], static_cast<std::streamsize>(blockSize));
+        isAtEnd = !stream;
+        isBad = stream.bad();
+        count = isBad ? 0 : static_cast<std::size_t>(stream.gcount());
+    } catch (...) {
+        failure = std::current_exception();
+        isAtEnd = true;
+    }
+    buffer.resize(begin + count);
+}
+
+/// Makes pieces of the bytes that there are, or gives them to the parser where there is nothing to cut.
+void PiecewiseReader::cut()
+{
+    if (!context) {
+        begin();
+    }
+    if (isWhole || !context) {
+        return;
+    }
+    if (isInLargeChild) {
+        isInLargeChild = cutter.childEnds().empty();
+        feed(isInLargeChild ? buffer.size() : cutter.childEnds().front());
+    }
+    if (cutter.isDone()) {
+        readWhole();
+    } else if (buffer.size() >= pieceSize && !cutter.childEnds().empty()) {
+        addPiece();
+    } else if (buffer.size() >= mostPieces * pieceSize) {
+        takePieces();
+        feed(buffer.size());
+        isInLargeChild = true;
+    }
+    while (queue && !queue->isEmpty() && (queue->isFull() || queue->isFirstRead())) {
+        takePiece();
+    }
+}
+
+/// Reads what stands in front of the root's children.
+void PiecewiseReader::begin()
+{
+    if (cutter.rootBegin() != 0 && !cutter.isDone() && isUtf8(buffer)) {
+        feed(cutter.rootBegin());
+        context.emplace(handler.rootContext());
+    } else if (cutter.rootBegin() != 0 || cutter.isDone() || buffer.size() >= pieceSize) {
+        readWhole();
+    }
+}
+
+/// Gives all that is left to the parser.
+void PiecewiseReader::readWhole()
+{
+    takePieces();
+    isWhole = true;
+    if (!isAtEnd) {
+        feed(buffer.size());
+    }
+}
+
+void PiecewiseReader::addPiece()
+{
+    if (!queue) {
+        queue.emplace(*context, threads);
+    }
+    std::vector<std::size_t> ends = cutter.childEnds();
+    std::string rest = buffer.substr(ends.back());
+    buffer.resize(ends.back());
+    cutter.drop(ends.back());
+    queue->add(std::make_unique<Piece>(std::exchange(buffer, std::move(rest)), std::move(ends)));
+}
+
+void PiecewiseReader::takePieces()
+{
+    while (queue && !queue->isEmpty()) {
+        takePiece();
+    }
+}
+
+/// Adds the first piece to the document.
+void PiecewiseReader::takePiece()
+{
+    const std::unique_ptr<Piece> piece = queue->take();
+    const XmlParser::Place begin = place ? *place : parser.place();
+    std::size_t count = 0;
+    for (RootChild& child : piece->children()) {
+        if (!handler.addChild(child, begin)) {
+            break;
+        }
+        ++count;
+    }
+    place = piece->placeBehind(count).from(begin);
+    if (!piece->behind(count).empty()) {
+        feed(piece->behind(count));
+    }
+}
+
+/// Gives the first bytes of the buffer to the parser.
+void PiecewiseReader::feed(std::size_t count)
+{
+    feed(std::string_view(buffer).substr(0, count));
+    if (!isWhole) {
+        cutter.drop(count);
+    }
+    buffer.erase(0, count);
+}
+
+void PiecewiseReader::feed(std::string_view bytes, bool isLast)
+{
+    if (place) {
+        parser.continueAt(*place);
+        place.reset();
+    }
+    parser.feed(bytes, handler, isLast);
+}
+
+void PiecewiseReader::finish()
+{
+    takePieces();
+    feed(buffer, !failure && !isBad);
+    if (failure) {
+        std::rethrow_exception(failure);
+    }
+    if (isBad) {
+        parser.raise("the input cannot be read");
+    }
+}
+
+} // namespace binding
+} // namespace citygml
