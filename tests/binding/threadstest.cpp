@@ -14,6 +14,7 @@
 #include <sstream>
 #include <string>
 #include <thread>
+#include <vector>
 
 using namespace testsupport;
 
@@ -40,6 +41,13 @@ Document readFile(const std::string& path)
     return Document(core::CityModel(file).release());
 }
 
+std::string written(const core::CityModelType& document)
+{
+    std::ostringstream result;
+    core::CityModel(result, document, xsd::cxx::xml::dom::namespace_infomap<char>());
+    return result.str();
+}
+
 /// The document as it is written, and the property trees of its features.
 std::string everythingOf(core::CityModelType& document)
 {
@@ -50,8 +58,7 @@ std::string everythingOf(core::CityModelType& document)
         const Fondo::RefPtr<CoreProperty> root = GmlCorePropertyCreator::createProperty(feature, false);
         print(result, *root);
     }
-    core::CityModel(result, document, xsd::cxx::xml::dom::namespace_infomap<char>());
-    return result.str();
+    return result.str() + written(document);
 }
 
 } // namespace
@@ -76,6 +83,27 @@ private slots:
             QVERIFY2(expected.find("CityModel>") != std::string::npos, name.c_str());
             QVERIFY2(everythingOf(*readElsewhere) == expected, name.c_str());
         }
+    }
+
+    void severalDocumentsAreReadAndWrittenAtOnce()
+    {
+        const QStringList paths = documentsBelow(examples());
+        std::vector<std::string> expected, found(paths.size());
+        for (const QString& path : paths) {
+            const Document document = readFile(path.toStdString());
+            expected.push_back(written(*document));
+        }
+        std::vector<std::thread> threads;
+        for (std::size_t i = 0; i < found.size(); ++i) {
+            threads.emplace_back([&, i] {
+                const Document document = readFile(paths[static_cast<int>(i)].toStdString());
+                found[i] = written(*document);
+            });
+        }
+        for (std::thread& thread : threads) {
+            thread.join();
+        }
+        QVERIFY(found == expected);
     }
 
     void aDocumentIsFreedInAnotherThread()
