@@ -19,6 +19,29 @@ using Content = OpenElement::Content;
 using Kind = KeptContent::Kind;
 using Position = KeptContent::Position;
 
+/// Registers identifiers that have their text with the root that they stand below.
+///
+/// \return false where one of them is in use; then none is registered
+bool registerAll(const std::vector<xml_schema::id*>& identifiers)
+{
+    std::size_t count = 0;
+    try {
+        for (; count < identifiers.size(); ++count) {
+            xml_schema::id& identifier = *identifiers[count];
+            const std::string text = identifier;
+            // Registered is what is assigned to an identifier that has no text.
+            static_cast<std::string&>(identifier).clear();
+            identifier = text;
+        }
+        return true;
+    } catch (const xsd::cxx::tree::duplicate_id<char>&) {
+        for (std::size_t i = 0; i < count; ++i) {
+            *identifiers[i] = std::string();
+        }
+        return false;
+    }
+}
+
 bool isTrue(const char* value)
 {
     const std::string_view text = trimmed(value);
@@ -83,11 +106,9 @@ std::vector<RootChild> DocumentHandler::takeChildren()
 
 bool DocumentHandler::addChild(RootChild& child, const XmlParser::Place& begin)
 {
-    for (const xml_schema::id* const identifier : child.identifiers) {
-        const xsd::cxx::tree::identity_impl<char, xml_schema::ncname> identity(*identifier);
-        if (root->_lookup_id(identity) != nullptr) {
-            return false;
-        }
+    child.object->_container(root.get());
+    if (!registerAll(child.identifiers)) {
+        return false;
     }
     keepText(open.top());
     open.beginChild(*child.member);

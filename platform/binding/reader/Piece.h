@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace citygml {
@@ -20,6 +21,9 @@ public:
 
     /// Reads as many children as can be read apart from the document.
     void read(const RootContext& context);
+
+    /// To be used for another piece, when nobody needs this one any more.
+    std::string takeBytes() { return std::move(bytes); }
 
     /// What was read, in the order of the document.
     std::vector<RootChild>& children() { return readChildren; }

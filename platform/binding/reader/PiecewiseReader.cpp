@@ -110,7 +110,12 @@ void PiecewiseReader::addPiece()
         queue.emplace(*context, threads);
     }
     std::vector<std::size_t> ends = cutter.childEnds();
-    std::string rest = buffer.substr(ends.back());
+    std::string rest;
+    if (!spares.empty()) {
+        rest = std::move(spares.back());
+        spares.pop_back();
+    }
+    rest.assign(buffer, ends.back(), std::string::npos);
     buffer.resize(ends.back());
     cutter.drop(ends.back());
     queue->add(std::make_unique<Piece>(std::exchange(buffer, std::move(rest)), std::move(ends)));
@@ -139,6 +144,7 @@ void PiecewiseReader::takePiece()
     if (!piece->behind(count).empty()) {
         feed(piece->behind(count));
     }
+    spares.push_back(piece->takeBytes());
 }
 
 /// Gives the first bytes of the buffer to the parser.

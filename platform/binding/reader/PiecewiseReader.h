@@ -11,6 +11,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace citygml {
 namespace binding {
@@ -51,6 +52,8 @@ private:
     const std::size_t pieceSize;
     RootCutter cutter;
     std::string buffer;
+    // Memory of former pieces. To give it back each time would have the allocator tidy up all it has.
+    std::vector<std::string> spares;
     bool isAtEnd = false;
     bool isBad = false;
     std::exception_ptr failure;

@@ -54,7 +54,7 @@ namespace binding {
 
 std::size_t pieceSize()
 {
-    constexpr std::size_t usual = 1 << 18;
+    constexpr std::size_t usual = 1 << 19;
     const std::size_t count = numberInEnvironment("TOLVIK_PIECE_SIZE");
     return count != 0 ? count : usual;
 }

@@ -29,8 +29,8 @@ struct RootChild
     /// The member of the root that takes it.
     const TypeIndex::FlatMember* member = nullptr;
     std::unique_ptr<xml_schema::type> object;
-    /// Those in it.
-    std::vector<const xml_schema::id*> identifiers;
+    /// Those in it. They are not registered with any root.
+    std::vector<xml_schema::id*> identifiers;
     /// Their places are counted from where the parser was told to begin.
     std::vector<Finding> findings;
     KeptContentLog::Counts log;

@@ -98,9 +98,13 @@ void ValueReader::readObjectAttribute(xml_schema::type& owner, const TypeIndex::
     const TypeRecord& record = *member.type->record();
     std::unique_ptr<xml_schema::type> created(record.create());
     if (auto* identifier = dynamic_cast<xml_schema::id*>(created.get())) {
-        addIdentifier(owner, ops, std::move(created), *identifier, text);
         if (identifiers != nullptr) {
+            ops.add(owner, created.release());
+            // As a string it does not register itself.
+            static_cast<std::string&>(*identifier) = collapsed(text);
             identifiers->push_back(identifier);
+        } else {
+            addIdentifier(owner, ops, std::move(created), *identifier, text);
         }
         return;
     }

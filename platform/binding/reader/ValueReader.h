@@ -28,8 +28,8 @@ public:
     {
     }
 
-    /// Lists the identifiers that are read from now on.
-    void listIdentifiersIn(std::vector<const xml_schema::id*>& list) { identifiers = &list; }
+    /// Lists the identifiers that are read from now on, in place of registering them with the root.
+    void listIdentifiersIn(std::vector<xml_schema::id*>& list) { identifiers = &list; }
 
     /// Sets the text of an object.
     ///
@@ -63,8 +63,8 @@ private:
     const NamespaceScopes& scopes;
     const NameResolver& names;
     KeptContentLog& log;
-    // Null where nobody wants to know.
-    std::vector<const xml_schema::id*>* identifiers = nullptr;
+    // Null where they are registered.
+    std::vector<xml_schema::id*>* identifiers = nullptr;
 };
 
 } // namespace binding
