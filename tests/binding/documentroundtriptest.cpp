@@ -143,12 +143,15 @@ private slots:
 
     void anUnexpectedOrderIsRead()
     {
-        const Document document =
-            read(documentWithBuilding("<bldg:roofType>flat</bldg:roofType><gml:name>n</gml:name>"));
-        const auto& object = *document->featureMember().front()._Feature();
-        QCOMPARE(object.name().size(), std::size_t(1));
-        const QByteArray saved = write(*document);
-        QVERIFY(saved.indexOf("gml:name") < saved.indexOf("bldg:roofType"));
+        const QByteArray original =
+            documentWithBuilding("<bldg:roofType>flat</bldg:roofType><gml:name>n</gml:name>");
+        for (const auto& reading : {&read, &readStrictly}) {
+            const Document document = reading(original);
+            const auto& object = *document->featureMember().front()._Feature();
+            QCOMPARE(object.name().size(), std::size_t(1));
+            QCOMPARE(XmlNode::differences(XmlNode::parse(original), XmlNode::parse(write(*document))),
+                     QStringList());
+        }
     }
 
     void anEditChangesOnlyWhatWasEdited()

@@ -180,8 +180,7 @@ private slots:
             const QString error = errorOf(document.faulty);
             if (!error.isEmpty()) {
                 complaints.add(document, error);
-            } else if (document.kind != Kind::OutOfOrder &&
-                       !differencesAfterSave(document.faulty).isEmpty()) {
+            } else if (!differencesAfterSave(document.faulty).isEmpty()) {
                 complaints.add(document, differencesAfterSave(document.faulty).first());
             }
         }

@@ -56,7 +56,7 @@ private:
         QTest::newRow("lenient") << true;
     }
 
-    /// A mutant opens or is refused with a place; one that opens is written and read again.
+    /// A mutant opens or is refused with a place; one that opens comes back as it was.
     static void run(const QString& directory)
     {
         QFETCH(bool, isLenient);
@@ -69,7 +69,7 @@ private:
         mutants::Maker maker(documents);
         const int count =
             qEnvironmentVariableIsSet("TOLVIK_LONG_RUNS") ? mutantsOfALongRun : mutantsOfAQuickRun;
-        int opened = 0, unchanged = 0;
+        int opened = 0;
         for (int i = 0; i < count; ++i) {
             const auto mutant = maker.next();
             const QByteArray where =
@@ -87,13 +87,13 @@ private:
             ++opened;
             const QByteArray saved = write(*document);
             const QStringList differences = XmlNode::differences(before, XmlNode::parse(saved));
-            unchanged += differences.isEmpty() ? 1 : 0;
+            QVERIFY2(differences.isEmpty(), where + ": " + differences.join('\n').toUtf8());
             Document again;
             const QString problem = isLenient ? lenientErrorOf(saved, again) : errorOf(saved, &again);
             QVERIFY2(problem.isEmpty(), where + ": " + problem.toUtf8());
             QVERIFY2(write(*again) == saved, where);
         }
-        qInfo("%d mutants, %d open, %d of them come back as they were", count, opened, unchanged);
+        qInfo("%d mutants, %d open", count, opened);
         QVERIFY(opened > count / 4);
     }
 };

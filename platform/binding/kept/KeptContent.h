@@ -34,6 +34,15 @@ namespace binding {
 /// A position speaks of members and numbers of children, not of objects. So it holds when the children
 /// themselves are edited, and what stood behind a child that is there no more moves to the next one.
 ///
+/// Children that stood in another order than the schema's have a child order. Then a position counts the
+/// children of that order, whatever their members:
+///
+///     <Building>                 child order: 7, 2
+///       <function/>
+///       <!--a-->                 Position::behindChildren(1)
+///       <name/>
+///     </Building>
+///
 /// Of sealed content is true:
 /// - The nodes are in the order of their positions, those at the same one in the order of the document.
 /// - The values are in the order of their members and indices, the object's own text in front.
@@ -61,11 +70,16 @@ public:
         {
             return Position(static_cast<MemberIndex>(member + 1), 0);
         }
+        /// Behind so many children of an object, in its child order.
+        static Position behindChildren(std::size_t children)
+        {
+            return Position(0, static_cast<std::uint32_t>(children));
+        }
         /// Behind so many bytes of a text.
         static Position inText(std::size_t bytes) { return Position(0, static_cast<std::uint32_t>(bytes)); }
 
         MemberIndex member() const { return memberIndex; }
-        /// Number of children of the member in front of it, or of bytes in a text.
+        /// Number of children of the member in front of it, of all children, or of bytes in a text.
         std::size_t count() const { return inFrontOfIt; }
 
         friend bool operator<(const Position& a, const Position& b)
@@ -230,8 +244,19 @@ public:
     void addValue(Value value) { keptValues.push_back(std::move(value)); }
     /// \param member an attribute; empty for the object's own text
     void addSpelling(std::optional<MemberIndex> member, std::string_view text);
-    /// Sets the members of the children that may alternate, in the order of the document.
+    /// Sets the members of all children, in the order of the document. The positions of the nodes count
+    /// these.
     void setChildOrder(std::vector<MemberIndex> members) { order = std::move(members); }
+    /// Gives each node another position.
+    ///
+    /// \param newPosition answers it, for a node
+    template <typename Function>
+    void moveNodes(const Function& newPosition)
+    {
+        for (Node& node : keptNodes) {
+            node.position = newPosition(static_cast<const Node&>(node));
+        }
+    }
     void setDocument(std::shared_ptr<const Document> whole) { ofDocument = std::move(whole); }
     /// Makes the invariants true that the class promises; to be called when all is added.
     void seal();
@@ -260,7 +285,8 @@ public:
     ///
     /// \return empty where none is kept, and where it is wrong.
     std::string_view spellingOf(std::optional<MemberIndex> member) const;
-    /// Empty where the children stand in the order of the schema.
+    /// The members of all children that the document had, in its order; empty where that is the order of the
+    /// schema. Children may have come or gone since.
     const std::vector<MemberIndex>& childOrder() const { return order; }
     /// Null for any object but the root of a document.
     const Document* document() const { return ofDocument.get(); }

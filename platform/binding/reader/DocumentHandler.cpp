@@ -1,5 +1,6 @@
 #include "platform/binding/reader/DocumentHandler.h"
 
+#include "platform/binding/kept/ChildOrder.h"
 #include "platform/binding/reader/DocumentChecks.h"
 #include "platform/binding/reader/NamespaceScopes.h"
 #include "platform/binding/values/WhiteSpace.h"
@@ -106,12 +107,15 @@ std::vector<RootChild> DocumentHandler::takeChildren()
 
 bool DocumentHandler::addChild(RootChild& child, const XmlParser::Place& begin)
 {
+    if (isLenient && open.isLate(*child.member)) {
+        return false;
+    }
     child.object->_container(root.get());
     if (!registerAll(child.identifiers)) {
         return false;
     }
     keepText(open.top());
-    open.beginChild(*child.member);
+    open.beginChild(*child.member, KeptContent::elementName(*child.object));
     child.member->declaration->ops->add(*root, child.object.release());
     for (Finding& finding : child.findings) {
         const XmlParser::Place place = XmlParser::Place{finding.line, finding.column}.from(begin);
@@ -140,19 +144,16 @@ void DocumentHandler::startElement(const char* name, const XmlAttributes& attrib
         startRoot(name, id, attributes);
         return;
     }
-    const MemberSlot* slot = nullptr;
     if (open.top().content == Content::Children) {
         keepText(open.top());
-        slot = index.slotOf(*open.top().type, id);
-        if (slot != nullptr && !isTaken(*open.top().object, *open.top().type, *slot)) {
-            if (startChild(*slot, id, attributes)) {
-                return;
-            }
-            // Where it stands nothing is in its way.
-            slot = nullptr;
+        const MemberSlot* const slot = index.slotOf(*open.top().type, id);
+        if (slot != nullptr && isTaken(*open.top().object, *open.top().type, *slot)) {
+            tellSurplus(id);
+        } else if (slot != nullptr && startChild(*slot, id, attributes)) {
+            return;
         }
     }
-    startUnknown(name, slot, attributes);
+    startUnknown(name, attributes);
 }
 
 void DocumentHandler::startRoot(const char* name, NameId id, const XmlAttributes& attributes)
@@ -200,7 +201,8 @@ bool DocumentHandler::startChild(const MemberSlot& slot, NameId id, const XmlAtt
         tellFaults(open.wholePath(names) + '/' + names.textOf(id));
         return false;
     }
-    open.beginChild(member);
+    noteOrder(member, id);
+    open.beginChild(member, id);
     if (type == nullptr) {
         startValue(member, id, attributes);
         return true;
@@ -283,6 +285,26 @@ const TypeIndex* DocumentHandler::typeNamed(const char* text, const MemberSlot& 
     return nullptr;
 }
 
+/// Notes it as a fault where a child begins that belongs in front of the last one. Both ways of reading take
+/// any order. Of a root's child that is read apart it is not known what stands in front of it.
+void DocumentHandler::noteOrder(const TypeIndex::FlatMember& member, NameId id)
+{
+    const bool isOfRootApart = isApart && open.count() == 1;
+    if (isLenient && !isOfRootApart && open.isLate(member)) {
+        addFault("the element '" + names.textOf(id) + "' belongs in front of '" +
+                 names.textOf(open.top().lastName) + "'");
+    }
+}
+
+/// Tells of an element whose member has as many as it can take. Both ways of reading keep it.
+void DocumentHandler::tellSurplus(NameId id)
+{
+    if (isLenient) {
+        addFault("the element '" + names.textOf(id) + "' is one too many");
+        tellFaults(open.wholePath(names) + '/' + names.textOf(id));
+    }
+}
+
 /// Notes that the element which is being read is not as the schema wants it.
 void DocumentHandler::addFault(const std::string& reason)
 {
@@ -334,6 +356,9 @@ void DocumentHandler::startValue(const TypeIndex::FlatMember& member, NameId id,
 {
     text.clear();
     open.open({Content::Value, id, open.top().object, nullptr, &member});
+    if (!faults.empty()) {
+        tellFaults(open.wholePath(names));
+    }
     OpenElement& element = open.top();
     for (const XmlAttribute attribute : attributes) {
         if (attribute.isDeclaration()) {
@@ -351,23 +376,13 @@ void DocumentHandler::startValue(const TypeIndex::FlatMember& member, NameId id,
 }
 
 /// Begins the copy of an element that no member takes.
-///
-/// \param slot the member for such elements, which has as many as it can take; null where there is none
-void DocumentHandler::startUnknown(const char* name, const MemberSlot* slot, const XmlAttributes& attributes)
+void DocumentHandler::startUnknown(const char* name, const XmlAttributes& attributes)
 {
-    OpenElement& parent = open.top();
-    Position position =
-        parent.content == Content::Children ? parent.lastChild : Position::inText(text.size());
-    if (slot != nullptr) {
-        // One too many of a member must not come in front of the others.
-        const MemberIndex member = parent.type->members()[slot->member].groupBegin;
-        if (position.member() < member) {
-            position = Position::behindAll(member);
-        }
-    }
+    const bool isChild = open.top().content == Content::Children;
+    const Position position = isChild ? open.behindLastChild() : Position::inText(text.size());
     log.add("element", name);
     if (checks != nullptr) {
-        checks->meetElement(parent.type, name);
+        checks->meetElement(open.top().type, name);
     }
     unknown.begin(position, scopes.around(open.count() + 1));
     unknown.startElement(name, attributes);
@@ -478,9 +493,9 @@ void DocumentHandler::endChildren(OpenElement& element)
 {
     keepText(element);
     checkRequired(element);
-    std::vector<MemberIndex> order = open.alternatingOrder();
-    if (!order.empty()) {
-        KeptContent::of(*element.object).setChildOrder(std::move(order));
+    const KeptContent* const kept = KeptContent::find(*element.object);
+    if (!element.isInOrder || (kept != nullptr && !kept->nodes().empty())) {
+        keepOrder(KeptContent::of(*element.object), *element.type, open.childOrder());
     }
     KeptContent::seal(*element.object);
 }
@@ -582,7 +597,7 @@ void DocumentHandler::keepMarkup(Kind kind, const char* what, std::string markup
     }
     log.add(what);
     keepText(element);
-    KeptContent::of(*element.object).addNode({element.lastChild, kind, std::move(markup), nullptr});
+    KeptContent::of(*element.object).addNode({open.behindLastChild(), kind, std::move(markup), nullptr});
 }
 
 /// Keeps the text in front of a child or an end tag, where it is not just the white space between elements.
@@ -598,7 +613,8 @@ void DocumentHandler::keepText(const OpenElement& element)
         }
         std::string xml;
         appendEscaped(text, xml);
-        KeptContent::of(*element.object).addNode({element.lastChild, Kind::Text, std::move(xml), nullptr});
+        KeptContent::of(*element.object)
+            .addNode({open.behindLastChild(), Kind::Text, std::move(xml), nullptr});
     }
     text.clear();
 }

@@ -67,7 +67,8 @@ public:
     /// Adds a child that was read apart, at the place that has been reached.
     ///
     /// \param begin where its findings' places are counted from
-    /// \return false where an identifier in it is in use; then nothing has happened
+    /// \return false where an identifier in it is in use, or a finding is to be told of its place in the root;
+    /// then nothing has happened
     bool addChild(RootChild& child, const XmlParser::Place& begin);
 
     /// The document, with what was found in it, once the parser has come to its end.
@@ -83,11 +84,13 @@ private:
     void startObject(xml_schema::type& object, const TypeIndex& type, NameId id,
                      const XmlAttributes& attributes);
     void startValue(const TypeIndex::FlatMember& member, NameId id, const XmlAttributes& attributes);
-    void startUnknown(const char* name, const MemberSlot* slot, const XmlAttributes& attributes);
+    void startUnknown(const char* name, const XmlAttributes& attributes);
 
     void addObject(const TypeIndex::FlatMember& member, std::unique_ptr<xml_schema::type> created);
     void endChildApart();
     void addFinding(Finding finding);
+    void noteOrder(const TypeIndex::FlatMember& member, NameId id);
+    void tellSurplus(NameId id);
     void addFault(const std::string& reason);
     void tellFaults(const std::string& path);
 

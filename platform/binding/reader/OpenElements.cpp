@@ -4,43 +4,36 @@
 #include "platform/binding/reader/NameResolver.h"
 #include "platform/binding/reader/Shortened.h"
 
-#include <algorithm>
-
 namespace citygml {
 namespace binding {
 
 void OpenElements::close()
 {
-    alternating.resize(elements.back().firstAlternating);
+    children.resize(elements.back().firstChild);
     elements.pop_back();
 }
 
-void OpenElements::beginChild(const TypeIndex::FlatMember& member)
+void OpenElements::beginChild(const TypeIndex::FlatMember& member, NameId name)
 {
-    using Position = KeptContent::Position;
     OpenElement& parent = elements.back().element;
     parent.met |= member.requiredBit;
-    if (member.group != 0) {
-        alternating.push_back(member.index);
-    }
-    if (member.groupBegin == parent.lastChild.member()) {
-        parent.lastChild = Position::behind(member.groupBegin, parent.lastChild.count() + 1);
-    } else if (member.groupBegin > parent.lastChild.member()) {
-        parent.lastChild = Position::behind(member.groupBegin, 1);
-    } else {
-        // A child that comes late is counted without those that are nil; what is kept behind it may move
-        // among them.
-        const std::size_t before = member.group != 0 ? alternating.size() - elements.back().firstAlternating
-                                                     : member.declaration->ops->count(*parent.object) + 1;
-        parent.lastChild = Position::behind(member.groupBegin, before);
-    }
+    parent.isInOrder = parent.isInOrder && member.index >= parent.lastMember;
+    parent.lastMember = member.index;
+    parent.lastName = name;
+    children.push_back(member.index);
 }
 
-std::vector<MemberIndex> OpenElements::alternatingOrder() const
+bool OpenElements::isLate(const TypeIndex::FlatMember& member) const
 {
-    const auto first = alternating.begin() + static_cast<std::ptrdiff_t>(elements.back().firstAlternating);
-    return std::is_sorted(first, alternating.end()) ? std::vector<MemberIndex>()
-                                                    : std::vector<MemberIndex>(first, alternating.end());
+    const OpenElement& parent = elements.back().element;
+    return member.index < parent.lastMember &&
+           member.groupBegin != parent.type->members()[parent.lastMember].groupBegin;
+}
+
+std::vector<MemberIndex> OpenElements::childOrder() const
+{
+    const auto first = children.begin() + static_cast<std::ptrdiff_t>(elements.back().firstChild);
+    return std::vector<MemberIndex>(first, children.end());
 }
 
 std::string OpenElements::path(const NameResolver& names) const

@@ -30,8 +30,11 @@ struct OpenElement
     const TypeIndex::FlatMember* member;
     /// Whether `xsi:nil` says so.
     bool isNil = false;
-    /// Where the last child stands, or the front.
-    KeptContent::Position lastChild = KeptContent::Position::inFront();
+    /// Whether no child so far comes late: each has the member of the one in front of it, or a later one.
+    bool isInOrder = true;
+    /// Of the last child; the first member where there is none.
+    MemberIndex lastMember = 0;
+    NameId lastName = 0;
     /// Bits of the required members that were met.
     std::uint64_t met = 0;
 };
@@ -45,13 +48,19 @@ public:
     /// The innermost. The reference holds until the next element opens.
     OpenElement& top() { return elements.back().element; }
 
-    void open(const OpenElement& element) { elements.push_back({element, alternating.size()}); }
+    void open(const OpenElement& element) { elements.push_back({element, children.size()}); }
     void close();
-    /// Notes that a child of the innermost element begins; to be told before the member takes it.
-    void beginChild(const TypeIndex::FlatMember& member);
-    /// Members of the innermost element's children that may alternate, in the order of the document; empty
-    /// where that is the order of the schema.
-    std::vector<MemberIndex> alternatingOrder() const;
+    /// Notes that a child of the innermost element begins.
+    void beginChild(const TypeIndex::FlatMember& member, NameId name);
+    /// Whether a child of the innermost element, that is about to begin, belongs in front of the last one.
+    bool isLate(const TypeIndex::FlatMember& member) const;
+    /// Behind the last child of the innermost element, or in front where there is none.
+    KeptContent::Position behindLastChild() const
+    {
+        return KeptContent::Position::behindChildren(children.size() - elements.back().firstChild);
+    }
+    /// Members of the innermost element's children, in the order of the document.
+    std::vector<MemberIndex> childOrder() const;
 
     /// For messages: the names, one behind the other; of a long path its two ends.
     std::string path(const NameResolver& names) const;
@@ -64,13 +73,13 @@ private:
     struct Entry
     {
         OpenElement element;
-        /// Where its children begin among those that may alternate.
-        std::size_t firstAlternating;
+        /// Where its children begin among those of all.
+        std::size_t firstChild;
     };
 
     std::vector<Entry> elements;
-    // Members of the children that may alternate, of all open elements.
-    std::vector<MemberIndex> alternating;
+    // Members of the children of all open elements.
+    std::vector<MemberIndex> children;
 };
 
 } // namespace binding

@@ -1,5 +1,6 @@
 #include "platform/binding/writer/ElementWriter.h"
 
+#include "platform/binding/kept/ChildOrder.h"
 #include "platform/binding/values/WhiteSpace.h"
 #include "platform/binding/xml/Namespaces.h"
 #include "platform/binding/xml/PrefixedName.h"
@@ -194,47 +195,31 @@ void ElementWriter::writeNodesInFrontOf(Content& content, const Position& child)
 
 void ElementWriter::writeChildren(Content& content)
 {
+    if (content.kept != nullptr && !content.kept->childOrder().empty()) {
+        writeInKeptOrder(content);
+        return;
+    }
     const auto& members = content.type.members();
-    for (std::size_t begin = 0; begin < content.type.elementCount();) {
-        std::size_t end = begin + 1;
-        while (end < content.type.elementCount() && members[end].groupBegin == begin) {
-            ++end;
+    std::size_t ofGroup = 0;
+    for (std::size_t i = 0; i < content.type.elementCount(); ++i) {
+        // Members that may alternate are counted together.
+        ofGroup = members[i].groupBegin == i ? 0 : ofGroup;
+        for (MemberCursor children = cursorOf(content, i); !children.atEnd();) {
+            writeChild(content, children, Position::behind(members[i].groupBegin, ++ofGroup));
         }
-        if (end == begin + 1) {
-            MemberCursor children = cursorOf(content, begin);
-            for (std::size_t child = 1; !children.atEnd(); ++child) {
-                writeChild(content, children, Position::behind(members[begin].index, child));
-            }
-        } else {
-            writeGroup(content, begin, end);
-        }
-        begin = end;
     }
 }
 
-/// Writes members that may alternate: in the order of the document as far as that is known.
-void ElementWriter::writeGroup(Content& content, std::size_t begin, std::size_t end)
+void ElementWriter::writeInKeptOrder(Content& content)
 {
     std::vector<MemberCursor> cursors;
-    cursors.reserve(end - begin);
-    for (std::size_t i = begin; i < end; ++i) {
+    std::vector<std::size_t> counts;
+    for (std::size_t i = 0; i < content.type.elementCount(); ++i) {
         cursors.push_back(cursorOf(content, i));
+        counts.push_back(cursors.back().countOfRest());
     }
-    std::size_t child = 0;
-    const auto writeNext = [&](MemberCursor& children) {
-        writeChild(content, children, Position::behind(static_cast<MemberIndex>(begin), ++child));
-    };
-    if (content.kept != nullptr) {
-        for (const MemberIndex member : content.kept->childOrder()) {
-            if (member >= begin && member < end && !cursors[member - begin].atEnd()) {
-                writeNext(cursors[member - begin]);
-            }
-        }
-    }
-    for (MemberCursor& children : cursors) {
-        while (!children.atEnd()) {
-            writeNext(children);
-        }
+    for (const ChildStep& step : childSteps(*content.kept, content.type, std::move(counts))) {
+        writeChild(content, cursors[step.member], step.position);
     }
 }
 

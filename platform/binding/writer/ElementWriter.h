@@ -65,7 +65,7 @@ private:
     void beginItem(Content& content);
     void writeNodesInFrontOf(Content& content, const KeptContent::Position& child);
     void writeChildren(Content& content);
-    void writeGroup(Content& content, std::size_t begin, std::size_t end);
+    void writeInKeptOrder(Content& content);
     MemberCursor cursorOf(const Content& content, std::size_t member) const;
     void writeChild(Content& content, MemberCursor& children, const KeptContent::Position& position);
     void writeValue(const Content& content, const TypeIndex::FlatMember& member,

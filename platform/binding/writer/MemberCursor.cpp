@@ -33,5 +33,15 @@ MemberCursor::Child MemberCursor::take()
     return child;
 }
 
+std::size_t MemberCursor::countOfRest() const
+{
+    MemberCursor rest(*this);
+    std::size_t result = 0;
+    for (; !rest.atEnd(); rest.take()) {
+        ++result;
+    }
+    return result;
+}
+
 } // namespace binding
 } // namespace citygml

@@ -35,6 +35,8 @@ public:
     const TypeIndex::FlatMember& member() const { return *ofMember; }
     bool atEnd() const { return value == count && !isAbsent(); }
     Child take();
+    /// Number of children up to the end.
+    std::size_t countOfRest() const;
 
 private:
     void findKept(const KeptContent& content);
