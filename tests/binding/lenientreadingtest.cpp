@@ -368,7 +368,7 @@ private slots:
     {
         forEachRead([](const Document& document, core::CityModelType& model, Complaints& complaints) {
             const bool isTold =
-                document.isRefused || document.kind == Kind::OutOfOrder || document.kind == Kind::OneTooMany;
+                document.isRefused || document.kind == Kind::OutOfOrder || isSeenSurplus(document, model);
             if (!isTold) {
                 if (!citygml::findingsOf(model).empty()) {
                     complaints.add(document, "has findings");
