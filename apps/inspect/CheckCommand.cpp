@@ -1,12 +1,14 @@
 #include "CheckCommand.h"
 
+#include "apps/common/OpenDocument.h"
 #include "citygml/DocumentCheck.h"
 #include "DocumentFiles.h"
 #include "FindingLines.h"
-#include "OpenDocument.h"
+#include "LoadDocument.h"
 
 #include <istream>
 #include <ostream>
+#include <QString>
 
 namespace tolvik::inspect {
 
@@ -14,8 +16,10 @@ int runCheck(const DocumentFiles& files, bool json, std::ostream& out, std::ostr
 {
     int code = files.areComplete() ? 0 : 1;
     for (const QString& file : files.paths()) {
-        const std::unique_ptr<std::istream> stream = openDocument(file, err);
+        QString reason;
+        const std::unique_ptr<std::istream> stream = apps::openDocument(file, reason);
         if (stream == nullptr) {
+            tellNotLoaded(file, reason, err);
             code = 1;
             continue;
         }

@@ -10,12 +10,14 @@ class CityGMLModel;
 
 namespace tolvik::inspect {
 
-/// Loads a document into a model that has none yet.
+/// Loads a document into a model.
 /// \param model the model to load into
 /// \param file path of the document; `-` reads standard input
-/// \param err takes one line that says what could not be loaded; the reason that the parser gives is in the
-/// log
+/// \param err takes one line that says what could not be loaded, and why
 /// \return whether the model has the document
 bool loadDocument(CityGMLModel& model, const QString& file, std::ostream& err);
+
+/// Says in one line that a document could not be loaded.
+void tellNotLoaded(const QString& file, const QString& reason, std::ostream& err);
 
 } // namespace tolvik::inspect

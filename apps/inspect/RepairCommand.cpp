@@ -1,8 +1,10 @@
 #include "RepairCommand.h"
 
+#include "apps/common/DocumentReading.h"
+#include "apps/common/OpenDocument.h"
 #include "citygml/DocumentRepair.h"
 #include "FindingLines.h"
-#include "OpenDocument.h"
+#include "LoadDocument.h"
 #include "SaveDocument.h"
 #include "UI/Models/CityGMLModel/CityGMLModel.h"
 
@@ -30,15 +32,17 @@ bool areSame(const QString& file, const QString& output)
 std::unique_ptr<core::CityModelType> readRepaired(const QString& file, std::vector<citygml::Finding>& done,
                                                   std::ostream& err)
 {
-    const std::unique_ptr<std::istream> stream = openSeekableDocument(file, err);
+    QString reason;
+    const std::unique_ptr<std::istream> stream = apps::openSeekableDocument(file, reason);
     if (stream == nullptr) {
+        tellNotLoaded(file, reason, err);
         return nullptr;
     }
     try {
         return citygml::repairDocument(*stream,
                                        [&](const citygml::Finding& repair) { done.push_back(repair); });
     } catch (const xsd::cxx::tree::exception<char>& error) {
-        err << "tolvik-inspect: " << file.toStdString() << " could not be loaded: " << error << '\n';
+        tellNotLoaded(file, apps::textOf(error), err);
         return nullptr;
     }
 }
