@@ -7,7 +7,9 @@
 
 #include <algorithm>
 #include <log4cplus/ndc.h>
+#include <memory>
 #include <ostream>
+#include <utility>
 
 namespace tolvik::inspect {
 namespace {
@@ -26,6 +28,13 @@ int printNamed(CityGMLModel& model, const QString& file, const Listing& listing,
     return code;
 }
 
+/// At the end of the program the system frees faster than the program could.
+void leaveToSystem(std::unique_ptr<CityGMLModel> model)
+{
+    static auto& left = *new std::unique_ptr<CityGMLModel>;
+    left = std::move(model);
+}
+
 } // namespace
 
 int printEach(const DocumentFiles& files, const Listing& listing, std::ostream& out, std::ostream& err)
@@ -33,11 +42,12 @@ int printEach(const DocumentFiles& files, const Listing& listing, std::ostream& 
     const bool isArray = listing.json && files.areSeveral();
     int code = files.areComplete() ? 0 : 1;
     const char* separator = "[\n";
+    std::unique_ptr<CityGMLModel> model;
     for (const QString& file : files.paths()) {
         // What the log says of one of several documents tells of which.
         const log4cplus::NDCContextCreator context(files.areSeveral() ? file.toStdString() + ": " : "");
-        CityGMLModel model(nullptr, nullptr);
-        if (!loadDocument(model, file, err)) {
+        model = std::make_unique<CityGMLModel>(nullptr, nullptr);
+        if (!loadDocument(*model, file, err)) {
             code = 1;
             continue;
         }
@@ -46,9 +56,10 @@ int printEach(const DocumentFiles& files, const Listing& listing, std::ostream& 
             separator = ",\n";
         }
         const int ofDocument =
-            files.areSeveral() ? printNamed(model, file, listing, out) : listing.print(model, file);
+            files.areSeveral() ? printNamed(*model, file, listing, out) : listing.print(*model, file);
         code = std::max(code, ofDocument);
     }
+    leaveToSystem(std::move(model));
     if (isArray) {
         out << (separator[0] == '[' ? "[]\n" : "\n]\n");
     }

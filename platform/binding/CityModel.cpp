@@ -1,7 +1,12 @@
 #include "citygml/CityModel.h"
 
+#include "citygml/ReadingThreads.h"
 #include "platform/binding/reader/DocumentReader.h"
 #include "platform/binding/writer/DocumentWriter.h"
+
+#include <future>
+#include <mutex>
+#include <system_error>
 
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 
@@ -26,6 +31,23 @@ void CityModel(std::ostream& stream, const CityModelType& model,
         throw xsd::cxx::tree::serialization<char>(diagnostics);
     }
     citygml::binding::writeDocument(stream, model, map);
+}
+
+void freeCityModel(std::auto_ptr<CityModelType> document)
+{
+    static std::mutex mutex;
+    static std::future<void> freeing;
+    std::unique_ptr<CityModelType> toFree(document.release());
+    if (toFree == nullptr || citygml::readingThreads() == 1) {
+        return;
+    }
+    const std::lock_guard<std::mutex> lock(mutex);
+    try {
+        freeing = std::async(std::launch::async, [document = toFree.get()] { delete document; });
+        toFree.release();
+    } catch (const std::system_error&) {
+        // There is no thread to be had: the caller frees it.
+    }
 }
 
 } // namespace core

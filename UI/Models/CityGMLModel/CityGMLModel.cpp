@@ -173,8 +173,8 @@ void CityGMLModel::load(std::istream& stream)
     beginResetModel();
     clearModel();
     try {
-        cityModel =
-            core::CityModel(stream, xsd::cxx::tree::flags::dont_validate, xsd::cxx::tree::properties<char>());
+        setDocument(
+            core::CityModel(stream, xsd::cxx::tree::flags::dont_validate, xsd::cxx::tree::properties<char>()));
     } catch (const SchemaError& error) {
         logError(logger, error, __LINE__);
     }
@@ -203,9 +203,17 @@ void CityGMLModel::load(std::auto_ptr<core::CityModelType> document)
 {
     beginResetModel();
     clearModel();
-    cityModel = document;
+    setDocument(document);
     doDataSetChanged();
     endResetModel();
+}
+
+/// Takes a document in place of the former one, which no row speaks of any more.
+void CityGMLModel::setDocument(std::auto_ptr<core::CityModelType> document)
+{
+    std::auto_ptr<core::CityModelType> former(cityModel);
+    cityModel = document;
+    core::freeCityModel(former);
 }
 
 bool CityGMLModel::save(bool flag)

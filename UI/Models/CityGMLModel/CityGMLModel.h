@@ -229,6 +229,7 @@ protected:
     void reallyDoShow(const QList<QModelIndex>& indexes) override;
     void showAlls(bool visible);
 
+    void setDocument(std::auto_ptr<core::CityModelType> document);
     bool doSave(const QString& path, bool flag);
 
     /// Takes all rows away. Sends no signal.
