@@ -70,9 +70,9 @@ void printText(CoreProperty& property, const std::string& indent, std::ostream& 
     }
     if (value.isValid()) {
         out << ' ' << valueText(value).toStdString();
-    }
-    if (property.unit() != nullptr) {
-        out << ' ' << property.unit()->name().toStdString();
+        if (property.unit() != nullptr) {
+            out << ' ' << property.unit()->name().toStdString();
+        }
     }
     out << '\n';
     for (const auto& child : property.properties()) {

@@ -156,6 +156,27 @@ private slots:
                                                         "      isLandmarked: true\n"));
     }
 
+    /// Neither a value nor its unit is shown, and an edit puts both right.
+    void whatHasNoValue()
+    {
+        QFile file(path("lacking.gml"));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("<core:CityModel xmlns:core='http://www.opengis.net/citygml/2.0' "
+                   "xmlns:gml='http://www.opengis.net/gml' "
+                   "xmlns:bldg='http://www.opengis.net/citygml/building/2.0' "
+                   "xmlns:gen='http://www.opengis.net/citygml/generics/2.0'>"
+                   "<core:cityObjectMember><bldg:Building gml:id='b'><gen:intAttribute name='n'/>"
+                   "<bldg:measuredHeight uom='m'>high</bldg:measuredHeight>"
+                   "</bldg:Building></core:cityObjectMember></core:CityModel>");
+        file.close();
+        const ProcessResult result = inspect({"properties", path("lacking.gml"), "--row", "1"});
+        QVERIFY2(result.out.contains("    MeasuredHeight:\n    n:\n"), result.out);
+        QCOMPARE(inspect({"set", path("lacking.gml"), "--id", "b", "Fields/n", "0", path("out.gml")}).code,
+                 0);
+        const ProcessResult edited = inspect({"properties", path("out.gml"), "--row", "1"});
+        QVERIFY2(edited.out.contains("    MeasuredHeight:\n    n: 0\n"), edited.out);
+    }
+
     /// JSON has no such numbers.
     void numbersBeyondJson()
     {
