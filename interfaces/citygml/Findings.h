@@ -49,8 +49,14 @@ struct FindingGroup
 /// \return nothing for a document without a finding, and for one that a program made.
 TOLVIK_BINDING_EXPORT const std::vector<FindingGroup>& findingsOf(const core::CityModelType& document);
 
-/// Whether the document's text of an object was no value of its type, so that the object has none. A save
-/// writes that text until the object gets a value.
+/// Whether an object has no value: the document's text of it was no value of its type, or the document lacked
+/// it and a required member has it only so that it is not empty. A save writes that text, or leaves the
+/// object out, until the object gets a value.
 TOLVIK_BINDING_EXPORT bool isSetAside(const xml_schema::type& object);
+
+/// Says that an object has been given a value, so that it is no longer set aside. An assignment says so by
+/// itself, except to an object whose class is a string; that counts by itself if the value differs from that
+/// of a new object.
+TOLVIK_BINDING_EXPORT void setGiven(xml_schema::type& object);
 
 } // namespace citygml

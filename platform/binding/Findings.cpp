@@ -2,22 +2,10 @@
 
 #include "core/CityModelType.hxx"
 #include "platform/binding/kept/KeptContent.h"
+#include "platform/binding/kept/UnsetValues.h"
 #include "platform/binding/SchemaIndex.h"
-#include "platform/binding/writer/ValueWriter.h"
 
 namespace citygml {
-
-namespace {
-
-/// For texts that are compared, not written.
-class NoPrefixes : public binding::NameScope
-{
-public:
-    std::string namespaceOf(std::string_view) const override { return std::string(); }
-    std::string prefixOf(const std::string&) const override { return std::string(); }
-};
-
-} // namespace
 
 const std::vector<FindingGroup>& findingsOf(const core::CityModelType& document)
 {
@@ -29,11 +17,17 @@ const std::vector<FindingGroup>& findingsOf(const core::CityModelType& document)
 bool isSetAside(const xml_schema::type& object)
 {
     const binding::KeptContent* const kept = binding::KeptContent::find(object);
-    if (kept == nullptr || kept->wrongValueOf(std::nullopt) == nullptr) {
+    const bool isWrong = kept != nullptr && kept->wrongValueOf(std::nullopt) != nullptr;
+    if (!isWrong && !binding::KeptContent::isMissing(object)) {
         return false;
     }
-    const NoPrefixes scope;
-    return binding::ValueWriter(scope).isUnset(object, binding::SchemaIndex::instance().typeOf(object));
+    const binding::TypeIndex& type = binding::SchemaIndex::instance().typeOf(object);
+    return type.hasText() ? binding::isUnset(object, type) : binding::isLeftOut(object);
+}
+
+void setGiven(xml_schema::type& object)
+{
+    binding::KeptContent::setGiven(object);
 }
 
 } // namespace citygml

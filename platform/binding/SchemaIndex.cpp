@@ -1,5 +1,6 @@
 #include "platform/binding/SchemaIndex.h"
 
+#include "platform/binding/kept/KeptContent.h"
 #include "platform/binding/values/TextValues.h"
 
 #include <algorithm>
@@ -162,6 +163,9 @@ void SchemaIndex::numberMembers(TypeIndex& type)
         member.requiredBit = member.declaration->isRequired ? bit<std::uint64_t>(required++) : 0;
         member.defaultBit = member.declaration->defaultText != nullptr ? bit<std::uint16_t>(defaults++) : 0;
         type.required |= member.requiredBit;
+    }
+    if (defaults > KeptContent::mostDefaults || type.elements > KeptContent::mostElements) {
+        throw std::length_error("too many members of a schema type");
     }
 }
 

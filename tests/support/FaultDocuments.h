@@ -110,6 +110,34 @@ public:
         }
     }
 
+    /// Calls \a use with a document for each required element and each required attribute, that lacks it.
+    void generateMissing(const std::function<void(const Document&)>& use) const
+    {
+        QSet<QString> met;
+        const auto isNew = [&met](const Name& type, const Name& member) {
+            const QString key = QStringList{type.uri, type.local, member.uri, member.local}.join(' ');
+            const bool isKnown = met.contains(key);
+            met.insert(key);
+            return !isKnown;
+        };
+        for (const Name& type : instances.reachableTypes()) {
+            for (const Leaf& leaf : instances.leaves(type)) {
+                Base base;
+                const bool isToMiss = leaf.isRequired && !leaf.isRepeated &&
+                                      instances.cost(*leaf.particle) != unbounded &&
+                                      isNew(leaf.declaring->name, leaf.particle->element);
+                if (isToMiss && makeBase(type, leaf, {}, base)) {
+                    makeMissing(base, use);
+                }
+            }
+            for (const Attribute& attribute : schemas.attributesOf(type)) {
+                if (attribute.isRequired && hasFaults(attribute) && isNew(type, attribute.name)) {
+                    makeMissingAttribute(makeBase(type, attribute), use);
+                }
+            }
+        }
+    }
+
 private:
     using Use = std::function<void(const Document&)>;
 
@@ -245,21 +273,36 @@ private:
 
     void generateAttribute(const Name& type, const Attribute& attribute, Selection& selection) const
     {
-        if (!attribute.preset.isEmpty() || attribute.name == idAttribute) {
+        if (!hasFaults(attribute)) {
             return;
         }
+        const Place place = placeOf(type, attribute);
+        if (takes(selection, place, type.uri)) {
+            makeAttributeFaults(makeBase(type, attribute), selection.use);
+        }
+    }
+
+    static bool hasFaults(const Attribute& attribute)
+    {
+        return attribute.preset.isEmpty() && attribute.name != idAttribute;
+    }
+
+    Place placeOf(const Name& type, const Attribute& attribute) const
+    {
+        return {type,
+                true,
+                attribute.name,
+                attribute.isRequired ? "required" : "optional",
+                areaOf(attribute.name.uri.isEmpty() ? type.uri : attribute.name.uri),
+                QString(),
+                schemas.valueOf(attribute.type),
+                false};
+    }
+
+    Base makeBase(const Name& type, const Attribute& attribute) const
+    {
         Base base;
-        base.place = {type,
-                      true,
-                      attribute.name,
-                      attribute.isRequired ? "required" : "optional",
-                      areaOf(attribute.name.uri.isEmpty() ? type.uri : attribute.name.uri),
-                      QString(),
-                      schemas.valueOf(attribute.type),
-                      false};
-        if (!takes(selection, base.place, type.uri)) {
-            return;
-        }
+        base.place = placeOf(type, attribute);
         base.root = instances.document(type, nullptr, base.owner);
         base.target = base.owner;
         base.attribute = attribute;
@@ -268,7 +311,7 @@ private:
             owner.attributes.append({attribute.name, instances.sampleOf(attribute)});
         }
         instances.identify(base.root);
-        makeAttributeFaults(base, selection.use);
+        return base;
     }
 
     void makeAttributeFaults(const Base& base, const Use& use) const
@@ -280,12 +323,17 @@ private:
             use(document(Kind::WrongValue, base, faulty, begin(faulty.target)));
         }
         if (base.attribute.isRequired) {
-            Base faulty = base;
-            auto& attributes = at(faulty.root, faulty.target).attributes;
-            const auto isIt = [&](const auto& each) { return each.first == base.attribute.name; };
-            attributes.erase(std::find_if(attributes.begin(), attributes.end(), isIt));
-            use(document(Kind::Missing, base, faulty, end(faulty.target)));
+            makeMissingAttribute(base, use);
         }
+    }
+
+    void makeMissingAttribute(const Base& base, const Use& use) const
+    {
+        Base faulty = base;
+        auto& attributes = at(faulty.root, faulty.target).attributes;
+        const auto isIt = [&](const auto& each) { return each.first == base.attribute.name; };
+        attributes.erase(std::find_if(attributes.begin(), attributes.end(), isIt));
+        use(document(Kind::Missing, base, faulty, end(faulty.target)));
     }
 
     void makeFaults(const Base& base, const Use& use) const

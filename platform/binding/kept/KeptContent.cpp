@@ -76,13 +76,21 @@ KeptContent& KeptContent::of(xml_schema::type& object)
 
 void KeptContent::assign(xml_schema::type& target, const xml_schema::type& source)
 {
-    const bool isOfDocument = source.elementName != 0;
+    const bool isOfDocument = source.elementName != 0 || isMissing(source);
     if (isOfDocument) {
         target.elementName = source.elementName;
         target.spelledOut = source.spelledOut;
         target.kept = source.kept ? std::make_unique<KeptContent>(*source.kept) : nullptr;
-    } else if (target.kept) {
-        target.kept->forgetWrongText();
+    } else {
+        setGiven(target);
+    }
+}
+
+void KeptContent::setGiven(xml_schema::type& object)
+{
+    object.spelledOut = static_cast<std::uint16_t>(object.spelledOut & ~missingBit);
+    if (object.kept) {
+        object.kept->forgetFaults();
     }
 }
 
@@ -91,6 +99,14 @@ void KeptContent::addSpelling(std::optional<MemberIndex> member, std::string_vie
     Value value;
     value.member = member;
     value.spelling = text;
+    addValue(std::move(value));
+}
+
+void KeptContent::addMissing(MemberIndex member)
+{
+    Value value;
+    value.member = member;
+    value.isMissing = true;
     addValue(std::move(value));
 }
 
@@ -150,6 +166,12 @@ bool KeptContent::hasAbsentValue(MemberIndex member) const
                        [member](const Value& value) { return value.isAbsent && value.member == member; });
 }
 
+bool KeptContent::lacks(MemberIndex member) const
+{
+    const Values values = valuesOf(member);
+    return std::any_of(values.begin(), values.end(), [](const Value& value) { return value.isMissing; });
+}
+
 const KeptContent::Value* KeptContent::wrongValueOf(std::optional<MemberIndex> member) const
 {
     const Values values = valuesOf(member);
@@ -157,10 +179,26 @@ const KeptContent::Value* KeptContent::wrongValueOf(std::optional<MemberIndex> m
     return value != values.end() && value->isWrong ? value : nullptr;
 }
 
-void KeptContent::forgetWrongText()
+void KeptContent::forgetFaults()
 {
-    if (wrongValueOf(std::nullopt) != nullptr) {
-        keptValues.erase(keptValues.begin());
+    const auto isFault = [](const Value& value) {
+        return value.isMissing || (!value.member && value.isWrong);
+    };
+    keptValues.erase(std::remove_if(keptValues.begin(), keptValues.end(), isFault), keptValues.end());
+}
+
+bool KeptContent::hasStandIn(MemberIndex member) const
+{
+    return std::any_of(keptNodes.begin(), keptNodes.end(),
+                       [member](const Node& node) { return node.standsFor == member + 1; });
+}
+
+void KeptContent::releaseStandIns(MemberIndex member)
+{
+    for (Node& node : keptNodes) {
+        if (node.standsFor == member + 1) {
+            node.standsFor = 0;
+        }
     }
 }
 

@@ -53,6 +53,13 @@ public:
     /// Index of a member in TypeIndex::members().
     using MemberIndex = std::uint16_t;
 
+    /// Of how many attributes with default or fixed values of a type, and of how many members for elements,
+    /// kept content can tell.
+    /// @{
+    static constexpr std::size_t mostDefaults = 15;
+    static constexpr std::size_t mostElements = 255;
+    /// @}
+
     /// A place between the children of an object, or in its text.
     class Position
     {
@@ -130,9 +137,17 @@ public:
     /// A piece of content.
     struct Node
     {
-        // A document may have many nodes: the kind stands in the bytes that the position leaves.
+        Node(const Position& position, Kind kind, std::string xml, std::shared_ptr<const Scope> scope)
+            : position(position), kind(kind), xml(std::move(xml)), scope(std::move(scope))
+        {
+        }
+
+        // A document may have many nodes: kind and number stand in the bytes that the position leaves.
         [[no_unique_address]] Position position;
         Kind kind;
+        /// Of an element that stands in the place of a single member, and of which no object can be made: one
+        /// more than the member's index. The node goes when the member gets a value. 0 for any other.
+        std::uint8_t standsFor = 0;
         /// Markup as it is written, names and entities included.
         std::string xml;
         /// Of an element: what its prefixes mean.
@@ -153,6 +168,8 @@ public:
         /// Whether the document's text is no value of the type. What is in the member in its place, if
         /// anything, is a new value.
         bool isWrong = false;
+        /// Whether the document has neither text nor element for it, though the member requires a value.
+        bool isMissing = false;
         std::vector<Attribute> attributes;
         /// In the order of the text.
         std::vector<Node> nodes;
@@ -228,12 +245,22 @@ public:
     {
         object.spelledOut = static_cast<std::uint16_t>(object.spelledOut | attribute);
     }
+    /// Whether a required member has the object only so that it is not empty: the document has no such
+    /// element or attribute. A save leaves the object out as long as nothing has been set in it, see
+    /// isLeftOut().
+    static bool isMissing(const xml_schema::type& object) { return (object.spelledOut & missingBit) != 0; }
+    static void setMissing(xml_schema::type& object)
+    {
+        object.spelledOut = static_cast<std::uint16_t>(object.spelledOut | missingBit);
+    }
+    /// To be told where a program gives an object a value that may be the one it has.
+    static void setGiven(xml_schema::type& object);
     /// What an edit keeps, when it assigns one object to another.
     ///
-    /// An object that a document held brings all that the document said about it, in place of what was there.
-    /// An object that a program made says nothing about any document: the target keeps its element name, its
-    /// attributes, its nodes and its spellings, and only the members change. The writer then leaves out what
-    /// no longer fits, such as the spelling of another value.
+    /// An object that a document held brings all that the document said about it, in place of what was there;
+    /// so does one that the document lacked. An object that a program made says nothing about any document:
+    /// the target keeps its element name, its attributes, its nodes and its spellings, and only the members
+    /// change. The writer then leaves out what no longer fits, such as the spelling of another value.
     ///
     /// The run-time's classes of strings assign the characters alone, without a call of this. So an object
     /// that is a string keeps its own in either case.
@@ -244,6 +271,9 @@ public:
     void addValue(Value value) { keptValues.push_back(std::move(value)); }
     /// \param member an attribute; empty for the object's own text
     void addSpelling(std::optional<MemberIndex> member, std::string_view text);
+    /// Notes that the document lacks a member of a fundamental type. One that holds an object has an object
+    /// that isMissing() instead.
+    void addMissing(MemberIndex member);
     /// Sets the members of all children, in the order of the document. The positions of the nodes count
     /// these.
     void setChildOrder(std::vector<MemberIndex> members) { order = std::move(members); }
@@ -274,13 +304,20 @@ public:
     Values valuesOf(std::optional<MemberIndex> member) const;
     /// Whether a member has a value that is absent; before the content is sealed, too.
     bool hasAbsentValue(MemberIndex member) const;
+    /// Whether the document lacked a member of a fundamental type, of sealed content.
+    bool lacks(MemberIndex member) const;
     /// What is kept about an attribute or, with an empty member, about the object's own text, where the
     /// document's text is no value of the type.
     ///
     /// \return null where it is one.
     const Value* wrongValueOf(std::optional<MemberIndex> member) const;
-    /// Forgets the object's own text, where that is no value of the type.
-    void forgetWrongText();
+    /// Forgets the object's own text, where that is no value of the type, and which members the document
+    /// lacked.
+    void forgetFaults();
+    /// Whether an element stands for a member, see Node.
+    bool hasStandIn(MemberIndex member) const;
+    /// Lets the elements that stand for a member be content like any other.
+    void releaseStandIns(MemberIndex member);
     /// The document's text of an attribute or, with an empty member, of the object itself.
     ///
     /// \return empty where none is kept, and where it is wrong.
@@ -292,6 +329,9 @@ public:
     const Document* document() const { return ofDocument.get(); }
 
 private:
+    // Behind those of the attributes.
+    static constexpr std::uint16_t missingBit = 1u << mostDefaults;
+
     bool isEmpty() const;
 
     std::vector<Attribute> keptAttributes;

@@ -3,6 +3,7 @@
 #include "platform/binding/kept/ChildOrder.h"
 #include "platform/binding/reader/DocumentChecks.h"
 #include "platform/binding/reader/NamespaceScopes.h"
+#include "platform/binding/reader/RequiredMembers.h"
 #include "platform/binding/values/WhiteSpace.h"
 #include "platform/binding/xml/Namespaces.h"
 #include "platform/binding/xml/PrefixedName.h"
@@ -144,16 +145,20 @@ void DocumentHandler::startElement(const char* name, const XmlAttributes& attrib
         startRoot(name, id, attributes);
         return;
     }
+    std::uint8_t standsFor = 0;
     if (open.top().content == Content::Children) {
         keepText(open.top());
         const MemberSlot* const slot = index.slotOf(*open.top().type, id);
         if (slot != nullptr && isTaken(*open.top().object, *open.top().type, *slot)) {
-            tellSurplus(id);
-        } else if (slot != nullptr && startChild(*slot, id, attributes)) {
-            return;
+            tellSurplus(*slot, id, attributes);
+        } else if (slot != nullptr) {
+            if (startChild(*slot, id, attributes)) {
+                return;
+            }
+            standsFor = makeStandIn(*slot);
         }
     }
-    startUnknown(name, attributes);
+    startUnknown(name, attributes, standsFor);
 }
 
 void DocumentHandler::startRoot(const char* name, NameId id, const XmlAttributes& attributes)
@@ -198,7 +203,7 @@ bool DocumentHandler::startChild(const MemberSlot& slot, NameId id, const XmlAtt
         if (faults.empty()) {
             addFault("the element '" + names.textOf(id) + "' is abstract");
         }
-        tellFaults(open.wholePath(names) + '/' + names.textOf(id));
+        tellFaults(open.wholePath(names) + '/' + names.textOf(id), featureIdOf(slot.type, attributes));
         return false;
     }
     noteOrder(member, id);
@@ -285,57 +290,6 @@ const TypeIndex* DocumentHandler::typeNamed(const char* text, const MemberSlot& 
     return nullptr;
 }
 
-/// Notes it as a fault where a child begins that belongs in front of the last one. Both ways of reading take
-/// any order. Of a root's child that is read apart it is not known what stands in front of it.
-void DocumentHandler::noteOrder(const TypeIndex::FlatMember& member, NameId id)
-{
-    const bool isOfRootApart = isApart && open.count() == 1;
-    if (isLenient && !isOfRootApart && open.isLate(member)) {
-        addFault("the element '" + names.textOf(id) + "' belongs in front of '" +
-                 names.textOf(open.top().lastName) + "'");
-    }
-}
-
-/// Tells of an element whose member has as many as it can take. Both ways of reading keep it.
-void DocumentHandler::tellSurplus(NameId id)
-{
-    if (isLenient) {
-        addFault("the element '" + names.textOf(id) + "' is one too many");
-        tellFaults(open.wholePath(names) + '/' + names.textOf(id));
-    }
-}
-
-/// Notes that the element which is being read is not as the schema wants it.
-void DocumentHandler::addFault(const std::string& reason)
-{
-    if (!isLenient) {
-        throw DocumentError{reason};
-    }
-    faults.push_back(reason);
-}
-
-/// Makes findings of what was noted.
-void DocumentHandler::tellFaults(const std::string& path)
-{
-    const XmlParser::Place place = parser.place();
-    for (std::string& reason : faults) {
-        addFinding({place.line, place.column, path, std::move(reason), open.featureId()});
-    }
-    faults.clear();
-    isOtherType = false;
-}
-
-void DocumentHandler::addFinding(Finding finding)
-{
-    if (!isApart) {
-        findings.add(std::move(finding));
-    } else if (open.count() > 1) {
-        children.back().findings.push_back(std::move(finding));
-    } else {
-        throw DocumentError{finding.reason};
-    }
-}
-
 void DocumentHandler::startObject(xml_schema::type& object, const TypeIndex& type, NameId id,
                                   const XmlAttributes& attributes)
 {
@@ -376,7 +330,9 @@ void DocumentHandler::startValue(const TypeIndex::FlatMember& member, NameId id,
 }
 
 /// Begins the copy of an element that no member takes.
-void DocumentHandler::startUnknown(const char* name, const XmlAttributes& attributes)
+///
+/// \param standsFor see KeptContent::Node
+void DocumentHandler::startUnknown(const char* name, const XmlAttributes& attributes, std::uint8_t standsFor)
 {
     const bool isChild = open.top().content == Content::Children;
     const Position position = isChild ? open.behindLastChild() : Position::inText(text.size());
@@ -384,8 +340,21 @@ void DocumentHandler::startUnknown(const char* name, const XmlAttributes& attrib
     if (checks != nullptr) {
         checks->meetElement(open.top().type, name);
     }
-    unknown.begin(position, scopes.around(open.count() + 1));
+    unknown.begin(position, scopes.around(open.count() + 1), standsFor);
     unknown.startElement(name, attributes);
+}
+
+/// Notes that an element of which no object can be made takes the place of a member, if that is a single one.
+///
+/// \return see KeptContent::Node::standsFor
+std::uint8_t DocumentHandler::makeStandIn(const MemberSlot& slot)
+{
+    OpenElement& parent = open.top();
+    if (!parent.type->members()[slot.member].declaration->ops->single) {
+        return 0;
+    }
+    parent.hasStandIn = true;
+    return static_cast<std::uint8_t>(slot.member + 1);
 }
 
 void DocumentHandler::readAttribute(OpenElement& element, const XmlAttribute& attribute)
@@ -493,6 +462,9 @@ void DocumentHandler::endChildren(OpenElement& element)
 {
     keepText(element);
     checkRequired(element);
+    if (element.hasStandIn) {
+        releaseStandIns(*element.object, *element.type);
+    }
     const KeptContent* const kept = KeptContent::find(*element.object);
     if (!element.isInOrder || (kept != nullptr && !kept->nodes().empty())) {
         keepOrder(KeptContent::of(*element.object), *element.type, open.childOrder());
@@ -548,18 +520,16 @@ void DocumentHandler::readValue(const OpenElement& element)
     }
 }
 
-void DocumentHandler::checkRequired(const OpenElement& element) const
+void DocumentHandler::checkRequired(const OpenElement& element)
 {
-    if (element.isNil || (element.met & element.type->requiredBits()) == element.type->requiredBits()) {
+    if ((element.met & element.type->requiredBits()) == element.type->requiredBits()) {
         return;
     }
-    for (const TypeIndex::FlatMember& member : element.type->members()) {
-        if ((member.requiredBit & ~element.met) != 0) {
-            throw DocumentError{std::string("the required ") +
-                                (member.declaration->isAttribute ? "attribute" : "element") + " '" +
-                                names.textOf(member.name) + "' is missing"};
-        }
+    // What is nil may lack everything.
+    if (!element.isNil) {
+        tellMissing(element);
     }
+    fillRequired(*element.object, *element.type);
 }
 
 void DocumentHandler::characters(std::string_view characters)

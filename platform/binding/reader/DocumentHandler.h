@@ -12,6 +12,7 @@
 #include "platform/binding/reader/XmlParser.h"
 #include "platform/binding/SchemaIndex.h"
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -84,15 +85,18 @@ private:
     void startObject(xml_schema::type& object, const TypeIndex& type, NameId id,
                      const XmlAttributes& attributes);
     void startValue(const TypeIndex::FlatMember& member, NameId id, const XmlAttributes& attributes);
-    void startUnknown(const char* name, const XmlAttributes& attributes);
+    void startUnknown(const char* name, const XmlAttributes& attributes, std::uint8_t standsFor);
+    std::uint8_t makeStandIn(const MemberSlot& slot);
 
     void addObject(const TypeIndex::FlatMember& member, std::unique_ptr<xml_schema::type> created);
     void endChildApart();
     void addFinding(Finding finding);
     void noteOrder(const TypeIndex::FlatMember& member, NameId id);
-    void tellSurplus(NameId id);
+    void tellSurplus(const MemberSlot& slot, NameId id, const XmlAttributes& attributes);
     void addFault(const std::string& reason);
-    void tellFaults(const std::string& path);
+    void tellFaults(const std::string& path) { tellFaults(path, open.featureId()); }
+    void tellFaults(const std::string& path, const std::string& featureId);
+    std::string featureIdOf(const TypeIndex* type, const XmlAttributes& attributes);
 
     void readAttribute(OpenElement& element, const XmlAttribute& attribute);
     void keepAttribute(OpenElement& element, const XmlAttribute& attribute);
@@ -104,7 +108,8 @@ private:
     void endText(const OpenElement& element);
     void endValue(const OpenElement& element);
     void readValue(const OpenElement& element);
-    void checkRequired(const OpenElement& element) const;
+    void checkRequired(const OpenElement& element);
+    void tellMissing(const OpenElement& element);
 
     void keepText(const OpenElement& element);
     void keepMarkup(KeptContent::Kind kind, const char* what, std::string markup);

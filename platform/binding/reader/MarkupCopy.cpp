@@ -9,10 +9,12 @@
 namespace citygml {
 namespace binding {
 
-void MarkupCopy::begin(const KeptContent::Position& position, std::shared_ptr<const KeptContent::Scope> scope)
+void MarkupCopy::begin(const KeptContent::Position& position, std::shared_ptr<const KeptContent::Scope> scope,
+                       std::uint8_t standsFor)
 {
     copy.position = position;
     copy.scope = std::move(scope);
+    copy.standsFor = standsFor;
 }
 
 void MarkupCopy::startElement(const char* name, const XmlAttributes& attributes)

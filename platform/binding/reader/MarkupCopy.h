@@ -3,6 +3,7 @@
 #include "platform/binding/kept/KeptContent.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -27,7 +28,9 @@ public:
     ///
     /// \param position where the element stands in its parent
     /// \param scope what the prefixes mean around the element
-    void begin(const KeptContent::Position& position, std::shared_ptr<const KeptContent::Scope> scope);
+    /// \param standsFor see KeptContent::Node
+    void begin(const KeptContent::Position& position, std::shared_ptr<const KeptContent::Scope> scope,
+               std::uint8_t standsFor);
     void startElement(const char* name, const XmlAttributes& attributes);
     void endElement(const char* name);
     void addText(std::string_view text);

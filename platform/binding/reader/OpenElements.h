@@ -30,6 +30,8 @@ struct OpenElement
     const TypeIndex::FlatMember* member;
     /// Whether `xsi:nil` says so.
     bool isNil = false;
+    /// Whether an element that is kept as it stands takes the place of a member, see KeptContent::Node.
+    bool hasStandIn = false;
     /// Whether no child so far comes late: each has the member of the one in front of it, or a later one.
     bool isInOrder = true;
     /// Of the last child; the first member where there is none.

@@ -1,6 +1,7 @@
 #include "platform/binding/writer/ElementWriter.h"
 
 #include "platform/binding/kept/ChildOrder.h"
+#include "platform/binding/kept/UnsetValues.h"
 #include "platform/binding/values/WhiteSpace.h"
 #include "platform/binding/xml/Namespaces.h"
 #include "platform/binding/xml/PrefixedName.h"
@@ -15,6 +16,21 @@ using Position = KeptContent::Position;
 bool hasNilAttribute(const KeptContent* kept)
 {
     return kept != nullptr && kept->hasNilAttribute();
+}
+
+/// Whether a program has set no value in a required member that has none to write.
+bool isForgotten(const xml_schema::type& owner, const TypeIndex::FlatMember& member)
+{
+    return member.requiredBit != 0 && !wasMissing(owner, member) &&
+           !hasNilAttribute(KeptContent::find(owner));
+}
+
+/// Whether an element stood for a member that has a value now.
+bool isReplaced(const KeptContent::Node& node, const xml_schema::type& owner, const TypeIndex& type)
+{
+    // An assignment to an object of a base class brings nodes of members that this does not have.
+    return node.standsFor != 0 && node.standsFor <= type.elementCount() &&
+           writtenCount(owner, type.members()[node.standsFor - 1u]) != 0;
 }
 
 } // namespace
@@ -68,14 +84,14 @@ void ElementWriter::writeAttributes(const xml_schema::type& object, const TypeIn
 {
     for (std::size_t i = type.elementCount(); i < type.members().size(); ++i) {
         const TypeIndex::FlatMember& member = type.members()[i];
-        if (member.declaration->ops->count(object) == 0) {
+        if (writtenCount(object, member) == 0) {
             const KeptContent::Value* const wrong =
                 kept != nullptr ? kept->wrongValueOf(member.index) : nullptr;
             if (wrong != nullptr) {
                 text.clear();
                 values.formatAbsent(object, member, *wrong, text);
                 out.attribute(names.ofAttribute(member), text);
-            } else if (member.requiredBit != 0 && !hasNilAttribute(kept)) {
+            } else if (isForgotten(object, member)) {
                 const QualifiedName& name = index.name(member.name);
                 throw xsd::cxx::tree::expected_attribute<char>(name.name, name.uri);
             }
@@ -104,7 +120,7 @@ bool ElementWriter::writeKeptAttributes(const xml_schema::type& object, const Ty
 {
     bool tellsType = false;
     for (const KeptContent::Attribute& attribute : kept.attributes()) {
-        if (attribute.isNil() && type.hasText() && !values.isUnset(object, type)) {
+        if (attribute.isNil() && type.hasText() && !isUnset(object, type)) {
             // It has a value now.
             continue;
         }
@@ -127,8 +143,7 @@ bool ElementWriter::writeKeptAttributes(const xml_schema::type& object, const Ty
 bool ElementWriter::isUnsetNil(const xml_schema::type& object, const TypeIndex& type,
                                const KeptContent* kept) const
 {
-    return hasNilAttribute(kept) && kept->wrongValueOf(std::nullopt) == nullptr &&
-           values.isUnset(object, type);
+    return hasNilAttribute(kept) && kept->wrongValueOf(std::nullopt) == nullptr && isUnset(object, type);
 }
 
 void ElementWriter::writeText(const xml_schema::type& object, const TypeIndex& type, const std::string& name,
@@ -160,8 +175,7 @@ void ElementWriter::writeContent(const xml_schema::type& object, const TypeIndex
     Content content{object, type, kept, depth + 1, isIndented, KeptContent::NodeCursor(kept)};
     writeChildren(content);
     while (const KeptContent::Node* const node = content.nodes.take()) {
-        beginItem(content);
-        keptWriter.writeNode(*node);
+        writeNode(content, *node);
     }
     if (content.isEmpty) {
         out.endEmptyTag();
@@ -185,11 +199,18 @@ void ElementWriter::beginItem(Content& content)
     }
 }
 
+void ElementWriter::writeNode(Content& content, const KeptContent::Node& node)
+{
+    if (!isReplaced(node, content.object, content.type)) {
+        beginItem(content);
+        keptWriter.writeNode(node);
+    }
+}
+
 void ElementWriter::writeNodesInFrontOf(Content& content, const Position& child)
 {
     while (const KeptContent::Node* const node = content.nodes.takeInFrontOf(child)) {
-        beginItem(content);
-        keptWriter.writeNode(*node);
+        writeNode(content, *node);
     }
 }
 
@@ -228,7 +249,7 @@ MemberCursor ElementWriter::cursorOf(const Content& content, std::size_t member)
 {
     const TypeIndex::FlatMember& flat = content.type.members()[member];
     const MemberCursor children(content.object, flat, content.kept);
-    if (children.atEnd() && flat.requiredBit != 0 && !hasNilAttribute(content.kept)) {
+    if (children.atEnd() && isForgotten(content.object, flat)) {
         const QualifiedName& name = index.name(flat.name);
         throw xsd::cxx::tree::expected_element<char>(name.name, name.uri);
     }

@@ -63,6 +63,7 @@ private:
     void writeContent(const xml_schema::type& object, const TypeIndex& type, const std::string& name,
                       const KeptContent* kept, int depth);
     void beginItem(Content& content);
+    void writeNode(Content& content, const KeptContent::Node& node);
     void writeNodesInFrontOf(Content& content, const KeptContent::Position& child);
     void writeChildren(Content& content);
     void writeInKeptOrder(Content& content);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/binding/kept/KeptContent.h"
+#include "platform/binding/kept/UnsetValues.h"
 #include "platform/binding/SchemaIndex.h"
 
 #include <cstddef>
@@ -24,7 +25,7 @@ public:
 
     /// \param kept of the owner; may be null
     MemberCursor(const xml_schema::type& owner, const TypeIndex::FlatMember& member, const KeptContent* kept)
-        : ofMember(&member), count(member.declaration->ops->count(owner))
+        : ofMember(&member), count(writtenCount(owner, member))
     {
         // Of most objects nothing is kept, and most of their members are empty: the way there is short.
         if (kept != nullptr) {

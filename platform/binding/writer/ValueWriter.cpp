@@ -1,5 +1,6 @@
 #include "platform/binding/writer/ValueWriter.h"
 
+#include "platform/binding/kept/UnsetValues.h"
 #include "platform/binding/values/Literals.h"
 
 #include <memory>
@@ -17,9 +18,14 @@ void respellBoolean(std::string_view spelling, std::string& text)
     }
 }
 
-bool isUnsetNumber(std::string_view text)
+/// Whether an attribute of that text has the value that a new owner or a new value has.
+bool isUnsetAttribute(const xml_schema::type& owner, const TypeIndex::FlatMember& member,
+                      std::string_view text)
 {
-    return text == "0" || text == "false";
+    if (member.declaration->defaultText != nullptr) {
+        return text == member.declaration->defaultText;
+    }
+    return member.type != nullptr && isUnset(member.declaration->ops->at(owner, 0), *member.type);
 }
 
 } // namespace
@@ -30,6 +36,10 @@ void ValueWriter::formatText(const xml_schema::type& object, const TypeIndex& ty
     const KeptContent::Value* const wrong = kept != nullptr ? kept->wrongValueOf(std::nullopt) : nullptr;
     if (wrong != nullptr && isUnset(object, type)) {
         text += wrong->spelling;
+        return;
+    }
+    if (KeptContent::isMissing(object) && isUnset(object, type)) {
+        // Only attributes of it have been set.
         return;
     }
     const bool isSpelled = kept != nullptr && (type.hasSpellings() || type.record()->literals != nullptr);
@@ -48,7 +58,7 @@ void ValueWriter::formatAttribute(const xml_schema::type& owner, const TypeIndex
         respellBoolean(spelling, text);
     }
     const KeptContent::Value* const wrong = kept != nullptr ? kept->wrongValueOf(member.index) : nullptr;
-    if (wrong != nullptr && isUnset(owner, member, text)) {
+    if (wrong != nullptr && isUnsetAttribute(owner, member, text)) {
         text = wrong->spelling;
     }
 }
@@ -75,25 +85,6 @@ void ValueWriter::formatAbsent(const xml_schema::type& owner, const TypeIndex::F
         text.resize(begin);
     }
     text += kept.spelling;
-}
-
-bool ValueWriter::isUnset(const xml_schema::type& object, const TypeIndex& type) const
-{
-    const std::unique_ptr<xml_schema::type> fresh(type.record()->create());
-    std::string text, unset;
-    type.record()->text->format(object, text, scope);
-    type.record()->text->format(*fresh, unset, scope);
-    return text == unset;
-}
-
-/// Whether an attribute of that text has the value that a new owner or a new value has.
-bool ValueWriter::isUnset(const xml_schema::type& owner, const TypeIndex::FlatMember& member,
-                          std::string_view text) const
-{
-    if (member.declaration->defaultText != nullptr) {
-        return text == member.declaration->defaultText;
-    }
-    return member.type != nullptr && isUnset(member.declaration->ops->at(owner, 0), *member.type);
 }
 
 /// \param spelling the document's text of the object; empty where none is kept

@@ -42,12 +42,7 @@ public:
     void formatAbsent(const xml_schema::type& owner, const TypeIndex::FlatMember& member,
                       const KeptContent::Value& kept, std::string& text) const;
 
-    /// Whether an object with text has the value of a new one.
-    bool isUnset(const xml_schema::type& object, const TypeIndex& type) const;
-
 private:
-    bool isUnset(const xml_schema::type& owner, const TypeIndex::FlatMember& member,
-                 std::string_view text) const;
     void formatObject(const xml_schema::type& object, const TypeIndex& type, std::string_view spelling,
                       std::string& text) const;
 

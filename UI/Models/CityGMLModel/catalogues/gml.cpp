@@ -1,3 +1,4 @@
+#include "citygml/Findings.h"
 #include "gml/AbstractFeatureType.hxx"
 #include "gml/BoundingShapeType.hxx"
 #include "gml/EnvelopeType.hxx"
@@ -42,7 +43,7 @@ ROWS(gml, PointType, CURRENT) {
 }
 
 ROWS(gml, TimeIntervalLengthType, CURRENT) {
-    readOnly(QStringLiteral("timeIntervalLength"), static_cast<double>(object));
+    readOnly(QStringLiteral("timeIntervalLength"), citygml::isSetAside(object) ? QVariant() : QVariant(static_cast<double>(object)));
     ATTR("unit", unit, gml::TimeUnitType);
     ATTR("radix", radix, optional<unsigned long long>);
     ATTR("factor", factor, optional<long long>);
@@ -55,7 +56,7 @@ ROWS(gml, TimePeriodType, CURRENT) {
 }
 
 ROWS(gml, TimePositionType, CURRENT) {
-    readOnly(QStringLiteral("timePosition"), QString::fromStdString(object));
+    readOnly(QStringLiteral("timePosition"), citygml::isSetAside(object) ? QVariant() : QVariant(QString::fromStdString(object)));
     ATTR("calendarEraName", calendarEraName, optional<string>);
     ATTR("frame", frame, uri);
     ATTR("intermediatePosition", indeterminatePosition, optional<gml::TimeIndeterminateValueType>);

@@ -30,6 +30,8 @@ public:
     ~GmlAttributeProperty() override;
 
     /// The attribute's value as it stands in the document. An absent one is invalid, or an empty list.
+    /// Invalid are also a required one that the document lacks and one whose text there is no value of its
+    /// type.
     QVariant value() override;
 
     /// Writes the value into the document; an absent attribute comes into being. What does not fit becomes

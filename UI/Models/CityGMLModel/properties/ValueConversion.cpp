@@ -182,7 +182,7 @@ struct Conversion<optional<uri>>
 template <>
 struct Conversion<gml::UnitOfMeasureType>
 {
-    static QVariant show(const gml::UnitOfMeasureType& value) { return textVariant(value.uom()); }
+    static QVariant show(const gml::UnitOfMeasureType& value) { return shown(value.uom()); }
     static gml::UnitOfMeasureType read(const QVariant& value, const uri&)
     {
         return gml::UnitOfMeasureType(uri(text(value)));

@@ -82,6 +82,9 @@ template <typename T>
 void assignQVariant(T& target, const QVariant& value, const xml_schema::uri& uom)
 {
     target = Conversion<T>::read(value, uom);
+    if constexpr (std::is_base_of_v<xml_schema::type, T>) {
+        citygml::setGiven(target);
+    }
 }
 
 } // namespace tolvik

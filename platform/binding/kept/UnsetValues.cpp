@@ -1,0 +1,106 @@
+#include "platform/binding/kept/UnsetValues.h"
+
+#include "platform/binding/kept/KeptContent.h"
+
+#include <algorithm>
+#include <memory>
+#include <string>
+
+namespace citygml {
+namespace binding {
+
+namespace {
+
+/// For texts that are compared, not written: names of different namespaces differ.
+class WholeNames : public NameScope
+{
+public:
+    std::string namespaceOf(std::string_view) const override { return std::string(); }
+    std::string prefixOf(const std::string& uri) const override { return uri; }
+};
+
+std::string textOf(const xml_schema::type& object, const TextOps& ops)
+{
+    std::string text;
+    ops.format(object, text, WholeNames());
+    return text;
+}
+
+/// The text of the only value of a member.
+std::string textOf(const xml_schema::type& owner, const TypeIndex::FlatMember& member)
+{
+    const MemberOps& ops = *member.declaration->ops;
+    if (member.type != nullptr) {
+        return textOf(ops.at(owner, 0), *member.type->record()->text);
+    }
+    std::string text;
+    ops.format(owner, 0, text);
+    return text;
+}
+
+/// Whether a number was written through a reference to it, which leaves its member empty.
+bool isSetInPlace(const xml_schema::type& owner, const TypeIndex::FlatMember& member)
+{
+    return !isUnsetNumber(textOf(owner, member));
+}
+
+/// Whether a member of a new object is as it was.
+bool isAsNew(const xml_schema::type& owner, const TypeIndex::FlatMember& member)
+{
+    const MemberOps& ops = *member.declaration->ops;
+    if (ops.count(owner) == 0) {
+        return member.type != nullptr || member.requiredBit == 0 || !isSetInPlace(owner, member);
+    }
+    if (member.declaration->defaultText != nullptr) {
+        return textOf(owner, member) == member.declaration->defaultText;
+    }
+    return ops.single && member.type != nullptr && isLeftOut(ops.at(owner, 0));
+}
+
+} // namespace
+
+bool isUnset(const xml_schema::type& object, const TypeIndex& type)
+{
+    const TypeRecord& record = *type.record();
+    const std::unique_ptr<xml_schema::type> fresh(record.create());
+    return textOf(object, *record.text) == textOf(*fresh, *record.text);
+}
+
+bool isUnsetNumber(std::string_view text)
+{
+    return text == "0" || text == "false";
+}
+
+bool isLeftOut(const xml_schema::type& object)
+{
+    if (!KeptContent::isMissing(object) || KeptContent::find(object) != nullptr) {
+        return false;
+    }
+    const TypeIndex& type = SchemaIndex::instance().typeOf(object);
+    return (!type.hasText() || isUnset(object, type)) &&
+           std::all_of(type.members().begin(), type.members().end(),
+                       [&](const TypeIndex::FlatMember& member) { return isAsNew(object, member); });
+}
+
+bool wasMissing(const xml_schema::type& owner, const TypeIndex::FlatMember& member)
+{
+    const MemberOps& ops = *member.declaration->ops;
+    if (member.type != nullptr) {
+        return ops.count(owner) != 0 && KeptContent::isMissing(ops.at(owner, 0));
+    }
+    const KeptContent* const kept = KeptContent::find(owner);
+    return KeptContent::isMissing(owner) || (kept != nullptr && kept->lacks(member.index));
+}
+
+std::size_t writtenCountOfRequired(const xml_schema::type& owner, const TypeIndex::FlatMember& member,
+                                   std::size_t count)
+{
+    if (member.type != nullptr) {
+        return count != 0 && isLeftOut(member.declaration->ops->at(owner, 0)) ? 0 : count;
+    }
+    const bool isEmpty = count == 0;
+    return isEmpty && wasMissing(owner, member) && isSetInPlace(owner, member) ? 1 : count;
+}
+
+} // namespace binding
+} // namespace citygml
