@@ -71,6 +71,17 @@ private slots:
         QVERIFY(!saved.contains("high"));
     }
 
+    /// What an extension derives from a year is one that nothing but its text gives a value.
+    void aWrongYearOfAnExtensionComesBack()
+    {
+        const QByteArray year = "<p:yearOfRefurbishment "
+                                "xmlns:p='urn:tolvik:citygml:pivotEnergy:1.0'>2018a</p:yearOfRefurbishment>";
+        for (int i = 0; i < 10; ++i) {
+            const Document document = read(documentWithBuilding(year));
+            QVERIFY(write(*document).contains(">2018a<"));
+        }
+    }
+
     void aFindingTellsItsPlace()
     {
         const Document document = read(city(2, [](int i) { return QByteArray(i == 0 ? "2.5" : "high"); }));

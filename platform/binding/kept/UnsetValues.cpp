@@ -1,10 +1,12 @@
 #include "platform/binding/kept/UnsetValues.h"
 
 #include "platform/binding/kept/KeptContent.h"
+#include "platform/binding/values/TextValues.h"
 
 #include <algorithm>
-#include <memory>
+#include <array>
 #include <string>
+#include <utility>
 
 namespace citygml {
 namespace binding {
@@ -24,6 +26,25 @@ std::string textOf(const xml_schema::type& object, const TextOps& ops)
     std::string text;
     ops.format(object, text, WholeNames());
     return text;
+}
+
+template <typename T>
+std::pair<const TextOps*, std::string> textOfNew()
+{
+    const std::unique_ptr<T> value(newValue<T>());
+    return {&textOps<T>, textOf(*value, textOps<T>)};
+}
+
+/// The text of a new object of a kind of values that its class leaves undefined; null for other kinds.
+const std::string* textOfNew(const TextOps* kind)
+{
+    static const std::array<std::pair<const TextOps*, std::string>, 6> texts = {
+        textOfNew<xml_schema::date>(),  textOfNew<xml_schema::date_time>(),
+        textOfNew<xml_schema::time>(),  textOfNew<xml_schema::duration>(),
+        textOfNew<xml_schema::gyear>(), textOfNew<xml_schema::gyear_month>()};
+    const auto found =
+        std::find_if(texts.begin(), texts.end(), [kind](const auto& text) { return text.first == kind; });
+    return found != texts.end() ? &found->second : nullptr;
 }
 
 /// The text of the only value of a member.
@@ -59,10 +80,19 @@ bool isAsNew(const xml_schema::type& owner, const TypeIndex::FlatMember& member)
 
 } // namespace
 
+std::unique_ptr<xml_schema::type> newObject(const TypeRecord& record)
+{
+    std::unique_ptr<xml_schema::type> object(record.create());
+    if (const std::string* const text = textOfNew(record.text)) {
+        record.text->parse(*object, *text, WholeNames());
+    }
+    return object;
+}
+
 bool isUnset(const xml_schema::type& object, const TypeIndex& type)
 {
     const TypeRecord& record = *type.record();
-    const std::unique_ptr<xml_schema::type> fresh(record.create());
+    const std::unique_ptr<xml_schema::type> fresh = newObject(record);
     return textOf(object, *record.text) == textOf(*fresh, *record.text);
 }
 

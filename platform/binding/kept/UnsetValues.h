@@ -3,6 +3,7 @@
 #include "platform/binding/SchemaIndex.h"
 
 #include <cstddef>
+#include <memory>
 #include <string_view>
 
 namespace citygml {
@@ -10,6 +11,9 @@ namespace binding {
 
 // Which values nobody has set: those that a document lacked or left wrong, and no program has given since.
 
+/// A new object of a type that has objects. Of one with text this is always the same, where
+/// TypeRecord::create() gives dates and times that an extension derives no value at all.
+std::unique_ptr<xml_schema::type> newObject(const TypeRecord& record);
 /// Whether an object with text has that of a new one.
 bool isUnset(const xml_schema::type& object, const TypeIndex& type);
 /// Whether a number or truth value, as text, is the one that a new owner has.

@@ -78,7 +78,7 @@ void makeObject(xml_schema::type& owner, const TypeIndex& ownerType, const TypeI
                 int level)
 {
     const TypeIndex& type = typeToMake(ownerType, member);
-    std::unique_ptr<xml_schema::type> object(type.record()->create());
+    std::unique_ptr<xml_schema::type> object = newObject(*type.record());
     KeptContent::setMissing(*object);
     fill(*object, type, level + 1);
     member.declaration->ops->add(owner, object.release());

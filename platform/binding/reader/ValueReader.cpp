@@ -1,6 +1,7 @@
 #include "platform/binding/reader/ValueReader.h"
 
 #include "platform/binding/kept/KeptContent.h"
+#include "platform/binding/kept/UnsetValues.h"
 #include "platform/binding/reader/KeptContentLog.h"
 #include "platform/binding/reader/NameResolver.h"
 #include "platform/binding/reader/NamespaceScopes.h"
@@ -116,7 +117,7 @@ void ValueReader::readObjectAttribute(xml_schema::type& owner, const TypeIndex::
             ops.add(owner, created.release());
         } else {
             if (member.requiredBit != 0) {
-                ops.add(owner, record.create());
+                ops.add(owner, newObject(record).release());
             }
             keepWrong(owner, &member, text);
         }
@@ -158,7 +159,7 @@ void ValueReader::keepWrong(xml_schema::type& owner, const TypeIndex::FlatMember
 /// Makes the value that of a new object. Parsing may have stopped in the middle of a list.
 void ValueReader::reset(xml_schema::type& object, const TypeIndex& type) const
 {
-    const std::unique_ptr<xml_schema::type> fresh(type.record()->create());
+    const std::unique_ptr<xml_schema::type> fresh = newObject(*type.record());
     std::string unset;
     type.record()->text->format(*fresh, unset, scopes);
     type.record()->text->parse(object, unset, scopes);
