@@ -1,6 +1,8 @@
 #pragma once
 
 #include "citygml/CityModel.h"
+#include "citygml/DocumentCheck.h"
+#include "citygml/DocumentRepair.h"
 #include "core/CityModelType.hxx"
 
 #include <memory>
@@ -72,11 +74,58 @@ inline std::string runReaderCase(std::string_view document, unsigned long flags)
     }
 }
 
-/// The same in both ways of reading.
+inline std::string refusal(std::string_view document, unsigned long flags)
+{
+    try {
+        read(document, flags);
+        return std::string();
+    } catch (const xsd::cxx::tree::exception<char>& error) {
+        return described("refused", error);
+    }
+}
+
+/// Checks a document, which must find something in what strict reading refuses.
+///
+/// \return what went wrong; empty if nothing did.
+inline std::string runCheckCase(std::string_view document)
+{
+    std::istringstream stream{std::string(document)};
+    bool isFound = false;
+    citygml::checkDocument(stream, [&](const citygml::Finding&) { isFound = true; });
+    const std::string reason = isFound ? std::string() : refusal(document, 0);
+    return reason.empty() ? std::string() : "a check finds nothing: " + reason;
+}
+
+/// Repairs a document. What can be loaded can be repaired, and what was repaired can be loaded.
+///
+/// \return what went wrong; empty if nothing did.
+inline std::string runRepairCase(std::string_view document)
+{
+    constexpr unsigned long lenient = xsd::cxx::tree::flags::dont_validate;
+    Document repaired;
+    try {
+        std::istringstream stream{std::string(document)};
+        repaired = citygml::repairDocument(stream, [](const citygml::Finding&) {});
+    } catch (const xsd::cxx::tree::exception<char>& error) {
+        return refusal(document, lenient).empty() ? described("what opens cannot be repaired", error)
+                                                  : std::string();
+    }
+    const std::string reason = refusal(write(*repaired), lenient);
+    return reason.empty() ? std::string() : "what was repaired does not open: " + reason;
+}
+
+/// Reads a document in both ways, checks and repairs it.
 inline std::string runReaderCase(std::string_view document)
 {
-    const std::string problem = runReaderCase(document, 0);
-    return problem.empty() ? runReaderCase(document, xsd::cxx::tree::flags::dont_validate) : problem;
+    for (const unsigned long flags :
+         {0ul, static_cast<unsigned long>(xsd::cxx::tree::flags::dont_validate)}) {
+        const std::string problem = runReaderCase(document, flags);
+        if (!problem.empty()) {
+            return problem;
+        }
+    }
+    const std::string problem = runCheckCase(document);
+    return problem.empty() ? runRepairCase(document) : problem;
 }
 
 } // namespace fuzz

@@ -1,4 +1,5 @@
 #include "support/FaultDocuments.h"
+#include "citygml/DocumentCheck.h"
 #include "support/Documents.h"
 #include "support/SchemaValidator.h"
 #include "support/TestClass.h"
@@ -6,6 +7,9 @@
 #include "support/XmlTree.h"
 
 #include <QtTest>
+
+#include <sstream>
+#include <vector>
 
 using namespace faults;
 using faults::Document;
@@ -24,6 +28,22 @@ constexpr int documentsPerPlace = 2;
 QStringList differencesAfterSave(const QByteArray& xml)
 {
     return XmlNode::differences(XmlNode::parse(xml), XmlNode::parse(write(*readStrictly(xml))));
+}
+
+std::vector<citygml::Finding> findingsIn(const QByteArray& xml)
+{
+    std::istringstream stream(xml.toStdString());
+    std::vector<citygml::Finding> findings;
+    citygml::checkDocument(stream, [&](const citygml::Finding& finding) { findings.push_back(finding); });
+    return findings;
+}
+
+QString textOf(const citygml::Finding& finding)
+{
+    return QString("%1:%2 %3: %4")
+        .arg(finding.line)
+        .arg(finding.column)
+        .arg(QString::fromStdString(finding.path), QString::fromStdString(finding.reason));
 }
 
 /// Collects what went wrong with many documents and shows the first.
@@ -182,6 +202,39 @@ private slots:
                 complaints.add(document, error);
             } else if (!differencesAfterSave(document.faulty).isEmpty()) {
                 complaints.add(document, differencesAfterSave(document.faulty).first());
+            }
+        }
+        QVERIFY2(complaints.isEmpty(), qPrintable(complaints.text()));
+    }
+
+    void checksFindNothingWithoutFault()
+    {
+        Complaints complaints;
+        for (const Document& document : qAsConst(faultless)) {
+            for (const citygml::Finding& finding : findingsIn(document.faultless)) {
+                complaints.add(document, textOf(finding));
+            }
+        }
+        QVERIFY2(complaints.isEmpty(), qPrintable(complaints.text()));
+    }
+
+    /// Also those that strict reading lets pass.
+    void checksFindEveryFault()
+    {
+        Complaints complaints;
+        for (const Document& document : qAsConst(documents)) {
+            // What a type that restricts its base requires is not in the tables.
+            if (document.kind == Kind::Missing && !document.isRefused) {
+                continue;
+            }
+            QStringList found;
+            for (const citygml::Finding& finding : findingsIn(document.faulty)) {
+                found += textOf(finding);
+            }
+            const QString expected =
+                QString("%1:%2 %3").arg(document.line).arg(document.column).arg(document.path);
+            if (found.isEmpty() || !found.first().startsWith(expected + ": ") || found.size() != 1) {
+                complaints.add(document, "not " + expected + " but " + found.join(", "));
             }
         }
         QVERIFY2(complaints.isEmpty(), qPrintable(complaints.text()));

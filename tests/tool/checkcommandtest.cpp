@@ -301,6 +301,9 @@ private slots:
                  "tolvik-inspect: " + path("none.gml").toUtf8() + " could not be loaded: no such file\n");
         QCOMPARE(inspect({"check", path("city/a.gml"), path("city/a.gml")}).code, 0);
         QCOMPARE(inspect({"check", path("city/a.gml"), path("none.gml")}).code, 1);
+        // Where nothing was checked nothing is sound.
+        QVERIFY(QDir(directory->path()).mkpath("empty"));
+        QCOMPARE(inspect({"check", "--recursive", path("empty")}).code, 1);
     }
 
     void findsNothingInTheExamples()

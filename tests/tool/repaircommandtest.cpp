@@ -145,8 +145,15 @@ private slots:
 
     void theOlderVersionBecomesTheNewOne()
     {
-        QByteArray older = city(house("a", "p") + house("b", "p"));
-        older.replace("citygml/2.0", "citygml/1.0").replace("building/2.0", "building/1.0");
+        // What is referred to is no free name in that version either.
+        QByteArray older =
+            city(house("a", "p") + house("b", "p") +
+                 "<app:appearanceMember><app:Appearance><app:surfaceDataMember><app:X3DMaterial>"
+                 "<app:target>#p-2</app:target></app:X3DMaterial></app:surfaceDataMember>"
+                 "</app:Appearance></app:appearanceMember>");
+        for (const char* module : {"citygml", "building", "appearance"}) {
+            older.replace(module + QByteArray("/2.0"), module + QByteArray("/1.0"));
+        }
         QVERIFY(writeFile(path("in.gml"), older));
         const ProcessResult result = inspect({"repair", path("in.gml"), path("out.gml")});
         QCOMPARE(result.code, 0);
@@ -155,6 +162,7 @@ private slots:
                                        ":1:1: /core:CityModel: the document was of CityGML 1.0; it is of "
                                        "CityGML 2.0 now\n"),
                  result.out);
+        QVERIFY2(result.out.contains("'p-3'"), result.out);
         const ProcessResult rows = inspect({"rows", path("out.gml")});
         QCOMPARE(rows.code, 0);
         // A load warns of the older version.

@@ -197,7 +197,7 @@ void DocumentChecks::meetAttribute(const TypeIndex* owner, const char* name)
     const PrefixedName parts(name);
     const std::string uri = parts.prefix.empty() ? std::string() : scopes.namespaceOf(parts.prefix);
     const bool isForeign = !uri.empty() && !isKnownTo(uri);
-    if (uri == xsiUri || isForeign || (owner != nullptr && !uri.empty() && isOpenTo(*owner, uri))) {
+    if (isForeign || (owner != nullptr && !uri.empty() && isOpenTo(*owner, uri))) {
         return;
     }
     tell(parser.place(), "the attribute '" + std::string(name) + "' is unknown here");
