@@ -54,8 +54,9 @@ FILE is a CityGML 2.0 document; `-` reads one from standard input.
   check FILE... [--json] [--recursive]
                          tell all that is wrong, in lines of FILE:LINE:COLUMN: PATH: REASON or, in
                          JSON, one object a line
-  repair FILE OUT        save FILE as OUT with a free name for each gml:id that stands twice, as
-                         CityGML 2.0; what was done is told, and FILE stays as it is
+  repair FILE OUT        save FILE as OUT with a free name for each gml:id that stands twice, with
+                         elements in the order of the schema, as CityGML 2.0; what was done is told,
+                         and FILE stays as it is
   --help                 show this text
   --version              show the version
 

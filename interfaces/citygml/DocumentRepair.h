@@ -14,6 +14,7 @@ namespace citygml {
 ///
 /// - Where an identifier stands twice, the later elements get free ones. References to it in the same
 ///   top-level member follow, unless the first element with it stands in that member too.
+/// - Elements that are out of order are put into the order of the schema.
 /// - A document of CityGML 1.0 becomes one of CityGML 2.0.
 ///
 /// \param stream bytes of an XML document, from the current position to the end. It is read twice, so it must

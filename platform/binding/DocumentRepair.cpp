@@ -1,5 +1,6 @@
 #include "citygml/DocumentRepair.h"
 
+#include "citygml/SchemaOrder.h"
 #include "platform/binding/reader/DocumentHandler.h"
 #include "platform/binding/reader/EndOfStreamGuard.h"
 #include "platform/binding/reader/FindingLog.h"
@@ -27,6 +28,39 @@ IdentifierRenaming findRenaming(std::istream& stream)
     return scan.take();
 }
 
+/// Tells of an element that is out of order as of one that is not any more.
+///
+/// \return false for any other finding.
+bool tellOrdered(const Finding& finding, const std::function<void(const Finding&)>& tell)
+{
+    if (!DocumentHandler::isAboutOrder(finding)) {
+        return false;
+    }
+    Finding done = finding;
+    done.reason += "; it stands there now";
+    tell(done);
+    return true;
+}
+
+std::unique_ptr<core::CityModelType> readRenamed(std::istream& stream, const IdentifierRenaming& renaming,
+                                                 const std::function<void(const Finding&)>& tell)
+{
+    const log4cplus::Logger logger =
+        log4cplus::Logger::getInstance(LOG4CPLUS_TEXT("tolvik.citygml.DocumentRepair"));
+    KeptContentLog log(logger);
+    NamespaceScopes scopes(SchemaIndex::instance());
+    XmlParser parser(scopes);
+    DocumentHandler handler(parser, scopes, log, true);
+    handler.takeFindings([&](const Finding& finding) { return tellOrdered(finding, tell); });
+    RepairingHandler repairing(parser, scopes, handler, renaming, tell);
+    parser.parse(stream, repairing);
+    log.write();
+    std::unique_ptr<core::CityModelType> document = handler.takeRoot();
+    // What is wrong still.
+    FindingLog::write(findingsOf(*document), logger);
+    return document;
+}
+
 } // namespace
 
 std::unique_ptr<core::CityModelType> repairDocument(std::istream& stream,
@@ -37,19 +71,8 @@ std::unique_ptr<core::CityModelType> repairDocument(std::istream& stream,
     const IdentifierRenaming renaming = findRenaming(stream);
     stream.clear();
     stream.seekg(start);
-
-    const log4cplus::Logger logger =
-        log4cplus::Logger::getInstance(LOG4CPLUS_TEXT("tolvik.citygml.DocumentRepair"));
-    KeptContentLog log(logger);
-    NamespaceScopes scopes(SchemaIndex::instance());
-    XmlParser parser(scopes);
-    DocumentHandler handler(parser, scopes, log, true);
-    RepairingHandler repairing(parser, scopes, handler, renaming, tell);
-    parser.parse(stream, repairing);
-    log.write();
-    std::unique_ptr<core::CityModelType> document = handler.takeRoot();
-    // What is wrong still.
-    FindingLog::write(findingsOf(*document), logger);
+    std::unique_ptr<core::CityModelType> document = readRenamed(stream, renaming, tell);
+    putInSchemaOrder(*document);
     return document;
 }
 

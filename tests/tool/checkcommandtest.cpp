@@ -114,6 +114,16 @@ private slots:
         row("attribute of a known namespace", building("<bldg:function xlink:href='a'>1</bldg:function>"),
             "-:3:1: " + inBuilding +
                 "/bldg:function: the attribute 'xlink:href' is unknown here (feature b)");
+        row("order", building("<bldg:storeysAboveGround>1</bldg:storeysAboveGround><gml:name>a</gml:name>"),
+            "-:3:53: " + inBuilding +
+                "/gml:name: the element 'gml:name' belongs in front of 'bldg:storeysAboveGround' (feature "
+                "b)");
+        row("one too many",
+            building("<bldg:storeysAboveGround>1</bldg:storeysAboveGround>\n"
+                     "<bldg:storeysAboveGround>2</bldg:storeysAboveGround>"),
+            "-:4:1: " + inBuilding +
+                "/bldg:storeysAboveGround: the element 'bldg:storeysAboveGround' is one too many (feature "
+                "b)");
         row("reference", building("<bldg:lod1Solid xlink:href='#none'/>"),
             "-:3:1: " + inBuilding +
                 "/bldg:lod1Solid: nothing in the document has the identifier 'none' (feature b)");

@@ -169,6 +169,21 @@ private slots:
         QCOMPARE(rows.err, QByteArray());
     }
 
+    void elementsArePutInOrder()
+    {
+        const auto with = [](const QByteArray& content) {
+            return city(
+                house("a", "p").replace("<bldg:lod1MultiSurface>", content + "<bldg:lod1MultiSurface>"));
+        };
+        const QByteArray storeys = "<bldg:storeysAboveGround>1</bldg:storeysAboveGround>";
+        const QByteArray inBuilding = "/core:CityModel/core:cityObjectMember/bldg:Building";
+        repairTo(with(storeys + "<gml:name>a</gml:name><bldg:class>1000</bldg:class>"),
+                 with("<gml:name>a</gml:name><bldg:class>1000</bldg:class>" + storeys),
+                 {"2:102: " + inBuilding +
+                  "/gml:name: the element 'gml:name' belongs in front of 'bldg:storeysAboveGround'; it "
+                  "stands there now (feature a)"});
+    }
+
     void savesWhatNeedsNoRepair()
     {
         const QString district = examples() + "/district.gml";

@@ -73,12 +73,6 @@ DocumentHandler::DocumentHandler(const XmlParser& parser, NamespaceScopes& scope
 {
 }
 
-void DocumentHandler::setChecks(DocumentChecks& told)
-{
-    checks = &told;
-    findings.setListener([&told](const Finding& finding) { told.add(finding); });
-}
-
 DocumentHandler::DocumentHandler(const XmlParser& parser, NamespaceScopes& scopes, KeptContentLog& log,
                                  const RootContext& context)
     : DocumentHandler(parser, scopes, log, context.isLenient)

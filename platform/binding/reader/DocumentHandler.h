@@ -13,6 +13,7 @@
 #include "platform/binding/SchemaIndex.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -50,6 +51,10 @@ public:
     ///
     /// \param told outlives the reading
     void setChecks(DocumentChecks& told);
+    /// Keeps no findings with the document that the taker answers true to.
+    void takeFindings(std::function<bool(const Finding&)> taker);
+    /// Whether a finding is of an element that stands behind another one where it belongs in front.
+    static bool isAboutOrder(const Finding& finding);
 
     void startElement(const char* name, const XmlAttributes& attributes) override;
     void endElement(const char* name) override;

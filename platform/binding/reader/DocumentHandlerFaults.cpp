@@ -1,5 +1,6 @@
 // How a DocumentHandler tells what is wrong with the document.
 
+#include "platform/binding/reader/DocumentChecks.h"
 #include "platform/binding/reader/DocumentHandler.h"
 #include "platform/binding/values/WhiteSpace.h"
 #include "platform/binding/xml/Namespaces.h"
@@ -9,14 +10,40 @@
 namespace citygml {
 namespace binding {
 
+namespace {
+
+// What is said of an element, between its name and another one, where it is out of order.
+constexpr const char* belongsInFront = "' belongs in front of '";
+
+} // namespace
+
+void DocumentHandler::setChecks(DocumentChecks& told)
+{
+    checks = &told;
+    takeFindings([&told](const Finding& finding) {
+        told.add(finding);
+        return true;
+    });
+}
+
+void DocumentHandler::takeFindings(std::function<bool(const Finding&)> taker)
+{
+    findings.setTaker(std::move(taker));
+}
+
+bool DocumentHandler::isAboutOrder(const Finding& finding)
+{
+    return finding.reason.find(belongsInFront) != std::string::npos;
+}
+
 /// Notes it as a fault where a child begins that belongs in front of the last one. Both ways of reading take
 /// any order. Of a root's child that is read apart it is not known what stands in front of it.
 void DocumentHandler::noteOrder(const TypeIndex::FlatMember& member, NameId id)
 {
     const bool isOfRootApart = isApart && open.count() == 1;
     if (isLenient && !isOfRootApart && open.isLate(member)) {
-        addFault("the element '" + names.textOf(id) + "' belongs in front of '" +
-                 names.textOf(open.top().lastName) + "'");
+        addFault("the element '" + names.textOf(id) + belongsInFront + names.textOf(open.top().lastName) +
+                 "'");
     }
 }
 

@@ -19,8 +19,7 @@ constexpr std::size_t mostLines = 20;
 
 void FindingLog::add(Finding finding)
 {
-    if (listener) {
-        listener(finding);
+    if (taker && taker(finding)) {
         return;
     }
     FindingGroup& group = groupOf(finding);

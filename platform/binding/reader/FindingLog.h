@@ -17,8 +17,8 @@ namespace binding {
 class FindingLog
 {
 public:
-    /// Has all findings told in place of collecting them.
-    void setListener(std::function<void(const Finding&)> told) { listener = std::move(told); }
+    /// Asks of each finding whether it goes elsewhere; those of which that is true are not collected.
+    void setTaker(std::function<bool(const Finding&)> asked) { taker = std::move(asked); }
     void add(Finding finding);
     /// All groups, the first first.
     std::vector<FindingGroup> take() { return std::move(groups); }
@@ -29,7 +29,7 @@ public:
 private:
     FindingGroup& groupOf(const Finding& finding);
 
-    std::function<void(const Finding&)> listener;
+    std::function<bool(const Finding&)> taker;
     std::vector<FindingGroup> groups;
     // Indices of the groups by reason and path.
     std::map<std::pair<std::string, std::string>, std::size_t> known;
