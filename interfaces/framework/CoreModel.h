@@ -147,10 +147,12 @@ public:
     const QUrl& getUrl() const { return url; }
 
     /// Root of the row's property tree; null if there is none. Valid until the row or its tree is replaced.
+    /// The first request for a tree lets the providers add to it.
     CoreProperty* getProperty(const QModelIndex& index) const;
 
-    /// Registers a provider of the host and keeps it, once however often it is added. It is asked whenever a
-    /// tree is built anew for an edit; for trees that are there call reapplyPropertiesFromProviders().
+    /// Registers a provider of the host and keeps it, once however often it is added. It is asked when a tree
+    /// is first requested, and when it is built anew for an edit; for trees that have been requested before
+    /// call reapplyPropertiesFromProviders().
     void addPropertyProvider(PropertyProvider* provider);
 
     /// Gives the provider up; what it has added stays.
@@ -160,6 +162,10 @@ public:
     /// tree.
     void reapplyPropertiesFromProviders(const QModelIndex& index);
 
+    /// The same for a tree of the row that the caller has built himself.
+    /// \param root held by a RefPtr of the caller
+    void addPropertiesFromProviders(const QModelIndex& index, CoreProperty& root) const;
+
 protected:
     QVector<Fondo::RefPtr<CoreProperty>> properties; ///< root of the property tree of each row
     QVector<bool> visibility;                        ///< for each row; true means hidden. See isVisible().
@@ -167,9 +173,14 @@ protected:
     QUrl url;                                        ///< where the document came from
 
 private:
+    void noteProvided(int row) const;
+
     ModelInterface* plugin;
     bool documentChanged = false;
     QVector<Fondo::RefPtr<PropertyProvider>> providers;
+    // Of each row up to the last one that was asked for: the tree that the providers have added to. Only
+    // compared, as the tree may be gone.
+    mutable QVector<const CoreProperty*> provided;
 };
 
 } // namespace tolvik

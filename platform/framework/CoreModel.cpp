@@ -3,6 +3,7 @@
 #include "framework/ModelInterface.h"
 #include "framework/PropertyProvider.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <limits>
 
@@ -17,7 +18,22 @@ bool holdsRow(int row, int count)
 
 } // namespace
 
-CoreModel::CoreModel(ModelInterface* plugin, QObject* parent) : QAbstractListModel(parent), plugin(plugin) {}
+CoreModel::CoreModel(ModelInterface* plugin, QObject* parent) : QAbstractListModel(parent), plugin(plugin)
+{
+    connect(this, &QAbstractItemModel::modelReset, this, [this] { provided.clear(); });
+    connect(this, &QAbstractItemModel::rowsInserted, this,
+            [this](const QModelIndex& /*parent*/, int first, int last) {
+                if (first < provided.size()) {
+                    provided.insert(first, last - first + 1, nullptr);
+                }
+            });
+    connect(this, &QAbstractItemModel::rowsRemoved, this,
+            [this](const QModelIndex& /*parent*/, int first, int last) {
+                if (first < provided.size()) {
+                    provided.remove(first, std::min(last + 1, provided.size()) - first);
+                }
+            });
+}
 
 CoreModel::~CoreModel() = default;
 
@@ -104,7 +120,16 @@ void CoreModel::setFileName(const QString& name)
 
 CoreProperty* CoreModel::getProperty(const QModelIndex& index) const
 {
-    return holdsRow(index.row(), properties.size()) ? properties[index.row()].get() : nullptr;
+    const int row = index.row();
+    if (!holdsRow(row, properties.size())) {
+        return nullptr;
+    }
+    const Fondo::RefPtr<CoreProperty> root = properties[row];
+    if (root != nullptr && provided.value(row) != root.get()) {
+        noteProvided(row);
+        addPropertiesFromProviders(index, *root);
+    }
+    return properties.value(row).get();
 }
 
 void CoreModel::addPropertyProvider(PropertyProvider* provider)
@@ -128,15 +153,31 @@ void CoreModel::removePropertyProvider(PropertyProvider* provider)
 
 void CoreModel::reapplyPropertiesFromProviders(const QModelIndex& index)
 {
-    // Both are held here, since a provider may register others or have the row's tree replaced.
-    const Fondo::RefPtr<CoreProperty> root = getProperty(index);
-    if (root == nullptr) {
-        return;
+    const int row = index.row();
+    const Fondo::RefPtr<CoreProperty> root = properties.value(row);
+    if (root != nullptr) {
+        noteProvided(row);
+        addPropertiesFromProviders(index, *root);
     }
+}
+
+void CoreModel::addPropertiesFromProviders(const QModelIndex& index, CoreProperty& root) const
+{
+    // Held here, since a provider may register others, or have the row's tree replaced.
     const auto all = providers;
     for (const auto& provider : all) {
-        provider->addProperties(index, *root);
+        provider->addProperties(index, root);
     }
+}
+
+/// Notes that the providers need not be asked for the row's tree again. Before they are, since they may ask
+/// for it themselves.
+void CoreModel::noteProvided(int row) const
+{
+    if (provided.size() <= row) {
+        provided.resize(row + 1);
+    }
+    provided[row] = properties[row].get();
 }
 
 } // namespace tolvik

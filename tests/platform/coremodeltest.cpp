@@ -55,6 +55,20 @@ private:
     int* deaths;
 };
 
+/// Can put a tree in front of the others, with the signals of a row.
+class InsertingModel : public TestModel
+{
+public:
+    using TestModel::TestModel;
+
+    void insertFirst(const QString& name)
+    {
+        beginInsertRows(QModelIndex(), 0, 0);
+        properties.prepend(RefPtr<CoreProperty>(new CoreProperty(name, QVariant())));
+        endInsertRows();
+    }
+};
+
 QStringList childNames(const CoreProperty* property)
 {
     QStringList names;
@@ -240,17 +254,77 @@ private slots:
         model.addPropertyProvider(new Provider("second", &deaths));
         model.addPropertyProvider(first.get());
         model.addPropertyProvider(nullptr);
-        QVERIFY(childNames(model.getProperty(model.index(1, 0))).isEmpty());
 
-        model.reapplyPropertiesFromProviders(model.index(1, 0));
         QCOMPARE(childNames(model.getProperty(model.index(1, 0))), QStringList({"first", "second"}));
         QCOMPARE(model.getProperty(model.index(1, 0))->properties()[0]->value(), QVariant(1));
-        QVERIFY(childNames(model.getProperty(model.index(0, 0))).isEmpty());
 
         model.removePropertyProvider(first.get());
         model.removePropertyProvider(first.get());
-        model.reapplyPropertiesFromProviders(model.index(0, 0));
         QCOMPARE(childNames(model.getProperty(model.index(0, 0))), QStringList({"second"}));
+        model.reapplyPropertiesFromProviders(model.index(1, 0));
+        QCOMPARE(childNames(model.getProperty(model.index(1, 0))),
+                 QStringList({"first", "second", "second"}));
+    }
+
+    void firstRequestAsksTheProviders()
+    {
+        int deaths = 0;
+        int calls = 0;
+        TestModel model({"a", "b"});
+        auto* const provider = new Provider("p", &deaths);
+        // A provider may ask for the tree that it adds to.
+        provider->onCall = [&] {
+            ++calls;
+            QCOMPARE(model.getProperty(model.index(1, 0))->name(), QString("b"));
+        };
+        model.addPropertyProvider(provider);
+        QCOMPARE(calls, 0);
+        for (int i = 0; i < 3; ++i) {
+            QCOMPARE(childNames(model.getProperty(model.index(1, 1))), QStringList("p"));
+        }
+        QCOMPARE(calls, 1);
+    }
+
+    void requestedTreesStayKnownWhenRowsComeAndGo()
+    {
+        int deaths = 0;
+        InsertingModel model({"a", "b", "c"});
+        model.addPropertyProvider(new Provider("p", &deaths));
+        model.getProperty(model.index(1, 0));
+        model.insertFirst("new");
+        QCOMPARE(model.getProperty(model.index(2, 0))->name(), QString("b"));
+        QCOMPARE(childNames(model.getProperty(model.index(2, 0))), QStringList("p"));
+        QCOMPARE(childNames(model.getProperty(model.index(0, 0))), QStringList("p"));
+    }
+
+    void requestedTreesStayKnownWhenRowsGo()
+    {
+        int deaths = 0;
+        TestModel model({"a", "b", "c"});
+        model.addPropertyProvider(new Provider("p", &deaths));
+        model.getProperty(model.index(1, 0));
+        model.removeItem(0);
+        QCOMPARE(childNames(model.getProperty(model.index(0, 0))), QStringList("p"));
+        QCOMPARE(childNames(model.getProperty(model.index(1, 0))), QStringList("p"));
+        // The trees of other rows may come to lie where those that are gone lay.
+        for (int i = 0; i < 20; ++i) {
+            model.removeItem(1);
+            model.addItem("d", nullptr);
+            QCOMPARE(childNames(model.getProperty(model.index(1, 0))), QStringList("p"));
+            model.replaceAll({"a", "b"});
+            QCOMPARE(childNames(model.getProperty(model.index(1, 0))), QStringList("p"));
+        }
+    }
+
+    void providersAddToATreeOfTheCaller()
+    {
+        int deaths = 0;
+        TestModel model({"a"});
+        model.addPropertyProvider(new Provider("p", &deaths));
+        const RefPtr<CoreProperty> root = new CoreProperty(QString(), QVariant());
+        model.addPropertiesFromProviders(model.index(0, 0), *root);
+        QCOMPARE(childNames(root.get()), QStringList("p"));
+        QCOMPARE(childNames(model.getProperty(model.index(0, 0))), QStringList("p"));
     }
 
     void modelKeepsItsProviders()
@@ -285,9 +359,11 @@ private slots:
         model.addPropertyProvider(provider);
         model.addPropertyProvider(new Provider("second", &deaths));
         model.addPropertyProvider(new Provider("third", &deaths));
-        model.reapplyPropertiesFromProviders(model.index(0, 0));
-        QCOMPARE(deaths, 1);
         QCOMPARE(childNames(model.getProperty(model.index(0, 0))), QStringList({"once", "second", "third"}));
+        QCOMPARE(deaths, 1);
+        model.reapplyPropertiesFromProviders(model.index(0, 0));
+        QCOMPARE(childNames(model.getProperty(model.index(0, 0))),
+                 QStringList({"once", "second", "third", "second", "third"}));
     }
 
     void providersAreNotAskedForAnInvalidIndex()
