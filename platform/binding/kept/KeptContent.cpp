@@ -110,6 +110,23 @@ void KeptContent::addMissing(MemberIndex member)
     addValue(std::move(value));
 }
 
+KeptContent::Attribute* KeptContent::attribute(std::size_t index)
+{
+    return index < keptAttributes.size() ? &keptAttributes[index] : nullptr;
+}
+
+KeptContent::Node* KeptContent::node(std::size_t index)
+{
+    return index < keptNodes.size() ? &keptNodes[index] : nullptr;
+}
+
+KeptContent::Value* KeptContent::value(std::optional<MemberIndex> member, std::size_t number)
+{
+    const Values values = valuesOf(member);
+    const bool isThere = number < static_cast<std::size_t>(values.end() - values.begin());
+    return isThere ? const_cast<Value*>(values.begin() + number) : nullptr;
+}
+
 void KeptContent::seal()
 {
     sortOnce(keptValues, [](const Value& a, const Value& b) {

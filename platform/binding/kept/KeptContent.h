@@ -228,6 +228,7 @@ public:
 
     /// \return null where nothing is kept.
     static const KeptContent* find(const xml_schema::type& object) { return object.kept.get(); }
+    static KeptContent* find(xml_schema::type& object) { return object.kept.get(); }
     /// The object's kept content, made on first use.
     static KeptContent& of(xml_schema::type& object);
 
@@ -288,6 +289,13 @@ public:
         }
     }
     void setDocument(std::shared_ptr<const Document> whole) { ofDocument = std::move(whole); }
+    /// A piece to be edited: all of it but its place and kind. Null where there is none.
+    /// @{
+    Attribute* attribute(std::size_t index);
+    Node* node(std::size_t index);
+    /// \param number among what is kept about the values of a member, of sealed content
+    Value* value(std::optional<MemberIndex> member, std::size_t number);
+    /// @}
     /// Makes the invariants true that the class promises; to be called when all is added.
     void seal();
     /// Seals what is kept about an object, and forgets it where that is nothing.

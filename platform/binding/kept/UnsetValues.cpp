@@ -1,6 +1,5 @@
 #include "platform/binding/kept/UnsetValues.h"
 
-#include "platform/binding/kept/KeptContent.h"
 #include "platform/binding/values/TextValues.h"
 
 #include <algorithm>
@@ -130,6 +129,13 @@ std::size_t writtenCountOfRequired(const xml_schema::type& owner, const TypeInde
     }
     const bool isEmpty = count == 0;
     return isEmpty && wasMissing(owner, member) && isSetInPlace(owner, member) ? 1 : count;
+}
+
+bool isReplaced(const KeptContent::Node& node, const xml_schema::type& object, const TypeIndex& type)
+{
+    // An assignment to an object of a base class brings nodes of members that this does not have.
+    return node.standsFor != 0 && node.standsFor <= type.elementCount() &&
+           writtenCount(object, type.members()[node.standsFor - 1u]) != 0;
 }
 
 } // namespace binding

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/binding/kept/KeptContent.h"
 #include "platform/binding/SchemaIndex.h"
 
 #include <cstddef>
@@ -35,6 +36,8 @@ inline std::size_t writtenCount(const xml_schema::type& owner, const TypeIndex::
     const std::size_t count = member.declaration->ops->count(owner);
     return member.requiredBit == 0 ? count : writtenCountOfRequired(owner, member, count);
 }
+/// Whether an element stood for a member of the object that has a value now.
+bool isReplaced(const KeptContent::Node& node, const xml_schema::type& object, const TypeIndex& type);
 
 } // namespace binding
 } // namespace citygml

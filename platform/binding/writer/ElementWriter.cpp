@@ -25,14 +25,6 @@ bool isForgotten(const xml_schema::type& owner, const TypeIndex::FlatMember& mem
            !hasNilAttribute(KeptContent::find(owner));
 }
 
-/// Whether an element stood for a member that has a value now.
-bool isReplaced(const KeptContent::Node& node, const xml_schema::type& owner, const TypeIndex& type)
-{
-    // An assignment to an object of a base class brings nodes of members that this does not have.
-    return node.standsFor != 0 && node.standsFor <= type.elementCount() &&
-           writtenCount(owner, type.members()[node.standsFor - 1u]) != 0;
-}
-
 } // namespace
 
 ElementWriter::ElementWriter(XmlOutput& out, NamespaceDeclarations& namespaces,
