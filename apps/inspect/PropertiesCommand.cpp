@@ -134,6 +134,7 @@ int runProperties(tolvik::CityGMLModel& model, const QString& file, const Proper
         gml::AbstractFeatureType* const feature = model.getFeature(row);
         const Fondo::RefPtr<CoreProperty> root =
             GmlCorePropertyCreator::createProperty(feature, !options.absent);
+        model.addPropertiesFromProviders(model.index(row, 0), *root);
         if (options.json) {
             out << separator;
             printJson(*root, std::string(), out);

@@ -186,11 +186,13 @@ void edit(CoreProperty& property, const QString& text)
 }
 
 /// Edits the value that a path leads to, of an existing attribute or else of one that is made.
-void edit(gml::AbstractFeatureType* feature, const QString& path, const QString& value)
+void edit(const CityGMLModel& model, gml::AbstractFeatureType* feature, const QString& path,
+          const QString& value)
 {
     for (const bool existingOnly : {true, false}) {
         const Fondo::RefPtr<CoreProperty> root =
             GmlCorePropertyCreator::createProperty(feature, existingOnly);
+        model.addPropertiesFromProviders(model.index(feature), *root);
         if (CoreProperty* const property = findBelow(*root, QStringRef(&path))) {
             edit(*property, value);
             return;
@@ -205,7 +207,7 @@ int runSet(tolvik::CityGMLModel& model, const SetOptions& options, std::ostream&
 {
     try {
         gml::AbstractFeatureType* const feature = findFeature(model, options.id);
-        edit(feature, options.path, options.value);
+        edit(model, feature, options.path, options.value);
         model.propertyChanged(model.index(feature), true);
     } catch (const EditError& error) {
         err << "tolvik-inspect: " << error.what() << '\n';

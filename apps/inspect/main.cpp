@@ -44,8 +44,9 @@ FILE is a CityGML 2.0 document; `-` reads one from standard input.
   tree FILE... [--json] [--all] [--recursive]
                          show the features as a tree; --all keeps appearances
   properties FILE... (--id ID | --row N | --every) [--absent] [--json] [--recursive]
-                         show the attributes of the features; --absent adds those that
-                         they could have and have not
+                         show the attributes of the features, and as "Other content" what else
+                         the document says of them; --absent adds the attributes that they
+                         could have and have not
   set FILE --id ID PATH VALUE OUT
                          set one attribute and save as OUT. PATH is made of the labels that
                          `properties` shows, with `/` between them; `[2]` behind a label

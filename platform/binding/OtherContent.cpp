@@ -22,7 +22,7 @@ namespace {
 using Entries = std::vector<OtherContent>;
 using IsApart = std::function<bool(gml::AbstractFeatureType& inner)>;
 
-const std::string textName = "text()";
+constexpr const char* textName = "text()";
 
 /// What is shown of an element: its text, if it has one, and what is in it.
 struct Shown

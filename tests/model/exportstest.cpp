@@ -21,6 +21,7 @@ const QStringList exportedClasses{
     "GmlCorePropertyCreator",
     "CityGMLPropertiesVisitor",
     "GmlEditRangeDialog",
+    "OtherContentProvider",
 };
 
 const QStringList exportedFunctionTemplates{"toQVariant", "fromQVariant", "defaultValue", "getEnumList"};

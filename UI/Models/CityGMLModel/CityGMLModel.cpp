@@ -10,6 +10,7 @@
 #include "UI/Models/CityGMLModel/FeatureColumns.h"
 #include "UI/Models/CityGMLModel/properties/GmlCorePropertyCreator.h"
 #include "UI/Models/CityGMLModel/properties/GmlEditRangeDialog.h"
+#include "UI/Models/CityGMLModel/properties/OtherContentProvider.h"
 
 #include <algorithm>
 #include <boost/iostreams/device/null.hpp>
@@ -62,6 +63,7 @@ CityGMLModel::CityGMLModel(ModelInterface* plugin, QObject* parent)
       logger(log4cplus::Logger::getInstance(LOG4CPLUS_TEXT("tolvik.UI.Models.CityGMLModel"))),
       correctGuid(false)
 {
+    addPropertyProvider(new OtherContentProvider);
 }
 
 CityGMLModel::~CityGMLModel() = default;
