@@ -82,6 +82,14 @@ tolvik::CoreProperty* rowOf(const Features& features, const QString& end)
     return nullptr;
 }
 
+/// The only object in a member for elements of GML.
+xml_schema::type& childOf(xml_schema::type& object, const char* name)
+{
+    const Name qualified{"http://www.opengis.net/gml", name};
+    const auto* const member = memberOf(citygml::binding::recordOf(object), qualified, false);
+    return const_cast<xml_schema::type&>(member->ops->at(object, 0));
+}
+
 template <typename Attribute>
 Attribute& attributeOf(core::CityModelType& document)
 {
@@ -318,6 +326,28 @@ private slots:
         attribute.value().uom() = "m";
         QVERIFY(citygml::isSetAside(attribute.value()));
         QVERIFY(write(*document).contains("<gen:value uom=\"m\"/>"));
+    }
+
+    /// What is set in an object that the document lacked is written, and nothing else of it.
+    void aPartOfAMissingObjectIsWritten()
+    {
+        const auto isIt = [](const Document& document) {
+            return document.place.member.local == "refLocation";
+        };
+        const auto facts = std::find_if(documents.cbegin(), documents.cend(), isIt);
+        QVERIFY(facts != documents.cend());
+        const testsupport::Document faulty = read(facts->faulty), sound = read(facts->faultless);
+        xml_schema::type& placement =
+            childOf(childOf(*ownerOf(*faulty, *facts), "refLocation"), "AffinePlacement");
+        const xml_schema::type& model =
+            childOf(childOf(*ownerOf(*sound, *facts), "refLocation"), "AffinePlacement");
+        const Name name{"http://www.opengis.net/gml", "location"};
+        const citygml::binding::Member* const location =
+            memberOf(citygml::binding::recordOf(placement), name, false);
+        location->ops->add(placement, location->ops->at(model, 0)._clone());
+        const QByteArray saved = write(*faulty);
+        QVERIFY2(saved.contains("</gml:AffinePlacement>") && saved.contains("<gml:location>"), saved);
+        QVERIFY2(!saved.contains("<gml:inDimension>"), saved);
     }
 
     void aValueWithoutItsUnitShowsTheValue()
