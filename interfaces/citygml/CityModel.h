@@ -33,8 +33,8 @@ TOLVIK_BINDING_EXPORT std::auto_ptr<CityModelType>
 CityModel(std::istream& stream, xsd::cxx::tree::flags flags = 0,
           const xsd::cxx::tree::properties<char>& properties = xsd::cxx::tree::properties<char>());
 
-/// Frees a document beside the caller, in a thread of the binding: a large one takes its time. Where one
-/// thread alone is wanted, see citygml::setReadingThreads(), the caller frees it.
+/// Frees a document, a large one beside the caller, in a thread of the binding. Where one thread alone is
+/// wanted, see citygml::setReadingThreads(), the caller frees it.
 ///
 /// The end of the program waits for it, and so does the next document to be freed.
 /// \param document may be null; nobody else uses it any more

@@ -38,7 +38,9 @@ void freeCityModel(std::auto_ptr<CityModelType> document)
     static std::mutex mutex;
     static std::future<void> freeing;
     std::unique_ptr<CityModelType> toFree(document.release());
-    if (toFree == nullptr || citygml::readingThreads() == 1) {
+    // Of fewer members, as a rule, a document is free sooner than a thread has begun.
+    constexpr std::size_t large = 100;
+    if (toFree == nullptr || toFree->featureMember().size() < large || citygml::readingThreads() == 1) {
         return;
     }
     const std::lock_guard<std::mutex> lock(mutex);

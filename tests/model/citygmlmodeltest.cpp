@@ -4,6 +4,7 @@
 #include "support/SignalRecorder.h"
 #include "support/TestClass.h"
 
+#include <atomic>
 #include <limits>
 #include <memory>
 #include <QMetaMethod>
@@ -23,11 +24,11 @@ namespace {
 class WatchedDocument : public core::CityModelType
 {
 public:
-    explicit WatchedDocument(int& deletions) : deletions(deletions) {}
+    explicit WatchedDocument(std::atomic<int>& deletions) : deletions(deletions) {}
     ~WatchedDocument() override { ++deletions; }
 
 private:
-    int& deletions;
+    std::atomic<int>& deletions;
 };
 
 std::auto_ptr<core::CityModelType> documentOf(const QStringList& ids)
@@ -495,24 +496,37 @@ private slots:
     void theModelOwnsItsDocument()
     {
         ModelLog log;
-        int deletions = 0;
+        std::atomic<int> deletions{0};
         {
             OpenModel model;
             auto* const first = new WatchedDocument(deletions);
             model.load(std::auto_ptr<core::CityModelType>(first));
             QCOMPARE(model.cityGML(), first);
             model.load(std::auto_ptr<core::CityModelType>(first));
-            QCOMPARE(deletions, 0);
+            QCOMPARE(deletions.load(), 0);
             QCOMPARE(model.rowCount(), 1);
             model.load(std::auto_ptr<core::CityModelType>(new WatchedDocument(deletions)));
-            QCOMPARE(deletions, 1);
+            QCOMPARE(deletions.load(), 1);
             model.loadText("no document");
-            QCOMPARE(deletions, 1);
+            QCOMPARE(deletions.load(), 1);
             model.loadText(town(1));
-            QCOMPARE(deletions, 2);
+            QCOMPARE(deletions.load(), 2);
             model.load(std::auto_ptr<core::CityModelType>(new WatchedDocument(deletions)));
         }
-        QCOMPARE(deletions, 3);
+        QCOMPARE(deletions.load(), 3);
+    }
+
+    /// A large one ends in another thread.
+    void theModelOwnsALargeDocument()
+    {
+        std::atomic<int> deletions{0};
+        OpenModel model;
+        auto* const large = new WatchedDocument(deletions);
+        large->featureMember().resize(1000);
+        model.load(std::auto_ptr<core::CityModelType>(large));
+        model.loadText(town(1));
+        QTRY_COMPARE(deletions.load(), 1);
+        QCOMPARE(model.rowCount(), 2);
     }
 
     void malformedFirstDocument()

@@ -215,6 +215,9 @@ void CityGMLModel::setDocument(std::auto_ptr<core::CityModelType> document)
 {
     std::auto_ptr<core::CityModelType> former(cityModel);
     cityModel = document;
+    if (former.get() == cityModel.get()) {
+        former.release();
+    }
     core::freeCityModel(former);
 }
 
