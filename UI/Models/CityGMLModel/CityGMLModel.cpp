@@ -175,8 +175,8 @@ void CityGMLModel::load(std::istream& stream)
     beginResetModel();
     clearModel();
     try {
-        setDocument(
-            core::CityModel(stream, xsd::cxx::tree::flags::dont_validate, xsd::cxx::tree::properties<char>()));
+        setDocument(core::CityModel(stream, xsd::cxx::tree::flags::dont_validate,
+                                    xsd::cxx::tree::properties<char>()));
     } catch (const SchemaError& error) {
         logError(logger, error, __LINE__);
     }
