@@ -212,7 +212,7 @@ private slots:
         QVERIFY(write(*document).contains("<core:creationDate>2009-04-03Z</core:creationDate>"));
     }
 
-    void elementsWithinValuesComeBack_data()
+    void nodesWithinValuesComeBack_data()
     {
         QTest::addColumn<QByteArray>("content");
         QTest::newRow("text") << buildingMember("<gml:name>ab<x:a/>cd<x:b>in</x:b></gml:name>");
@@ -221,6 +221,17 @@ private slots:
             << buildingMember("<bldg:measuredHeight uom='m'><x:a/>12.50</bldg:measuredHeight>");
         QTest::newRow("behind a number")
             << buildingMember("<bldg:measuredHeight uom='m'>12.50<x:a/></bldg:measuredHeight>");
+        QTest::newRow("comment and instruction in a text")
+            << buildingMember("<gml:name>a<!--one-->b<?two 2?> c<!--three--></gml:name>");
+        QTest::newRow("comment alone") << buildingMember("<gml:name><!--none--></gml:name>");
+        QTest::newRow("comments beside a number")
+            << buildingMember("<bldg:measuredHeight uom='m'><!--a-->12.50<!--b--></bldg:measuredHeight>");
+        QTest::newRow("comments beside a plain value")
+            << buildingMember("<bldg:storeysAboveGround><!--a-->2<?b?></bldg:storeysAboveGround>");
+        QTest::newRow("comment beside a value that is nil")
+            << buildingMember("<bldg:storeysAboveGround xsi:nil='true'><!--a--></bldg:storeysAboveGround>");
+        QTest::newRow("comment in a wrong value")
+            << buildingMember("<bldg:storeysAboveGround>ma<!--a-->ny</bldg:storeysAboveGround>");
         QTest::newRow("plain value") << buildingMember(
             "<bldg:storeysAboveGround x:b='1'>2<x:a/></bldg:storeysAboveGround>");
         QTest::newRow("in front of a plain value")
@@ -230,7 +241,7 @@ private slots:
             "<gml:boundedBy><gml:Envelope><gml:lowerCorner>1 2<x:a/></gml:lowerCorner>"
             "<gml:upperCorner><x:b/>3 4</gml:upperCorner></gml:Envelope></gml:boundedBy>");
     }
-    void elementsWithinValuesComeBack()
+    void nodesWithinValuesComeBack()
     {
         QFETCH(QByteArray, content);
         const QByteArray original = documentText(content);

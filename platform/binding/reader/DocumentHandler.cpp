@@ -328,13 +328,11 @@ void DocumentHandler::startValue(const TypeIndex::FlatMember& member, NameId id,
 /// \param standsFor see KeptContent::Node
 void DocumentHandler::startUnknown(const char* name, const XmlAttributes& attributes, std::uint8_t standsFor)
 {
-    const bool isChild = open.top().content == Content::Children;
-    const Position position = isChild ? open.behindLastChild() : Position::inText(text.size());
     log.add("element", name);
     if (checks != nullptr) {
         checks->meetElement(open.top().type, name);
     }
-    unknown.begin(position, scopes.around(open.count() + 1), standsFor);
+    unknown.begin(placeOfNode(), scopes.around(open.count() + 1), standsFor);
     unknown.startElement(name, attributes);
 }
 
@@ -429,7 +427,7 @@ void DocumentHandler::endElement(const char* name)
     if (unknown.isOpen()) {
         unknown.endElement(name);
         if (!unknown.isOpen()) {
-            keepUnknown(open.top());
+            keepNode(unknown.take());
         }
         return;
     }
@@ -555,13 +553,11 @@ void DocumentHandler::keepMarkup(Kind kind, const char* what, std::string markup
         (document ? document->epilogue : prologue).push_back(std::move(markup));
         return;
     }
-    OpenElement& element = open.top();
-    if (element.content != Content::Children) {
-        return;
-    }
     log.add(what);
-    keepText(element);
-    KeptContent::of(*element.object).addNode({open.behindLastChild(), kind, std::move(markup), nullptr});
+    if (open.top().content == Content::Children) {
+        keepText(open.top());
+    }
+    keepNode({placeOfNode(), kind, std::move(markup), nullptr});
 }
 
 /// Keeps the text in front of a child or an end tag, where it is not just the white space between elements.
@@ -583,13 +579,21 @@ void DocumentHandler::keepText(const OpenElement& element)
     text.clear();
 }
 
-void DocumentHandler::keepUnknown(const OpenElement& parent)
+/// Keeps a node with the innermost element.
+void DocumentHandler::keepNode(KeptContent::Node node)
 {
-    if (parent.content == Content::Value) {
-        keptValue().nodes.push_back(unknown.take());
+    const OpenElement& owner = open.top();
+    if (owner.content == Content::Value) {
+        keptValue().nodes.push_back(std::move(node));
     } else {
-        KeptContent::of(*parent.object).addNode(unknown.take());
+        KeptContent::of(*owner.object).addNode(std::move(node));
     }
+}
+
+/// Where a node stands that begins now: behind the children of the innermost element, or in its text.
+KeptContent::Position DocumentHandler::placeOfNode()
+{
+    return open.top().content == Content::Children ? open.behindLastChild() : Position::inText(text.size());
 }
 
 KeptContent::Value& DocumentHandler::keptValue()

@@ -118,7 +118,8 @@ private:
 
     void keepText(const OpenElement& element);
     void keepMarkup(KeptContent::Kind kind, const char* what, std::string markup);
-    void keepUnknown(const OpenElement& parent);
+    void keepNode(KeptContent::Node node);
+    KeptContent::Position placeOfNode();
     KeptContent::Value& keptValue();
 
     const XmlParser& parser;

@@ -18,6 +18,12 @@ bool hasNilAttribute(const KeptContent* kept)
     return kept != nullptr && kept->hasNilAttribute();
 }
 
+/// Whether a text is the document's own, of a value that is wrong.
+bool isTextOf(const KeptContent::Value* value, std::string_view text)
+{
+    return value != nullptr && value->isWrong && value->spelling == text;
+}
+
 /// Whether a program has set no value in a required member that has none to write.
 bool isForgotten(const xml_schema::type& owner, const TypeIndex::FlatMember& member)
 {
@@ -153,7 +159,8 @@ void ElementWriter::writeText(const xml_schema::type& object, const TypeIndex& t
     out.endStartTag();
     if (hasNodes) {
         const bool isString = dynamic_cast<const std::string*>(&object) != nullptr;
-        keptWriter.writeText(name, text, kept->nodes(), isString);
+        const bool splitsWords = isString || isTextOf(kept->wrongValueOf(std::nullopt), text);
+        keptWriter.writeText(name, text, kept->nodes(), splitsWords);
     } else {
         out.text(name, text);
     }
@@ -286,7 +293,7 @@ void ElementWriter::writeValue(const Content& content, const TypeIndex::FlatMemb
     } else {
         out.endStartTag();
         if (hasNodes) {
-            keptWriter.writeText(name, text, child.kept->nodes, false);
+            keptWriter.writeText(name, text, child.kept->nodes, isTextOf(child.kept, text));
         } else {
             out.text(name, text);
         }
