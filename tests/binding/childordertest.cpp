@@ -289,14 +289,11 @@ private slots:
         QTest::newRow("nothing but one too many")
             << roof("1") + storeys("3") + "<x:a/>" + roof("2") + "<x:b/>"
             << roof("1") + roof("2") + storeys("3") + "<x:a/><x:b/>" << 1;
+        const QByteArray description = "<gml:description>d</gml:description>";
+        const QByteArray other = "<g:description xmlns:g='http://www.opengis.net/gml'>e</g:description>";
         QTest::newRow("one too many with a declaration of its own")
-            << name("a") + storeys("3") +
-                   "<gml:description>d</gml:description>"
-                   "<g:description xmlns:g='http://www.opengis.net/gml'>e</g:description>"
-            << "<gml:description>d</gml:description>"
-               "<g:description xmlns:g='http://www.opengis.net/gml'>e</g:description>" +
-                   name("a") + storeys("3")
-            << 1;
+            << description + name("a") + storeys("3") + other
+            << description + other + name("a") + storeys("3") << 1;
         QTest::newRow("what alternates stays") << ring(position + "<x:a/>" + point + position)
                                                << ring(position + "<x:a/>" + point + position) << 0;
         QTest::newRow("what alternates, behind what is late")

@@ -168,8 +168,11 @@ private slots:
         row("line ends", one + "\r\n" + two + "\r\r\n\n" + three + "\n<x:y");
         row("columns", one + "<!--\xc3\xa4\xe2\x82\xac-->" + two + three + "</x:y>");
         row("single members", "<gml:boundedBy/>" + one + "<gml:boundedBy/>" + two + "<gml:name>n</gml:name>");
-        row("late members", one + "<gml:name>n</gml:name><gml:name>m</gml:name>" + two +
-                                "\n <gml:name>o</gml:name><!--b-->" + three);
+        // So large that there are several pieces.
+        row("late members",
+            one + "<gml:name>n</gml:name><gml:name>m</gml:name>" + two +
+                building("l", "<gml:description>" + std::string(100000, '-') + "</gml:description>") +
+                "\n <gml:name>o</gml:name><!--b-->" + three);
         row("an identifier twice", one + two + building("x") + "\n" + three + one + two);
         row("an identifier twice in one",
             one + building("z", "<bldg:consistsOfBuildingPart><bldg:BuildingPart "
