@@ -200,7 +200,9 @@ bool DocumentHandler::startChild(const MemberSlot& slot, NameId id, const XmlAtt
         tellFaults(open.wholePath(names) + '/' + names.textOf(id), featureIdOf(slot.type, attributes));
         return false;
     }
-    noteOrder(member, id);
+    if (open.isLate(member)) {
+        noteLateChild(id);
+    }
     open.beginChild(member, id);
     if (type == nullptr) {
         startValue(member, id, attributes);

@@ -96,7 +96,7 @@ private:
     void addObject(const TypeIndex::FlatMember& member, std::unique_ptr<xml_schema::type> created);
     void endChildApart();
     void addFinding(Finding finding);
-    void noteOrder(const TypeIndex::FlatMember& member, NameId id);
+    void noteLateChild(NameId id);
     void tellSurplus(const MemberSlot& slot, NameId id, const XmlAttributes& attributes);
     void addFault(const std::string& reason);
     void tellFaults(const std::string& path) { tellFaults(path, open.featureId()); }

@@ -38,10 +38,10 @@ bool DocumentHandler::isAboutOrder(const Finding& finding)
 
 /// Notes it as a fault where a child begins that belongs in front of the last one. Both ways of reading take
 /// any order. Of a root's child that is read apart it is not known what stands in front of it.
-void DocumentHandler::noteOrder(const TypeIndex::FlatMember& member, NameId id)
+void DocumentHandler::noteLateChild(NameId id)
 {
     const bool isOfRootApart = isApart && open.count() == 1;
-    if (isLenient && !isOfRootApart && open.isLate(member)) {
+    if (isLenient && !isOfRootApart) {
         addFault("the element '" + names.textOf(id) + belongsInFront + names.textOf(open.top().lastName) +
                  "'");
     }

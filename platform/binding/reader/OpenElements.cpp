@@ -23,11 +23,11 @@ void OpenElements::beginChild(const TypeIndex::FlatMember& member, NameId name)
     children.push_back(member.index);
 }
 
-bool OpenElements::isLate(const TypeIndex::FlatMember& member) const
+/// Whether the member cannot alternate with that of the last child, which stands behind it in the schema.
+bool OpenElements::isOfEarlierGroup(const TypeIndex::FlatMember& member) const
 {
     const OpenElement& parent = elements.back().element;
-    return member.index < parent.lastMember &&
-           member.groupBegin != parent.type->members()[parent.lastMember].groupBegin;
+    return member.groupBegin != parent.type->members()[parent.lastMember].groupBegin;
 }
 
 std::vector<MemberIndex> OpenElements::childOrder() const

@@ -55,7 +55,11 @@ public:
     /// Notes that a child of the innermost element begins.
     void beginChild(const TypeIndex::FlatMember& member, NameId name);
     /// Whether a child of the innermost element, that is about to begin, belongs in front of the last one.
-    bool isLate(const TypeIndex::FlatMember& member) const;
+    bool isLate(const TypeIndex::FlatMember& member) const
+    {
+        // Nearly no child is in front of the last one's member.
+        return member.index < elements.back().element.lastMember && isOfEarlierGroup(member);
+    }
     /// Behind the last child of the innermost element, or in front where there is none.
     KeptContent::Position behindLastChild() const
     {
@@ -72,6 +76,8 @@ public:
     std::string featureId() const;
 
 private:
+    bool isOfEarlierGroup(const TypeIndex::FlatMember& member) const;
+
     struct Entry
     {
         OpenElement element;
