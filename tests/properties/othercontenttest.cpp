@@ -7,6 +7,8 @@
 #include "support/CityGMLModelFixture.h"
 #include "support/Documents.h"
 #include "support/FaultDocuments.h"
+#include "support/Files.h"
+#include "support/Mutants.h"
 #include "support/PropertyText.h"
 #include "support/TestClass.h"
 #include "support/TestPaths.h"
@@ -535,6 +537,29 @@ private slots:
         });
         QVERIFY2(errors.isEmpty(), qPrintable(QString::number(errors.size()) + '\n' + errors.value(0)));
         QVERIFY2(shown > 500, qPrintable(QString::number(shown)));
+    }
+
+    /// The same for documents with a change anywhere.
+    void mutantsAreShown()
+    {
+        QByteArrayList documents;
+        for (const QString& path : documentsBelow(examples())) {
+            documents << contentOf(path);
+        }
+        mutants::Maker maker(documents);
+        const int count = qEnvironmentVariableIsSet("TOLVIK_LONG_RUNS") ? 1000 : 30;
+        int shown = 0;
+        for (int i = 0; i < count; ++i) {
+            const auto mutant = maker.next();
+            if (isRefused(mutant.xml)) {
+                continue;
+            }
+            int texts = 0;
+            const QString error = errorOfEdits(mutant.xml, texts);
+            QVERIFY2(error.isEmpty(), mutant.change + ": " + error.toUtf8());
+            shown += texts;
+        }
+        QVERIFY2(shown > count / 3, qPrintable(QString::number(shown)));
     }
 
 private:
