@@ -1,4 +1,5 @@
 #include "support/Mutants.h"
+#include "fuzz/ReaderCase.h"
 #include "support/Documents.h"
 #include "support/Files.h"
 #include "support/TestClass.h"
@@ -48,7 +49,29 @@ private slots:
         run(sharedDocuments());
     }
 
+    /// A check finds something in what strict reading refuses; what was repaired opens.
+    void checksAndRepairs()
+    {
+        QByteArrayList documents;
+        for (const QString& path : exampleAndSharedDocuments()) {
+            documents << contentOf(path);
+        }
+        mutants::Maker maker(documents);
+        for (int i = 0; i < count(); ++i) {
+            const auto mutant = maker.next();
+            const QByteArray where = QByteArray::number(i) + ": " + mutant.change + ": ";
+            const std::string text = mutant.xml.toStdString();
+            QCOMPARE(where + tolvik::fuzz::runCheckCase(text).c_str(), where);
+            QCOMPARE(where + tolvik::fuzz::runRepairCase(text).c_str(), where);
+        }
+    }
+
 private:
+    static int count()
+    {
+        return qEnvironmentVariableIsSet("TOLVIK_LONG_RUNS") ? mutantsOfALongRun : mutantsOfAQuickRun;
+    }
+
     static void addWays()
     {
         QTest::addColumn<bool>("isLenient");
@@ -67,10 +90,8 @@ private:
         }
         QVERIFY(!documents.isEmpty());
         mutants::Maker maker(documents);
-        const int count =
-            qEnvironmentVariableIsSet("TOLVIK_LONG_RUNS") ? mutantsOfALongRun : mutantsOfAQuickRun;
         int opened = 0;
-        for (int i = 0; i < count; ++i) {
+        for (int i = 0; i < count(); ++i) {
             const auto mutant = maker.next();
             const QByteArray where =
                 QByteArray::number(i) + " of " + paths[mutant.source].toUtf8() + ": " + mutant.change;
@@ -95,8 +116,8 @@ private:
             QVERIFY2(problem.isEmpty(), where + ": " + problem.toUtf8());
             QVERIFY2(write(*again) == saved, where);
         }
-        qInfo("%d mutants, %d open", count, opened);
-        QVERIFY(opened > count / 4);
+        qInfo("%d mutants, %d open", count(), opened);
+        QVERIFY(opened > count() / 4);
     }
 };
 

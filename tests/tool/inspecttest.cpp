@@ -251,8 +251,8 @@ private slots:
     {
         const ProcessResult help = inspect({"--help"});
         QCOMPARE(help.code, 0);
-        for (const char* command :
-             {"rows FILE...", "tree FILE...", "properties FILE...", "set FILE", "save FILE"}) {
+        for (const char* command : {"rows FILE...", "tree FILE...", "properties FILE...", "set FILE",
+                                    "save FILE", "check FILE...", "repair FILE OUT"}) {
             QVERIFY2(help.out.contains(command), command);
         }
         // What the code of a refused value means.
