@@ -270,26 +270,6 @@ private slots:
         QVERIFY2(complaints.isEmpty(), qPrintable(complaints.text()));
     }
 
-    void repairsPutElementsInOrder()
-    {
-        Complaints complaints;
-        for (const Document& document : qAsConst(documents)) {
-            if (document.kind != Kind::OutOfOrder) {
-                continue;
-            }
-            std::istringstream stream(document.faulty.toStdString());
-            const testsupport::Document repaired =
-                citygml::repairDocument(stream, [](const citygml::Finding&) {});
-            for (const citygml::Finding& finding : findingsIn(write(*repaired))) {
-                complaints.add(document, textOf(finding));
-            }
-            if (!citygml::findingsOf(*repaired).empty()) {
-                complaints.add(document, "has findings still");
-            }
-        }
-        QVERIFY2(complaints.isEmpty(), qPrintable(complaints.text()));
-    }
-
 private:
     static void expect(const QMap<QString, int>& made, const QString& kind, QStringList& missing)
     {
