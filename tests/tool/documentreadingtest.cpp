@@ -127,7 +127,8 @@ private slots:
     {
         QTest::addColumn<QByteArray>("xml");
         QTest::addColumn<QString>("reason");
-        QTest::newRow("broken") << documentText("") + "<x>" << "junk after document element";
+        QTest::newRow("broken") << documentText("") + "<x>"
+                                << "junk after document element";
         QTest::newRow("another root") << QByteArray("<x/>") << "document:1:1 error: the root element is 'x'";
         QTest::newRow("an identifier twice")
             << documentText(buildingMember("", "b") + buildingMember("", "b")) << "'b'";
