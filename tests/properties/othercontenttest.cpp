@@ -2,6 +2,7 @@
 #include "framework/CoreProperty.h"
 #include "framework/PropertyProvider.h"
 #include "gml/AbstractFeatureType.hxx"
+#include "gml/LengthType.hxx"
 #include "gml/SolidPropertyType.hxx"
 #include "gml/SolidType.hxx"
 #include "support/CityGMLModelFixture.h"
@@ -433,6 +434,21 @@ private slots:
         QCOMPARE(texts[2]->value(), QVariant(""));
         model.propertyChanged(model.index(1, 0), true);
         QCOMPARE(textOf(model.group(1)), QString("x:a ''\n"));
+    }
+
+    void nilGoesWithAnEditOfTheValue()
+    {
+        TreesModel model(documentText(buildingMember("<bldg:measuredHeight xsi:nil='true' uom='m'/>"
+                                                     "<bldg:storeysAboveGround xsi:nil='true'>"
+                                                     "<x:a/></bldg:storeysAboveGround>")));
+        QCOMPARE(textsIn(model.group(1)).size(), 3);
+        const Fondo::RefPtr<CoreProperty> root = propertiesOf(*model.getFeature(1), false);
+        findProperty(root, {"Fields", "StoreysAboveGround"})->setValue(4);
+        // In place, which leaves all else that the object has.
+        static_cast<double&>(*dynamic_cast<bldg::BuildingType&>(*model.getFeature(1)).measuredHeight()) = 1;
+        QVERIFY(!model.saved().contains("nil=") && !model.saved().contains("x:a"));
+        model.propertyChanged(model.index(1, 0), true);
+        QCOMPARE(textOf(model.group(1)), QString());
     }
 
     /// An element that has no class goes when the member that it stands for gets an object.
