@@ -120,8 +120,8 @@ void object_sequence::insertCopies(size_type index, size_type count, const type&
 {
     for (; count != 0; --count) {
         std::unique_ptr<type> copy(value._clone(0, owner()));
-        insertOwned(index++, copy.get());
-        copy.release();
+        *open(index++, 1) = copy.get();
+        static_cast<void>(copy.release());
     }
 }
 

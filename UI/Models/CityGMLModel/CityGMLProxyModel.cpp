@@ -85,7 +85,7 @@ constexpr int lookAhead = 8;
 /// Asks for the part of a feature that holds the members of its bases, and of most types its own.
 void prefetch(const gml::AbstractFeatureType* feature)
 {
-    constexpr int line = 64;
+    constexpr std::ptrdiff_t line = 64;
     constexpr int lines = 4;
     const char* const start = reinterpret_cast<const char*>(feature);
     for (int i = 0; i < lines; ++i) {

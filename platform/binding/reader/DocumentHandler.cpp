@@ -2,6 +2,7 @@
 
 #include "platform/binding/kept/ChildOrder.h"
 #include "platform/binding/reader/DocumentChecks.h"
+#include "platform/binding/reader/IdentifierRegister.h"
 #include "platform/binding/reader/NamespaceScopes.h"
 #include "platform/binding/reader/RequiredMembers.h"
 #include "platform/binding/values/WhiteSpace.h"
@@ -20,29 +21,6 @@ namespace {
 using Content = OpenElement::Content;
 using Kind = KeptContent::Kind;
 using Position = KeptContent::Position;
-
-/// Registers identifiers that have their text with the root that they stand below.
-///
-/// \return false where one of them is in use; then none is registered
-bool registerAll(const std::vector<xml_schema::id*>& identifiers)
-{
-    std::size_t count = 0;
-    try {
-        for (; count < identifiers.size(); ++count) {
-            xml_schema::id& identifier = *identifiers[count];
-            const std::string text = identifier;
-            // Registered is what is assigned to an identifier that has no text.
-            static_cast<std::string&>(identifier).clear();
-            identifier = text;
-        }
-        return true;
-    } catch (const xsd::cxx::tree::duplicate_id<char>&) {
-        for (std::size_t i = 0; i < count; ++i) {
-            *identifiers[i] = std::string();
-        }
-        return false;
-    }
-}
 
 bool isTrue(const char* value)
 {
@@ -106,7 +84,7 @@ bool DocumentHandler::addChild(RootChild& child, const XmlParser::Place& begin)
         return false;
     }
     child.object->_container(root.get());
-    if (!registerAll(child.identifiers)) {
+    if (!registerAll(child.identifiers, *root)) {
         return false;
     }
     keepText(open.top());

@@ -1,0 +1,53 @@
+#include "platform/binding/reader/IdentifierRegister.h"
+
+#include <cstddef>
+
+namespace citygml {
+namespace binding {
+
+namespace {
+
+// To be registered by assignment, an identifier looks for its root, and copies its text, which for all of a
+// city takes as long as to read a tenth of it. The run-time has the key to itself under which an identifier
+// is registered; only in an explicit instantiation anybody may name it.
+struct Key
+{
+    friend constexpr auto keyMember(Key);
+};
+template <auto member>
+struct NamedByInstantiation
+{
+    friend constexpr auto keyMember(Key) { return member; }
+};
+template struct NamedByInstantiation<&xml_schema::id::identity_>;
+
+const xsd::cxx::tree::identity& keyOf(const xml_schema::id& identifier)
+{
+    return identifier.*keyMember(Key());
+}
+
+} // namespace
+
+bool registerAll(const std::vector<xml_schema::id*>& identifiers, xml_schema::type& root)
+{
+    std::size_t count = 0;
+    try {
+        for (; count < identifiers.size(); ++count) {
+            xml_schema::id& identifier = *identifiers[count];
+            if (!identifier.empty()) {
+                root._register_id(keyOf(identifier), identifier._container());
+            }
+        }
+        return true;
+    } catch (const xsd::cxx::tree::duplicate_id<char>&) {
+        for (std::size_t i = 0; i < count; ++i) {
+            if (!identifiers[i]->empty()) {
+                root._unregister_id(keyOf(*identifiers[i]));
+            }
+        }
+        return false;
+    }
+}
+
+} // namespace binding
+} // namespace citygml
