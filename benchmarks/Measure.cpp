@@ -1,6 +1,6 @@
 #include "Measure.h"
 
-#include <ctime>
+#include <chrono>
 #include <fstream>
 #include <malloc.h>
 #include <sys/resource.h>
@@ -21,11 +21,10 @@ double residentBytes()
 
 } // namespace
 
-double processorSeconds()
+double elapsedSeconds()
 {
-    timespec time;
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
+    const auto now = std::chrono::steady_clock::now().time_since_epoch();
+    return std::chrono::duration<double>(now).count();
 }
 
 double allocatedBytes()

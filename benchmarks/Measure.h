@@ -4,9 +4,9 @@
 
 namespace tolvik {
 
-/// Processor seconds of this process so far, all threads together. Unlike time by the clock they hardly
-/// depend on what else the machine does, and so ratios between measurements of one run mean something.
-double processorSeconds();
+/// Seconds by the clock since some moment. A document is read by several threads, so that the processor's
+/// seconds say nothing of how long a user waits; only ratios between measurements of one run mean something.
+double elapsedSeconds();
 
 /// Bytes that the process has taken from the allocator and not given back.
 double allocatedBytes();
@@ -24,20 +24,20 @@ private:
     double before;
 };
 
-/// One benchmark that times by processorSeconds() and is registered with UseManualTime().
+/// One benchmark that times by elapsedSeconds() and is registered with UseManualTime().
 class Measure
 {
 public:
     explicit Measure(benchmark::State& state) : state(state) {}
 
     /// Runs \a work as one iteration.
-    /// \return its processor seconds
+    /// \return its seconds by the clock
     template <class Work>
     double iteration(Work work)
     {
-        const double start = processorSeconds();
+        const double start = elapsedSeconds();
         work();
-        const double taken = processorSeconds() - start;
+        const double taken = elapsedSeconds() - start;
         state.SetIterationTime(taken);
         total += taken;
         ++iterations;

@@ -100,9 +100,9 @@ double Subject::expatSeconds()
 {
     if (expat == 0) {
         expat = quickest([this] {
-            const double start = processorSeconds();
+            const double start = elapsedSeconds();
             passExpat();
-            return processorSeconds() - start;
+            return elapsedSeconds() - start;
         });
     }
     return expat;
@@ -112,9 +112,9 @@ double Subject::readSeconds()
 {
     if (reading == 0) {
         reading = quickest([this] {
-            const double start = processorSeconds();
+            const double start = elapsedSeconds();
             const std::unique_ptr<core::CityModelType> document = read();
-            return processorSeconds() - start; // before the document goes
+            return elapsedSeconds() - start; // before the document goes
         });
     }
     return reading;
@@ -124,9 +124,9 @@ CityGMLModel& Subject::model()
 {
     if (!loaded) {
         loaded = std::make_unique<CityGMLModel>(nullptr, nullptr);
-        const double start = processorSeconds();
+        const double start = elapsedSeconds();
         loaded->load(file);
-        loading = processorSeconds() - start;
+        loading = elapsedSeconds() - start;
         if (loaded->rowCount() == 0) {
             throw std::runtime_error("Cannot load " + file.toStdString());
         }

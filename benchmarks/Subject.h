@@ -33,7 +33,7 @@ public:
     /// Reads the file into schema objects.
     std::unique_ptr<core::CityModelType> read() const;
 
-    // What other times are compared with, in processor seconds: the least of three tries, measured when it
+    // What other times are compared with, in seconds: the least of three tries, measured when it
     // is first asked for.
     double expatSeconds();
     double readSeconds();
@@ -41,7 +41,7 @@ public:
     /// The document loaded; loaded when it is first asked for, and kept until release().
     CityGMLModel& model();
 
-    /// The processor seconds of that load.
+    /// The seconds of that load.
     double loadSeconds();
 
     void release();

@@ -84,14 +84,14 @@ void lookUp(benchmark::State& state, const std::vector<QModelIndex>& rows, Opera
         features.push_back(model.getFeature(row));
     }
     const auto time = [](auto work) {
-        const double start = processorSeconds();
+        const double start = elapsedSeconds();
         for (int pass = 0; pass < passes; ++pass) {
             for (std::size_t i = 0; i < sampleSize; ++i) {
                 auto result = work(i);
                 benchmark::DoNotOptimize(result);
             }
         }
-        return (processorSeconds() - start) / (passes * sampleSize);
+        return (elapsedSeconds() - start) / (passes * sampleSize);
     };
     double operations = 0;
     double searches = 0;
