@@ -137,7 +137,7 @@ const std::string& TypeLabel::str() const
     return labels().texts[labelNumber()];
 }
 
-type::type() = default;
+type::type() : typeLabel() {}
 
 type::type(const type& other, ::xsd::cxx::tree::flags flags, type_base* container)
     : type_base(other, flags, container), spelledOut(other.spelledOut), elementName(other.elementName),
