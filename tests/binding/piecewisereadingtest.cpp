@@ -8,6 +8,7 @@
 
 #include "citygml/CityModel.h"
 
+#include <cstring>
 #include <QtTest>
 #include <sstream>
 
@@ -227,9 +228,23 @@ private slots:
         QVERIFY2(found.isEmpty(), found);
     }
 
+    /// A byte that begins a character takes the end of a tag along.
+    void bytesThatAreNoCharacters()
+    {
+        const std::string content = building("a") + building("b", "<x:y/>") + building("c") + building("d");
+        for (std::size_t i = 0; i < content.size(); ++i) {
+            if (content[i] == '>') {
+                std::string wrong = open + content + close;
+                wrong.insert(std::strlen(open) + i, "\xea");
+                const QByteArray found = difference(wrong);
+                QVERIFY2(found.isEmpty(), QByteArray::number(static_cast<int>(i)) + ": " + found);
+            }
+        }
+    }
+
     void otherRoots()
     {
-        for (const char* xml : {"", " ", "<", "<x/>", "<core:CityModel/>", "<!--", "<?x",
+        for (const char* xml : {"", " ", "<", "<x/>", "<core\xea>Member>", "<core:CityModel/>", "<!--", "<?x",
                                 "<CityModel xmlns='http://www.opengis.net/citygml/2.0'/>",
                                 "<CityModel xmlns='http://www.opengis.net/citygml/1.0'><cityObjectMember/>"
                                 "<cityObjectMember/></CityModel>",

@@ -66,7 +66,11 @@ public:
     /// Identifier of the innermost feature that is open; empty where there is none, or it has no identifier.
     std::string featureId() const { return open.featureId(); }
 
-    /// Of the root, once its start tag has ended.
+    /// Whether the start tag of the root has ended.
+    bool hasRoot() const { return root != nullptr; }
+    /// Whether the root is open, and none of its children.
+    bool isBetweenChildren() const { return open.count() == 1 && !unknown.isOpen(); }
+    /// Of the root; to be asked for when there is one.
     RootContext rootContext() const;
     /// The children that have ended, of a handler for children alone.
     std::vector<RootChild> takeChildren();

@@ -68,8 +68,9 @@ void PiecewiseReader::cut()
     if (isInLargeChild) {
         isInLargeChild = cutter.childEnds().empty();
         feed(isInLargeChild ? buffer.size() : cutter.childEnds().front());
+        isWhole = !isInLargeChild && !handler.isBetweenChildren();
     }
-    if (cutter.isDone()) {
+    if (isWhole || cutter.isDone()) {
         readWhole();
     } else if (buffer.size() >= pieceSize && !cutter.childEnds().empty()) {
         addPiece();
@@ -81,6 +82,9 @@ void PiecewiseReader::cut()
     while (queue && !queue->isEmpty() && (queue->isFull() || queue->isFirstRead())) {
         takePiece();
     }
+    if (isWhole) {
+        readWhole();
+    }
 }
 
 /// Reads what stands in front of the root's children.
@@ -88,7 +92,12 @@ void PiecewiseReader::begin()
 {
     if (cutter.rootBegin() != 0 && !cutter.isDone() && isUtf8(buffer)) {
         feed(cutter.rootBegin());
-        context.emplace(handler.rootContext());
+        // In bytes that are no characters the parser may see no root yet, or another one.
+        if (handler.hasRoot()) {
+            context.emplace(handler.rootContext());
+        } else {
+            readWhole();
+        }
     } else if (cutter.rootBegin() != 0 || cutter.isDone() || buffer.size() >= pieceSize) {
         readWhole();
     }
@@ -128,10 +137,15 @@ void PiecewiseReader::takePieces()
     }
 }
 
-/// Adds the first piece to the document.
+/// Adds the first piece to the document. In bytes that are no characters the parser sees another end of a
+/// child; then it gets all that follows.
 void PiecewiseReader::takePiece()
 {
     const std::unique_ptr<Piece> piece = queue->take();
+    if (isWhole) {
+        feed(piece->behind(0));
+        return;
+    }
     const XmlParser::Place begin = place ? *place : parser.place();
     std::size_t count = 0;
     for (RootChild& child : piece->children()) {
@@ -143,6 +157,7 @@ void PiecewiseReader::takePiece()
     place = piece->placeBehind(count).from(begin);
     if (!piece->behind(count).empty()) {
         feed(piece->behind(count));
+        isWhole = !handler.isBetweenChildren();
     }
     spares.push_back(piece->takeBytes());
 }
