@@ -163,6 +163,7 @@ public:
     void reapplyPropertiesFromProviders(const QModelIndex& index);
 
     /// The same for a tree of the row that the caller has built himself.
+    /// \param index the row
     /// \param root held by a RefPtr of the caller
     void addPropertiesFromProviders(const QModelIndex& index, CoreProperty& root) const;
 

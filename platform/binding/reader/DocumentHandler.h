@@ -77,8 +77,8 @@ public:
     /// Adds a child that was read apart, at the place that has been reached.
     ///
     /// \param begin where its findings' places are counted from
-    /// \return false where an identifier in it is in use, or a finding is to be told of its place in the root;
-    /// then nothing has happened
+    /// \return false, with nothing done, where an identifier in it is in use, or there is a finding to tell
+    /// of its place in the root
     bool addChild(RootChild& child, const XmlParser::Place& begin);
 
     /// The document, with what was found in it, once the parser has come to its end.
