@@ -230,6 +230,10 @@ private slots:
             << buildingMember("<bldg:storeysAboveGround><!--a-->2<?b?></bldg:storeysAboveGround>");
         QTest::newRow("comment beside a value that is nil")
             << buildingMember("<bldg:storeysAboveGround xsi:nil='true'><!--a--></bldg:storeysAboveGround>");
+        QTest::newRow("comments between lines of a list")
+            << buildingMember("<gml:boundedBy><gml:Envelope><gml:lowerCorner><!--a-->\n 1.50   2.250\n"
+                              " <!--b--><?c?>\n 3.00  4 <!--d--> 5 6<!--e--></gml:lowerCorner>"
+                              "<gml:upperCorner>0</gml:upperCorner></gml:Envelope></gml:boundedBy>");
         QTest::newRow("comment in a wrong value")
             << buildingMember("<bldg:storeysAboveGround>ma<!--a-->ny</bldg:storeysAboveGround>");
         QTest::newRow("plain value") << buildingMember(
@@ -248,6 +252,13 @@ private slots:
         const QByteArray saved = write(*read(original));
         QCOMPARE(XmlNode::differences(XmlNode::parse(original), XmlNode::parse(saved)), QStringList());
         QCOMPARE(write(*read(saved)), saved);
+    }
+
+    // Its words are in one piece, and behind as many of them as before.
+    void aNodeWithinANumberGoesBehindIt()
+    {
+        const QByteArray saved = write(*read(withCorner("1.50 2<!--a-->.250 3.00")));
+        QVERIFY(saved.contains("<gml:lowerCorner>1.5 2.25<!--a--> 3</gml:lowerCorner>"));
     }
 
     void nilValues()

@@ -82,11 +82,13 @@ public:
         {
             return Position(0, static_cast<std::uint32_t>(children));
         }
-        /// Behind so many bytes of a text.
-        static Position inText(std::size_t bytes) { return Position(0, static_cast<std::uint32_t>(bytes)); }
+        /// Behind so many bytes of a string or of a text that is wrong, or behind so many words of any other
+        /// value, which may be spelled otherwise when it is written.
+        static Position inText(std::size_t count) { return Position(0, static_cast<std::uint32_t>(count)); }
 
         MemberIndex member() const { return memberIndex; }
-        /// Number of children of the member in front of it, of all children, or of bytes in a text.
+        /// Number of children of the member in front of it, of all children, or of bytes or words
+        /// in a text.
         std::size_t count() const { return inFrontOfIt; }
 
         friend bool operator<(const Position& a, const Position& b)
@@ -280,9 +282,9 @@ public:
     void setChildOrder(std::vector<MemberIndex> members) { order = std::move(members); }
     /// Gives each node another position.
     ///
-    /// \param newPosition answers it, for a node
+    /// \param newPosition answers it, for one node after the other
     template <typename Function>
-    void moveNodes(const Function& newPosition)
+    void moveNodes(Function newPosition)
     {
         for (Node& node : keptNodes) {
             node.position = newPosition(static_cast<const Node&>(node));

@@ -28,6 +28,35 @@ bool isTrue(const char* value)
     return text == "true" || text == "1";
 }
 
+/// Says of nodes that stand behind so many bytes of a text, one behind the other, behind how many words they
+/// stand. One that stands in a word stands behind it.
+class WordCounter
+{
+public:
+    explicit WordCounter(std::string_view text) : text(text) {}
+
+    Position operator()(const KeptContent::Node& node)
+    {
+        for (; at < node.position.count(); ++at) {
+            const bool isBlank = isSpace(text[at]);
+            words += !isBlank && !isInWord ? 1 : 0;
+            isInWord = !isBlank;
+        }
+        return Position::inText(words);
+    }
+
+private:
+    std::string_view text;
+    std::size_t at = 0;
+    std::size_t words = 0;
+    bool isInWord = false;
+};
+
+bool isString(const xml_schema::type& object)
+{
+    return dynamic_cast<const std::string*>(&object) != nullptr;
+}
+
 /// Whether a member has its only value already, or one that is absent.
 bool isTaken(const xml_schema::type& owner, const TypeIndex& type, const MemberSlot& slot)
 {
@@ -449,6 +478,9 @@ void DocumentHandler::endText(const OpenElement& element)
     if (!element.isNil || !isBlank(text)) {
         try {
             values.readText(*element.object, *element.type, element.name, text);
+            if (KeptContent::find(*element.object) != nullptr && !isString(*element.object)) {
+                KeptContent::of(*element.object).moveNodes(WordCounter(text));
+            }
         } catch (const ValueError& error) {
             addFault(error.message);
             tellFaults(open.wholePath(names));
@@ -482,6 +514,12 @@ void DocumentHandler::readValue(const OpenElement& element)
         std::string spelling = values.readValue(*element.object, *element.member, element.name, text);
         if (!spelling.empty()) {
             keptValue().spelling = std::move(spelling);
+        }
+        if (ofValue) {
+            WordCounter counter(text);
+            for (KeptContent::Node& node : ofValue->nodes) {
+                node.position = counter(node);
+            }
         }
     } catch (const ValueError& error) {
         addFault(error.message);

@@ -36,11 +36,22 @@ std::set<std::string_view> prefixesIn(std::string_view xml)
     return result;
 }
 
-/// Whether a node must not stand at that byte of a text: within a character, and in a list within a word.
-bool isWithin(std::string_view text, std::size_t byte, bool splitsWords)
+/// The next end of a word.
+std::size_t endOfWord(std::string_view text, std::size_t begin)
 {
-    return splitsWords ? (static_cast<unsigned char>(text[byte]) & 0xC0u) == 0x80u
-                       : byte != 0 && text[byte - 1] != ' ' && text[byte] != ' ';
+    constexpr std::string_view space = " \t\r\n";
+    const std::size_t word = text.find_first_not_of(space, begin);
+    return word != std::string_view::npos ? std::min(text.find_first_of(space, word), text.size())
+                                          : text.size();
+}
+
+/// The first byte of a character from a byte on.
+std::size_t characterFrom(std::string_view text, std::size_t byte)
+{
+    while (byte < text.size() && (static_cast<unsigned char>(text[byte]) & 0xC0u) == 0x80u) {
+        ++byte;
+    }
+    return std::min(byte, text.size());
 }
 
 } // namespace
@@ -80,11 +91,13 @@ void KeptContentWriter::declarePrefixes(const KeptContent::Node& node, std::stri
 void KeptContentWriter::writeText(const std::string& element, std::string_view text,
                                   const std::vector<KeptContent::Node>& nodes, bool splitsWords)
 {
-    std::size_t written = 0;
+    std::size_t written = 0, end = 0, words = 0;
     for (const KeptContent::Node& node : nodes) {
-        std::size_t end = std::min(node.position.count(), text.size());
-        while (end < text.size() && isWithin(text, end, splitsWords)) {
-            ++end;
+        if (splitsWords) {
+            end = characterFrom(text, node.position.count());
+        }
+        for (; !splitsWords && words < node.position.count() && end < text.size(); ++words) {
+            end = endOfWord(text, end);
         }
         if (end > written) {
             out.text(element, text.substr(written, end - written));
