@@ -3,6 +3,7 @@
 #include "platform/binding/reader/DocumentHandler.h"
 #include "platform/binding/reader/Encodings.h"
 
+#include <algorithm>
 #include <istream>
 #include <utility>
 #include <vector>
@@ -70,10 +71,11 @@ void PiecewiseReader::cut()
         feed(isInLargeChild ? buffer.size() : cutter.childEnds().front());
         isWhole = !isInLargeChild && !handler.isBetweenChildren();
     }
+    if (!isWhole) {
+        addPieces();
+    }
     if (isWhole || cutter.isDone()) {
         readWhole();
-    } else if (buffer.size() >= pieceSize && !cutter.childEnds().empty()) {
-        addPiece();
     } else if (buffer.size() >= mostPieces * pieceSize) {
         takePieces();
         feed(buffer.size());
@@ -113,12 +115,24 @@ void PiecewiseReader::readWhole()
     }
 }
 
-void PiecewiseReader::addPiece()
+void PiecewiseReader::addPieces()
+{
+    const std::vector<std::size_t>& ends = cutter.childEnds();
+    for (auto end = ends.begin(); end != ends.end(); end = ends.begin()) {
+        end = std::lower_bound(ends.begin(), ends.end(), pieceSize);
+        if (end == ends.end()) {
+            break;
+        }
+        addPiece({ends.begin(), end + 1});
+    }
+}
+
+/// \param ends behind which bytes of the buffer the children of the piece end
+void PiecewiseReader::addPiece(std::vector<std::size_t> ends)
 {
     if (!queue) {
         queue.emplace(*context, threads);
     }
-    std::vector<std::size_t> ends = cutter.childEnds();
     std::string rest;
     if (!spares.empty()) {
         rest = std::move(spares.back());

@@ -39,7 +39,8 @@ private:
     void cut();
     void begin();
     void readWhole();
-    void addPiece();
+    void addPieces();
+    void addPiece(std::vector<std::size_t> ends);
     void takePieces();
     void takePiece();
     void feed(std::size_t count);
