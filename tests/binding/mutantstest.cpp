@@ -56,6 +56,7 @@ private slots:
         for (const QString& path : exampleAndSharedDocuments()) {
             documents << contentOf(path);
         }
+        QVERIFY(!documents.isEmpty());
         mutants::Maker maker(documents);
         for (int i = 0; i < count(); ++i) {
             const auto mutant = maker.next();
