@@ -27,7 +27,7 @@ public:
     /// Writes the text of an element with the nodes that stand in it.
     ///
     /// \param nodes in the order of the text, which may be another by now
-    /// \param splitsWords whether their positions count bytes, so that one may stand in a word; else they count
+    /// \param splitsWords whether positions count bytes, so that a node may stand in a word; else they count
     /// words
     void writeText(const std::string& element, std::string_view text,
                    const std::vector<KeptContent::Node>& nodes, bool splitsWords);
