@@ -92,7 +92,7 @@ void PiecewiseReader::cut()
 /// Reads what stands in front of the root's children.
 void PiecewiseReader::begin()
 {
-    if (cutter.rootBegin() != 0 && !cutter.isDone() && isUtf8(buffer)) {
+    if (cutter.rootBegin() != 0 && isUtf8(buffer)) {
         feed(cutter.rootBegin());
         // In bytes that are no characters the parser may see no root yet, or another one.
         if (handler.hasRoot()) {
