@@ -1,0 +1,76 @@
+#pragma once
+
+#include "UI/Models/CityGMLModel/CityGMLModel.h"
+#include "UI/Models/CityGMLModel/CityGMLTreeModel.h"
+
+#include <QItemSelectionModel>
+#include <QObject>
+#include <QString>
+#include <QUndoStack>
+
+namespace tolvik::apps {
+class DocumentReading;
+}
+
+namespace tolvik::viewer {
+
+/// The document of a window: its features as a list and as a tree, one selection over the list, and the
+/// history of its edits.
+///
+/// Everything that shows or changes the document shares these objects. They live as long as this one; what
+/// they point to in a document ends when opened() announces the next one.
+/// \code
+/// Document document;
+/// connect(&document, &Document::opened, this, &Panel::showDocument);
+/// document.undoStack().push(new SomeEdit(document.model(), ...));
+/// \endcode
+class Document : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit Document(QObject* parent = nullptr);
+    ~Document() override;
+
+    CityGMLModel& model() { return list; }
+    CityGMLTreeModel& tree() { return features; }
+    /// The selected features and the current one, as rows of model().
+    QItemSelectionModel& selection() { return selected; }
+    /// Every edit goes through it: the document counts as modified while the stack is not clean.
+    QUndoStack& undoStack() { return edits; }
+
+    /// Whether there is a document.
+    bool isOpen() const { return list.cityGML() != nullptr; }
+    /// Path of the document's file; empty before one is opened, and for one that has no file.
+    const QString& fileName() const { return list.getFileName(); }
+    /// Whether there are edits that were not saved.
+    bool isModified() const { return !edits.isClean(); }
+
+    /// Puts a document that was read in place of the present one. The history of edits is empty then.
+    /// \param reading has a document; gives it away
+    void open(apps::DocumentReading& reading);
+
+    /// Tells that the document has been saved under a name, so that it is not modified any more.
+    void noteSaved(const QString& path);
+
+    /// Makes a feature the current one, and the only one that is selected.
+    /// \param row a row of model()
+    void goTo(int row);
+
+signals:
+    /// The present document is about to be replaced: the last moment to read what belongs to it.
+    void aboutToBeOpened();
+    /// Another document is in place.
+    void opened();
+    /// The document is, or is no longer, as it was saved.
+    void modifiedChanged(bool modified);
+    void fileNameChanged(const QString& path);
+
+private:
+    CityGMLModel list;
+    CityGMLTreeModel features;
+    QItemSelectionModel selected;
+    QUndoStack edits;
+};
+
+} // namespace tolvik::viewer

@@ -1,0 +1,31 @@
+#include "apps/viewer/document/RecordedEdit.h"
+
+#include <QHash>
+
+namespace tolvik::viewer {
+
+namespace {
+
+QHash<QString, RecordedEdit::Maker>& makers()
+{
+    static QHash<QString, RecordedEdit::Maker> byKind;
+    return byKind;
+}
+
+} // namespace
+
+RecordedEdit::~RecordedEdit() = default;
+
+void RecordedEdit::addMaker(const QString& kind, Maker maker)
+{
+    makers().insert(kind, std::move(maker));
+}
+
+std::unique_ptr<RecordedEdit> RecordedEdit::make(const QString& kind, Document& document,
+                                                 const QJsonObject& record)
+{
+    const Maker maker = makers().value(kind);
+    return maker ? maker(document, record) : nullptr;
+}
+
+} // namespace tolvik::viewer

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <QJsonObject>
+#include <QString>
+#include <QUndoCommand>
+
+namespace tolvik::viewer {
+
+class Document;
+
+/// An edit that can be written down, and done again after the program has been interrupted.
+///
+/// What is written names features by their identifier or their position in the document, never by a pointer.
+class RecordedEdit : public QUndoCommand
+{
+public:
+    /// Makes an edit of what record() wrote; null where it does not fit the document.
+    using Maker = std::function<std::unique_ptr<RecordedEdit>(Document& document, const QJsonObject& record)>;
+
+    using QUndoCommand::QUndoCommand;
+    ~RecordedEdit() override;
+
+    /// The kind of the edit, under which its maker is registered.
+    virtual QString kind() const = 0;
+
+    /// Everything that it takes to make this edit for the same document in the same state. Called when the
+    /// edit is on the stack for the first time, and when an edit was merged into it.
+    virtual QJsonObject record() const = 0;
+
+    /// Registers the maker of a kind.
+    static void addMaker(const QString& kind, Maker maker);
+
+    /// \return null for a kind that nobody has registered, and where the maker refuses
+    static std::unique_ptr<RecordedEdit> make(const QString& kind, Document& document,
+                                              const QJsonObject& record);
+};
+
+} // namespace tolvik::viewer

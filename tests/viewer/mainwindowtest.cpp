@@ -1,0 +1,32 @@
+#include "apps/viewer/window/MainWindow.h"
+#include "apps/viewer/document/Document.h"
+#include "support/TestClass.h"
+#include "support/TestPaths.h"
+
+#include <QTreeView>
+#include <QtTest>
+
+using namespace testsupport;
+using namespace tolvik::viewer;
+
+/// The window of the desktop program as a whole.
+class MainWindowTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aDocumentShowsInTheTree()
+    {
+        MainWindow window;
+        window.show();
+        window.open(examples() + "/district.gml");
+        const auto* const tree = window.findChild<QTreeView*>("featureTree");
+        QVERIFY(tree != nullptr);
+        QCOMPARE(tree->model()->rowCount(), 1);
+        QVERIFY(window.document().isOpen());
+        QVERIFY(!window.document().isModified());
+    }
+};
+
+TEST_CLASS(MainWindowTest, Widgets)
+#include "mainwindowtest.moc"
