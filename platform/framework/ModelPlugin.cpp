@@ -1,0 +1,7 @@
+#include "framework/ModelPlugin.h"
+
+namespace tolvik {
+
+ModelPlugin::~ModelPlugin() = default;
+
+} // namespace tolvik
