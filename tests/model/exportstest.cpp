@@ -10,6 +10,7 @@ using namespace testsupport;
 namespace {
 
 const QStringList exportedClasses{
+    "CityGMLFeatureList",
     "CityGMLModel",
     "CityGMLProxyModel",
     "TreeNodeGML",
@@ -22,7 +23,10 @@ const QStringList exportedClasses{
     "CityGMLPropertiesVisitor",
     "GmlEditRangeDialog",
     "OtherContentProvider",
+    "FeaturePropertyModel",
 };
+
+const QStringList exportedFunctions{"featureRoleNames", "firstCharacterNotInXml"};
 
 const QStringList exportedFunctionTemplates{"toQVariant", "fromQVariant", "defaultValue", "getEnumList"};
 
@@ -72,6 +76,7 @@ private slots:
         const QString record = "_ZT[VIST](?:N)";
         const QStringList allowed{
             member + anyOf(exportedClasses, "(?!E)"),
+            member + anyOf(exportedFunctions, "E"),
             member + anyOf(exportedClassTemplates, "I.*E.*"),
             member + anyOf(exportedFunctionTemplates, "I"),
             record + anyOf(exportedClasses, "E$"),

@@ -129,7 +129,7 @@ QStringList moved(const QString& rest)
     return lines("rowsAboutToBeMoved", "rowsMoved", rest);
 }
 
-const char boxes[] = "[10]";
+const char boxes[] = "[10 260]";
 
 QString changed(const QString& corners, const char* roles = boxes)
 {

@@ -2,6 +2,7 @@
 
 #include "gml/AbstractFeatureType.hxx"
 #include "UI/Models/CityGMLModel/CityGMLModel.h"
+#include "UI/Models/CityGMLModel/FeatureAnswers.h"
 
 #include <algorithm>
 #include <iterator>
@@ -124,7 +125,10 @@ struct CityGMLTreeModel::Links
     }
 };
 
-CityGMLTreeModel::CityGMLTreeModel(const QString& name, QObject* parent) : CityGMLProxyModel(name, parent) {}
+CityGMLTreeModel::CityGMLTreeModel(const QString& name, QObject* parent)
+    : CityGMLProxyModel(name, parent), answers(new FeatureAnswers(this))
+{
+}
 
 CityGMLTreeModel::~CityGMLTreeModel() = default;
 
@@ -168,8 +172,28 @@ QModelIndex CityGMLTreeModel::indexOf(Node* node) const
     return node != nullptr ? nodeIndex(node) : QModelIndex();
 }
 
+void CityGMLTreeModel::setSourceModel(QAbstractItemModel* model)
+{
+    answers->setSource(qobject_cast<CityGMLModel*>(model));
+    CityGMLProxyModel::setSourceModel(model);
+}
+
+QHash<int, QByteArray> CityGMLTreeModel::roleNames() const
+{
+    return featureRoleNames(CityGMLProxyModel::roleNames());
+}
+
+QVariant CityGMLTreeModel::data(const QModelIndex& index, int role) const
+{
+    return FeatureAnswers::isFeatureRole(role) ? answers->data(mapToSource(index), role)
+                                               : CityGMLProxyModel::data(index, role);
+}
+
 bool CityGMLTreeModel::setData(const QModelIndex& index, const QVariant& value, int role)
 {
+    if (FeatureAnswers::isFeatureRole(role)) {
+        return answers->setData(mapToSource(index), value, role);
+    }
     if (role != Qt::CheckStateRole) {
         return CityGMLProxyModel::setData(index, value, role);
     }
@@ -581,7 +605,7 @@ void CityGMLTreeModel::announceStates()
             }
         }
     }
-    announce(changed, {Qt::CheckStateRole});
+    announce(changed, {Qt::CheckStateRole, FeatureVisibilityRole});
 }
 
 /// Announces changes of nodes in as few ranges of whole rows as there can be, parents in the order in which

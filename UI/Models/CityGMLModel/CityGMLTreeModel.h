@@ -1,10 +1,13 @@
 #pragma once
 
 #include "UI/Models/CityGMLModel/CityGMLProxyModel.h"
+#include "UI/Models/CityGMLModel/FeatureRoles.h"
 
 #include <vector>
 
 namespace tolvik {
+
+class FeatureAnswers;
 
 /// The features of a CityGMLModel as a tree that any Qt view or proxy model can stand on.
 /// \code
@@ -44,10 +47,17 @@ public:
     ~CityGMLTreeModel() override;
 
     QModelIndex mapToSource(const QModelIndex& index) const override;
+    void setSourceModel(QAbstractItemModel* model) override;
+
+    /// As in the base, and the roles of FeatureRole in every column.
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
 
     /// With the check state role of column 0, shows or hides the feature with everything below it: shows it
     /// unless \a value is Qt::Unchecked. Everything else as in the base.
     bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
+
+    /// Those of the base and of FeatureRole.
+    QHash<int, QByteArray> roleNames() const override;
 
 protected slots:
     /// Renames the nodes of the rows, and passes the change on for whole rows.
@@ -113,6 +123,8 @@ private:
 
     // Between the reset signals of the source.
     bool isEmptied = false;
+
+    FeatureAnswers* const answers;
 };
 
 } // namespace tolvik
