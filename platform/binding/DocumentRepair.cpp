@@ -28,20 +28,6 @@ IdentifierRenaming findRenaming(std::istream& stream)
     return scan.take();
 }
 
-/// Tells of an element that is out of order as of one that is not any more.
-///
-/// \return false for any other finding.
-bool tellOrdered(const Finding& finding, const std::function<void(const Finding&)>& tell)
-{
-    if (!DocumentHandler::isAboutOrder(finding)) {
-        return false;
-    }
-    Finding done = finding;
-    done.reason += "; it stands there now";
-    tell(done);
-    return true;
-}
-
 std::unique_ptr<core::CityModelType> readRenamed(std::istream& stream, const IdentifierRenaming& renaming,
                                                  const std::function<void(const Finding&)>& tell)
 {
@@ -51,7 +37,10 @@ std::unique_ptr<core::CityModelType> readRenamed(std::istream& stream, const Ide
     NamespaceScopes scopes(SchemaIndex::instance());
     XmlParser parser(scopes);
     DocumentHandler handler(parser, scopes, log, true);
-    handler.takeFindings([&](const Finding& finding) { return tellOrdered(finding, tell); });
+    handler.setOrderTaker([&](Finding finding) {
+        finding.reason += "; it stands there now";
+        tell(finding);
+    });
     RepairingHandler repairing(parser, scopes, handler, renaming, tell);
     parser.parse(stream, repairing);
     log.write();

@@ -51,10 +51,9 @@ public:
     ///
     /// \param told outlives the reading
     void setChecks(DocumentChecks& told);
-    /// Keeps no findings with the document that the taker answers true to.
-    void takeFindings(std::function<bool(const Finding&)> taker);
-    /// Whether a finding is of an element that stands behind another one where it belongs in front.
-    static bool isAboutOrder(const Finding& finding);
+    /// Tells \a taker of elements that stand behind another one where they belong in front, in place of
+    /// keeping these findings with the document.
+    void setOrderTaker(std::function<void(const Finding&)> taker) { orderTaker = std::move(taker); }
 
     void startElement(const char* name, const XmlAttributes& attributes) override;
     void endElement(const char* name) override;
@@ -102,7 +101,11 @@ private:
     void addFinding(Finding finding);
     void noteLateChild(NameId id);
     void tellSurplus(const MemberSlot& slot, NameId id, const XmlAttributes& attributes);
-    void addFault(const std::string& reason);
+    enum class FaultKind : std::uint8_t {
+        Content,
+        Order ///< the element stands behind another one where it belongs in front
+    };
+    void addFault(std::string reason, FaultKind kind = FaultKind::Content);
     void tellFaults(const std::string& path) { tellFaults(path, open.featureId()); }
     void tellFaults(const std::string& path, const std::string& featureId);
     std::string featureIdOf(const TypeIndex* type, const XmlAttributes& attributes);
@@ -145,10 +148,11 @@ private:
     std::vector<std::string> prologue;
     bool isOlder = false;
     // Why the element that is being read is not as it should be; told when its path and feature are known.
-    std::vector<std::string> faults;
+    std::vector<std::pair<FaultKind, std::string>> faults;
     // Whether one of these is the element's `xsi:type`.
     bool isOtherType = false;
     FindingLog findings;
+    std::function<void(const Finding&)> orderTaker;
     // Null but for a check.
     DocumentChecks* checks = nullptr;
     // Whether the root is a stand-in, and its children are these.

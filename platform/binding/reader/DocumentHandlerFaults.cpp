@@ -10,30 +10,13 @@
 namespace citygml {
 namespace binding {
 
-namespace {
-
-// What is said of an element, between its name and another one, where it is out of order.
-constexpr const char* belongsInFront = "' belongs in front of '";
-
-} // namespace
-
 void DocumentHandler::setChecks(DocumentChecks& told)
 {
     checks = &told;
-    takeFindings([&told](const Finding& finding) {
+    findings.setTaker([&told](const Finding& finding) {
         told.add(finding);
         return true;
     });
-}
-
-void DocumentHandler::takeFindings(std::function<bool(const Finding&)> taker)
-{
-    findings.setTaker(std::move(taker));
-}
-
-bool DocumentHandler::isAboutOrder(const Finding& finding)
-{
-    return finding.reason.find(belongsInFront) != std::string::npos;
 }
 
 /// Notes it as a fault where a child begins that belongs in front of the last one. Both ways of reading take
@@ -42,8 +25,9 @@ void DocumentHandler::noteLateChild(NameId id)
 {
     const bool isOfRootApart = isApart && open.count() == 1;
     if (isLenient && !isOfRootApart) {
-        addFault("the element '" + names.textOf(id) + belongsInFront + names.textOf(open.top().lastName) +
-                 "'");
+        addFault("the element '" + names.textOf(id) + "' belongs in front of '" +
+                     names.textOf(open.top().lastName) + "'",
+                 FaultKind::Order);
     }
 }
 
@@ -71,20 +55,25 @@ void DocumentHandler::tellMissing(const OpenElement& element)
 }
 
 /// Notes that the element which is being read is not as the schema wants it.
-void DocumentHandler::addFault(const std::string& reason)
+void DocumentHandler::addFault(std::string reason, FaultKind kind)
 {
     if (!isLenient) {
-        throw DocumentError{reason};
+        throw DocumentError{std::move(reason)};
     }
-    faults.push_back(reason);
+    faults.emplace_back(kind, std::move(reason));
 }
 
 /// Makes findings of what was noted.
 void DocumentHandler::tellFaults(const std::string& path, const std::string& featureId)
 {
     const XmlParser::Place place = parser.place();
-    for (std::string& reason : faults) {
-        addFinding({place.line, place.column, path, std::move(reason), featureId});
+    for (auto& [kind, reason] : faults) {
+        Finding finding{place.line, place.column, path, std::move(reason), featureId};
+        if (kind == FaultKind::Order && orderTaker) {
+            orderTaker(finding);
+        } else {
+            addFinding(std::move(finding));
+        }
     }
     faults.clear();
     isOtherType = false;
