@@ -242,6 +242,20 @@ private slots:
         }
     }
 
+    /// The same where a child is larger than a block, and is given to the parser bit by bit.
+    void bytesThatAreNoCharactersInALargeChild()
+    {
+        const std::string large = building("a", std::string(100000, ' '));
+        const std::string content = large + building("b") + building("c");
+        for (const std::size_t back : {1, 10, 40}) {
+            const std::size_t at = content.find('>', large.size() - back);
+            std::string wrong = open + content + close;
+            wrong.insert(std::strlen(open) + at, "\xea");
+            const QByteArray found = difference(wrong);
+            QVERIFY2(found.isEmpty(), QByteArray::number(static_cast<int>(back)) + ": " + found);
+        }
+    }
+
     void otherRoots()
     {
         for (const char* xml : {"", " ", "<", "<x/>", "<core\xea>Member>", "<core:CityModel/>", "<!--", "<?x",
