@@ -1,5 +1,7 @@
 #include "apps/viewer/window/MainWindow.h"
 #include "apps/viewer/document/Document.h"
+#include "apps/viewer/features/FeatureBrowser.h"
+#include "apps/viewer/files/FileCommands.h"
 #include "support/TestClass.h"
 #include "support/TestPaths.h"
 
@@ -19,7 +21,9 @@ private slots:
     {
         MainWindow window;
         window.show();
+        QSignalSpy opened(&window.files(), &FileCommands::opened);
         window.open(examples() + "/district.gml");
+        QVERIFY(opened.wait());
         const auto* const tree = window.findChild<QTreeView*>("featureTree");
         QVERIFY(tree != nullptr);
         QCOMPARE(tree->model()->rowCount(), 1);

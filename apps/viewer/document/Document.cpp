@@ -1,30 +1,50 @@
 #include "apps/viewer/document/Document.h"
 
 #include "apps/common/DocumentReading.h"
+#include "framework/ModelPlugin.h"
+#include "framework/ModelPlugins.h"
+
+#include <stdexcept>
 
 namespace tolvik::viewer {
 
-Document::Document(QObject* parent) : QObject(parent), list(nullptr, nullptr), selected(&list)
+namespace {
+
+ModelPlugin& plugin()
 {
-    features.setCheckColumnEnabled(true);
-    features.setSourceModel(&list);
-    list.setSelectionModel(&selected);
+    static const ModelPlugins plugins;
+    ModelPlugin* const found = plugins.named(QStringLiteral("CityGML"));
+    if (found == nullptr) {
+        throw std::runtime_error(plugins.problems().join(QLatin1Char('\n')).toStdString());
+    }
+    return *found;
+}
+
+} // namespace
+
+Document::Document(QObject* parent)
+    : QObject(parent), list(static_cast<CityGMLModel*>(plugin().createModel(nullptr))),
+      features(static_cast<CityGMLTreeModel*>(plugin().createTreeModel(*list, nullptr))),
+      selected(std::make_unique<QItemSelectionModel>(list.get()))
+{
+    features->setCheckColumnEnabled(true);
+    list->setSelectionModel(selected.get());
     connect(&edits, &QUndoStack::cleanChanged, this, [this](bool clean) { emit modifiedChanged(!clean); });
 }
 
 Document::~Document()
 {
-    // Rows and edits point into the document, which the list takes with it.
+    // Nodes and edits point into the document, which the list takes with it.
     edits.clear();
-    features.setSourceModel(nullptr);
+    features.reset();
 }
 
 void Document::open(apps::DocumentReading& reading)
 {
     emit aboutToBeOpened();
     edits.clear();
-    reading.handOver(list);
-    list.dirty(false);
+    reading.handOver(*list);
+    list->dirty(false);
     emit fileNameChanged(fileName());
     emit opened();
 }
@@ -32,8 +52,8 @@ void Document::open(apps::DocumentReading& reading)
 void Document::noteSaved(const QString& path)
 {
     const bool isRenamed = path != fileName();
-    list.setFileName(path);
-    list.dirty(false);
+    list->setFileName(path);
+    list->dirty(false);
     edits.setClean();
     if (isRenamed) {
         emit fileNameChanged(path);
@@ -42,9 +62,9 @@ void Document::noteSaved(const QString& path)
 
 void Document::goTo(int row)
 {
-    const QModelIndex index = list.index(row, 0);
+    const QModelIndex index = list->index(row, 0);
     if (index.isValid()) {
-        selected.setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+        selected->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     }
 }
 

@@ -3,6 +3,7 @@
 #include "UI/Models/CityGMLModel/CityGMLModel.h"
 #include "UI/Models/CityGMLModel/CityGMLTreeModel.h"
 
+#include <memory>
 #include <QItemSelectionModel>
 #include <QObject>
 #include <QString>
@@ -29,20 +30,22 @@ class Document : public QObject
     Q_OBJECT
 
 public:
+    /// Makes the models with the plug-in for CityGML.
+    /// \throws std::runtime_error if there is none; what() says so to the user
     explicit Document(QObject* parent = nullptr);
     ~Document() override;
 
-    CityGMLModel& model() { return list; }
-    CityGMLTreeModel& tree() { return features; }
+    CityGMLModel& model() { return *list; }
+    CityGMLTreeModel& tree() { return *features; }
     /// The selected features and the current one, as rows of model().
-    QItemSelectionModel& selection() { return selected; }
+    QItemSelectionModel& selection() { return *selected; }
     /// Every edit goes through it: the document counts as modified while the stack is not clean.
     QUndoStack& undoStack() { return edits; }
 
     /// Whether there is a document.
-    bool isOpen() const { return list.cityGML() != nullptr; }
+    bool isOpen() const { return list->cityGML() != nullptr; }
     /// Path of the document's file; empty before one is opened, and for one that has no file.
-    const QString& fileName() const { return list.getFileName(); }
+    const QString& fileName() const { return list->getFileName(); }
     /// Whether there are edits that were not saved.
     bool isModified() const { return !edits.isClean(); }
 
@@ -67,9 +70,9 @@ signals:
     void fileNameChanged(const QString& path);
 
 private:
-    CityGMLModel list;
-    CityGMLTreeModel features;
-    QItemSelectionModel selected;
+    std::unique_ptr<CityGMLModel> list;
+    std::unique_ptr<CityGMLTreeModel> features;
+    std::unique_ptr<QItemSelectionModel> selected;
     QUndoStack edits;
 };
 

@@ -1,39 +1,128 @@
 #include "apps/viewer/window/MainWindow.h"
 
-#include "apps/common/DocumentReading.h"
+#include "apps/viewer/application/Colours.h"
 #include "apps/viewer/document/Document.h"
+#include "apps/viewer/features/FeatureActions.h"
+#include "apps/viewer/features/FeatureBrowser.h"
+#include "apps/viewer/features/FeatureListModel.h"
+#include "apps/viewer/features/FeatureRows.h"
+#include "apps/viewer/files/FileCommands.h"
+#include "apps/viewer/files/RecentFiles.h"
+#include "apps/viewer/findings/FindingsPanel.h"
+#include "apps/viewer/log/LogAppender.h"
+#include "apps/viewer/log/LogModel.h"
+#include "apps/viewer/log/LogPanel.h"
+#include "apps/viewer/selection/SelectionLink.h"
+#include "apps/viewer/window/NoticeBar.h"
+#include "apps/viewer/window/StatusProgress.h"
+#include "framework/EditRangeDialog.h"
+#include "viewsettings/CityGMLViewSettings.h"
 
+#include <QActionGroup>
+#include <QApplication>
+#include <QCloseEvent>
 #include <QDockWidget>
+#include <QDragEnterEvent>
+#include <QFileInfo>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QSettings>
+#include <QStatusBar>
+#include <QStyle>
+#include <QToolBar>
 #include <QTreeView>
+#include <QVBoxLayout>
 
 namespace tolvik::viewer {
 
-MainWindow::MainWindow(QWidget* parent) : QMainWindow(parent), shown(new Document(this))
+MainWindow::MainWindow(QWidget* parent)
+    : QMainWindow(parent), shown(new Document(this)), log(new LogModel(this)), progress(new StatusProgress),
+      features(new FeatureBrowser(*shown)), actionsOfFeatures(new FeatureActions(*shown, this))
 {
-    setWindowTitle(tr("Tolvik"));
+    setAcceptDrops(true);
+    setCentralWidget(makeMiddle());
     makePanels();
+    statusBar()->addPermanentWidget(progress);
+    fileCommands.reset(new FileCommands({*shown, *this, *features->tree(), *notice, *progress}));
+    makeMenus();
+    makeToolBar();
+    connectDocument();
+    resize(1280, 800);
+    restoreLayout();
+    updateTitle();
 }
 
 MainWindow::~MainWindow() = default;
 
 void MainWindow::open(const QString& path)
 {
-    apps::DocumentReading reading(path);
-    reading.readShown();
-    if (reading.document() != nullptr) {
-        shown->open(reading);
+    fileCommands->open(path);
+}
+
+MainWindow* MainWindow::openNew()
+{
+    auto* const window = new MainWindow;
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    window->show();
+    return window;
+}
+
+void MainWindow::goToIdentifier(const QString& identifier)
+{
+    const int row = rowOfIdentifier(*shown, identifier);
+    if (row >= 0) {
+        features->goTo(row);
+    } else {
+        statusBar()->showMessage(tr("No feature has the identifier %1.").arg(identifier), 5000);
     }
+}
+
+QWidget* MainWindow::makeMiddle()
+{
+    auto* const middle = new QWidget;
+    auto* const layout = new QVBoxLayout(middle);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    notice = new NoticeBar;
+    layout->addWidget(notice);
+    layout->addWidget(makeView(), 1);
+    return middle;
+}
+
+/// What stands in the middle of the window.
+QWidget* MainWindow::makeView()
+{
+    auto* const view = new QTreeView;
+    auto* const rows = new FeatureListModel(shown->model(), view);
+    view->setObjectName(QStringLiteral("view"));
+    view->setAccessibleName(tr("Features of the document"));
+    view->setRootIsDecorated(false);
+    view->setUniformRowHeights(true);
+    view->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    view->setModel(rows);
+    new SelectionLink(*view->selectionModel(), *rows, shown->selection(), view);
+    return view;
 }
 
 void MainWindow::makePanels()
 {
-    auto* const tree = new QTreeView;
-    tree->setObjectName(QStringLiteral("featureTree"));
-    tree->setUniformRowHeights(true);
-    tree->setModel(&shown->tree());
-    addPanel(tr("Features"), QStringLiteral("features"), tree, Qt::LeftDockWidgetArea);
-    setCentralWidget(new QWidget);
-    addPanel(tr("Properties"), QStringLiteral("properties"), new QWidget, Qt::RightDockWidgetArea);
+    addPanel(tr("Features"), QStringLiteral("features"), features, Qt::LeftDockWidgetArea);
+    for (QWidget* const view :
+         {static_cast<QWidget*>(features->tree()->parentWidget()), static_cast<QWidget*>(features->list())}) {
+        view->addActions(actionsOfFeatures->findChildren<QAction*>());
+    }
+    findings = new FindingsPanel(*shown);
+    QDockWidget* const logDock =
+        addPanel(tr("Log"), QStringLiteral("logPanel"), new LogPanel(*log), Qt::BottomDockWidgetArea);
+    QDockWidget* const findingsDock =
+        addPanel(tr("Findings"), QStringLiteral("findingsPanel"), findings, Qt::BottomDockWidgetArea);
+    tabifyDockWidget(findingsDock, logDock);
+    resizeDocks({panels.first()}, {360}, Qt::Horizontal);
+    resizeDocks({logDock}, {150}, Qt::Vertical);
+    connect(features, &FeatureBrowser::menuRequested, actionsOfFeatures, &FeatureActions::popUp);
+    connect(findings, &FindingsPanel::featureRequested, this, &MainWindow::goToIdentifier);
 }
 
 QDockWidget* MainWindow::addPanel(const QString& title, const QString& name, QWidget* content,
@@ -43,7 +132,237 @@ QDockWidget* MainWindow::addPanel(const QString& title, const QString& name, QWi
     dock->setObjectName(name + QStringLiteral("Dock"));
     dock->setWidget(content);
     addDockWidget(area, dock);
+    panels.append(dock);
     return dock;
+}
+
+void MainWindow::makeMenus()
+{
+    menuBar()->addMenu(makeFileMenu());
+    menuBar()->addMenu(makeEditMenu());
+    auto* const featureMenu = new QMenu(tr("F&eature"), this);
+    actionsOfFeatures->addTo(*featureMenu);
+    menuBar()->addMenu(featureMenu);
+    menuBar()->addMenu(makeViewMenu());
+    menuBar()->addMenu(makeHelpMenu());
+}
+
+QMenu* MainWindow::makeFileMenu()
+{
+    auto* const menu = new QMenu(tr("&File"), this);
+    FileCommands* const files = fileCommands.get();
+    QAction* action = menu->addAction(tr("&New Window"), this, [] { openNew(); });
+    action->setShortcut(QKeySequence::New);
+    action = menu->addAction(style()->standardIcon(QStyle::SP_DialogOpenButton), tr("&Open..."), files,
+                             &FileCommands::chooseAndOpen);
+    action->setShortcut(QKeySequence::Open);
+    action->setObjectName(QStringLiteral("open"));
+    QMenu* const recent = menu->addMenu(tr("Open &Recent"));
+    recent->setObjectName(QStringLiteral("recentFiles"));
+    connect(recent, &QMenu::aboutToShow, this, [this, recent] { fillRecentFiles(*recent); });
+    reloadAction = menu->addAction(style()->standardIcon(QStyle::SP_BrowserReload), tr("Re&load"), files,
+                                   &FileCommands::reload);
+    reloadAction->setShortcut(QKeySequence::Refresh);
+    reloadAction->setObjectName(QStringLiteral("reload"));
+    menu->addSeparator();
+    saveAction = menu->addAction(style()->standardIcon(QStyle::SP_DialogSaveButton), tr("&Save"), files,
+                                 &FileCommands::save);
+    saveAction->setShortcut(QKeySequence::Save);
+    saveAction->setObjectName(QStringLiteral("save"));
+    saveAsAction = menu->addAction(tr("Save &As..."), files, &FileCommands::saveAs);
+    saveAsAction->setShortcut(QKeySequence::SaveAs);
+    saveAsAction->setObjectName(QStringLiteral("saveAs"));
+    menu->addSeparator();
+    action = menu->addAction(tr("&Close Window"), this, &QWidget::close);
+    action->setShortcut(QKeySequence::Close);
+    action = menu->addAction(tr("&Quit"), qApp, &QApplication::closeAllWindows);
+    action->setShortcut(QKeySequence::Quit);
+    return menu;
+}
+
+void MainWindow::fillRecentFiles(QMenu& menu)
+{
+    menu.clear();
+    for (const QString& path : recentFiles::list()) {
+        // A & in a name is no mark of a key.
+        QAction* const action = menu.addAction(QString(path).replace(QLatin1Char('&'), QLatin1String("&&")));
+        connect(action, &QAction::triggered, this, [this, path] { open(path); });
+    }
+    menu.addSeparator();
+    QAction* const clear = menu.addAction(tr("&Clear List"), [] { recentFiles::clear(); });
+    clear->setEnabled(!recentFiles::list().isEmpty());
+}
+
+QMenu* MainWindow::makeEditMenu()
+{
+    auto* const menu = new QMenu(tr("&Edit"), this);
+    QAction* const undo = shown->undoStack().createUndoAction(this, tr("&Undo"));
+    undo->setShortcut(QKeySequence::Undo);
+    undo->setObjectName(QStringLiteral("undo"));
+    QAction* const redo = shown->undoStack().createRedoAction(this, tr("&Redo"));
+    redo->setShortcuts({QKeySequence(QKeySequence::Redo), QKeySequence(tr("Ctrl+Y"))});
+    redo->setObjectName(QStringLiteral("redo"));
+    menu->addAction(undo);
+    menu->addAction(redo);
+    menu->addSeparator();
+    QAction* action = menu->addAction(tr("&Search Features"), features, &FeatureBrowser::focusSearch);
+    action->setShortcut(QKeySequence::Find);
+    action = menu->addAction(tr("&Next Hit"), features, &FeatureBrowser::goToNextHit);
+    action->setShortcut(QKeySequence::FindNext);
+    action = menu->addAction(tr("&Previous Hit"), features, &FeatureBrowser::goToPreviousHit);
+    action->setShortcut(QKeySequence::FindPrevious);
+    menu->addSeparator();
+    action = menu->addAction(tr("Se&ttings..."), this, &MainWindow::showSettings);
+    action->setObjectName(QStringLiteral("settings"));
+    return menu;
+}
+
+QMenu* MainWindow::makeViewMenu()
+{
+    auto* const menu = new QMenu(tr("&View"), this);
+    QAction* action = menu->addAction(tr("&Expand All"), features, &FeatureBrowser::expandAll);
+    action->setShortcut(tr("Ctrl+Shift+E"));
+    action = menu->addAction(tr("&Collapse All"), features, &FeatureBrowser::collapseAll);
+    action->setShortcut(tr("Ctrl+Shift+W"));
+    menu->addSeparator();
+    menu->addMenu(makeColoursMenu());
+    menu->addSeparator();
+    for (QDockWidget* const panel : qAsConst(panels)) {
+        menu->addAction(panel->toggleViewAction());
+    }
+    return menu;
+}
+
+QMenu* MainWindow::makeColoursMenu()
+{
+    auto* const menu = new QMenu(tr("C&olours"), this);
+    auto* const choice = new QActionGroup(menu);
+    const auto add = [&](const QString& text, Colours colours) {
+        QAction* const action = menu->addAction(text, [colours] { chooseColours(colours); });
+        action->setCheckable(true);
+        action->setChecked(colours == chosenColours());
+        choice->addAction(action);
+    };
+    add(tr("As the &Desktop"), Colours::Desktop);
+    add(tr("&Light"), Colours::Light);
+    add(tr("D&ark"), Colours::Dark);
+    return menu;
+}
+
+QMenu* MainWindow::makeHelpMenu()
+{
+    auto* const menu = new QMenu(tr("&Help"), this);
+    menu->addAction(tr("&About"), this, &MainWindow::showAbout);
+    return menu;
+}
+
+void MainWindow::makeToolBar()
+{
+    QToolBar* const bar = addToolBar(tr("Tools"));
+    bar->setObjectName(QStringLiteral("tools"));
+    bar->addAction(findChild<QAction*>(QStringLiteral("open")));
+    bar->addAction(saveAction);
+    bar->addSeparator();
+    for (const char* const name : {"undo", "redo"}) {
+        auto* const action = findChild<QAction*>(QLatin1String(name));
+        action->setIcon(style()->standardIcon(
+            QLatin1String(name) == QLatin1String("undo") ? QStyle::SP_ArrowBack : QStyle::SP_ArrowForward));
+        bar->addAction(action);
+    }
+}
+
+void MainWindow::connectDocument()
+{
+    connect(shown, &Document::modifiedChanged, this, &MainWindow::updateTitle);
+    connect(shown, &Document::fileNameChanged, this, &MainWindow::updateTitle);
+    connect(fileCommands.get(), &FileCommands::opened, this, [this] {
+        updateTitle();
+        showFindings();
+    });
+    connect(fileCommands.get(), &FileCommands::told, log, &LogModel::add);
+    connect(fileCommands.get(), &FileCommands::told, this,
+            [this](int, const QString& text) { statusBar()->showMessage(text, 5000); });
+    connect(&LogSource::instance(), &LogSource::logged, log, &LogModel::add);
+}
+
+void MainWindow::updateTitle()
+{
+    const QString file = QFileInfo(shown->fileName()).fileName();
+    //: Title of the window: name of the document, mark of unsaved changes, name of the program
+    setWindowTitle(file.isEmpty() ? tr("Tolvik") : tr("%1[*] - Tolvik").arg(file));
+    setWindowFilePath(shown->fileName());
+    setWindowModified(shown->isModified());
+    saveAction->setEnabled(shown->isOpen());
+    saveAsAction->setEnabled(shown->isOpen());
+    reloadAction->setEnabled(shown->isOpen());
+}
+
+void MainWindow::showFindings()
+{
+    QDockWidget* const dock = findChild<QDockWidget*>(QStringLiteral("findingsPanelDock"));
+    //: Title of the panel, with the number of findings
+    dock->setWindowTitle(findings->count() == 0 ? tr("Findings")
+                                                : tr("Findings (%L1)").arg(findings->count()));
+    if (findings->count() != 0) {
+        dock->raise();
+    }
+}
+
+void MainWindow::showAbout()
+{
+    QMessageBox::about(this, tr("About Tolvik"),
+                       tr("<h3>Tolvik %1</h3><p>Shows and edits city models in CityGML 2.0.</p>")
+                           .arg(QApplication::applicationVersion()));
+}
+
+void MainWindow::showSettings()
+{
+    const CityGMLViewSettings defaults;
+    const std::unique_ptr<EditRangeDialog> dialog(
+        shown->model().getEditRangeDialog({defaults.lod0Range, defaults.lod1Range, defaults.lod2Range,
+                                           defaults.lod3Range, defaults.lod4Range}));
+    dialog->setParent(this, dialog->windowFlags());
+    dialog->exec();
+}
+
+void MainWindow::restoreLayout()
+{
+    const QSettings settings;
+    restoreGeometry(settings.value(QStringLiteral("window/geometry")).toByteArray());
+    restoreState(settings.value(QStringLiteral("window/state")).toByteArray());
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    if (!fileCommands->letGo()) {
+        event->ignore();
+        return;
+    }
+    fileCommands->cancelReading();
+    QSettings settings;
+    settings.setValue(QStringLiteral("window/geometry"), saveGeometry());
+    settings.setValue(QStringLiteral("window/state"), saveState());
+    event->accept();
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (event->mimeData()->hasUrls()) {
+        event->acceptProposedAction();
+    }
+}
+
+/// The first document comes into this window, further ones into windows of their own.
+void MainWindow::dropEvent(QDropEvent* event)
+{
+    MainWindow* window = this;
+    for (const QUrl& url : event->mimeData()->urls()) {
+        if (url.isLocalFile()) {
+            (window != nullptr ? window : openNew())->open(url.toLocalFile());
+            window = nullptr;
+        }
+    }
+    event->acceptProposedAction();
 }
 
 } // namespace tolvik::viewer

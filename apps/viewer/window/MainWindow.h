@@ -1,14 +1,25 @@
 #pragma once
 
+#include <memory>
 #include <QMainWindow>
 
-class QTreeView;
+class QMenu;
+class QToolBar;
+class QVBoxLayout;
 
 namespace tolvik::viewer {
 
 class Document;
+class FeatureActions;
+class FeatureBrowser;
+class FileCommands;
+class FindingsPanel;
+class LogModel;
+class NoticeBar;
+class StatusProgress;
 
-/// One window with one document.
+/// One window with one document: the features at its left, their properties at its right, the log and the
+/// findings below.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -18,16 +29,57 @@ public:
     ~MainWindow() override;
 
     Document& document() { return *shown; }
+    FeatureBrowser& browser() { return *features; }
+    FileCommands& files() { return *fileCommands; }
 
-    /// Reads a document and shows it.
+    /// Reads a document beside the window, and shows it when it is there.
     void open(const QString& path);
 
+    /// A further window, without a document; it deletes itself when it is closed.
+    static MainWindow* openNew();
+
+public slots:
+    /// Shows the feature that has an identifier, or says that there is none.
+    void goToIdentifier(const QString& identifier);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
 private:
+    QWidget* makeMiddle();
+    QWidget* makeView();
     void makePanels();
     QDockWidget* addPanel(const QString& title, const QString& name, QWidget* content,
                           Qt::DockWidgetArea area);
+    void makeMenus();
+    QMenu* makeFileMenu();
+    QMenu* makeEditMenu();
+    QMenu* makeViewMenu();
+    QMenu* makeColoursMenu();
+    QMenu* makeHelpMenu();
+    void makeToolBar();
+    void fillRecentFiles(QMenu& menu);
+    void connectDocument();
+    void updateTitle();
+    void showFindings();
+    void showAbout();
+    void showSettings();
+    void restoreLayout();
 
     Document* shown;
+    LogModel* log;
+    NoticeBar* notice = nullptr;
+    StatusProgress* progress;
+    FeatureBrowser* features;
+    FeatureActions* actionsOfFeatures;
+    FindingsPanel* findings = nullptr;
+    std::unique_ptr<FileCommands> fileCommands;
+    QVector<QDockWidget*> panels;
+    QAction* saveAction = nullptr;
+    QAction* saveAsAction = nullptr;
+    QAction* reloadAction = nullptr;
 };
 
 } // namespace tolvik::viewer

@@ -1,0 +1,23 @@
+#include "apps/viewer/features/FeatureTexts.h"
+
+#include "gml/AbstractFeatureType.hxx"
+#include "gml/CodeType.hxx"
+
+namespace tolvik::viewer {
+
+QString idOf(const gml::AbstractFeatureType& feature)
+{
+    return feature.id().present() ? QString::fromStdString(feature.id().get()) : QString();
+}
+
+QString nameOf(const gml::AbstractFeatureType& feature)
+{
+    return feature.name().empty() ? QString() : QString::fromStdString(feature.name().front());
+}
+
+QString typeOf(const gml::AbstractFeatureType& feature)
+{
+    return QString::fromStdString(feature.typeLabel);
+}
+
+} // namespace tolvik::viewer

@@ -1,0 +1,58 @@
+#include "apps/viewer/features/SlicedWork.h"
+
+#include <QElapsedTimer>
+#include <utility>
+
+namespace tolvik::viewer {
+
+namespace {
+
+// A quarter of what a user feels as a hitch, so that painting has its share.
+constexpr int sliceMilliseconds = 12;
+// Steps are short, and so the clock is not asked for each.
+constexpr int stepsToClock = 64;
+
+} // namespace
+
+SlicedWork::SlicedWork(QObject* parent) : QObject(parent)
+{
+    timer.setInterval(0);
+    connect(&timer, &QTimer::timeout, this, &SlicedWork::runSlice);
+}
+
+SlicedWork::~SlicedWork() = default;
+
+void SlicedWork::start(int count, Step eachStep, End atEnd)
+{
+    step = std::move(eachStep);
+    end = std::move(atEnd);
+    steps = count;
+    done = 0;
+    timer.start();
+}
+
+void SlicedWork::stop()
+{
+    timer.stop();
+}
+
+void SlicedWork::runSlice()
+{
+    QElapsedTimer clock;
+    clock.start();
+    while (done < steps && (done % stepsToClock != 0 || clock.elapsed() < sliceMilliseconds)) {
+        step(done++);
+        if (done % stepsToClock == 0 && clock.elapsed() >= sliceMilliseconds) {
+            break;
+        }
+    }
+    emit progressed(done, steps);
+    if (done == steps && timer.isActive()) {
+        timer.stop();
+        // It may start the next work, which replaces what is called here.
+        const End last = std::move(end);
+        last();
+    }
+}
+
+} // namespace tolvik::viewer

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <functional>
+#include <QObject>
+#include <QTimer>
+
+namespace tolvik::viewer {
+
+/// Work over many rows on the thread of the user interface, in slices so short that nobody sees the window
+/// stand still.
+/// \code
+/// work.start(model.rowCount(), [&](int row) { look at the row }, [&] { show what was found });
+/// \endcode
+class SlicedWork : public QObject
+{
+    Q_OBJECT
+
+public:
+    using Step = std::function<void(int)>;
+    using End = std::function<void()>;
+
+    explicit SlicedWork(QObject* parent = nullptr);
+    ~SlicedWork() override;
+
+    /// Begins anew; what is under way is given up.
+    /// \param steps number of steps
+    /// \param step  does the step of a number, from 0 on
+    /// \param end   called once when all steps are done. It may start the next work.
+    void start(int steps, Step step, End end);
+    void stop();
+    bool isRunning() const { return timer.isActive(); }
+
+signals:
+    /// A slice is done.
+    void progressed(int done, int steps);
+
+private:
+    void runSlice();
+
+    QTimer timer;
+    Step step;
+    End end;
+    int done = 0;
+    int steps = 0;
+};
+
+} // namespace tolvik::viewer
