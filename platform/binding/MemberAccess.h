@@ -64,6 +64,38 @@ void addTo(xsd::cxx::tree::sequence<T, fundamental>& c, V value)
     c.push_back(value);
 }
 
+// Makes a single member empty, or a sequence shorter.
+template <typename C>
+xml_schema::type* takeFrom(C& c, std::size_t)
+{
+    return c.detach().release();
+}
+template <typename T>
+xml_schema::type* takeFrom(xsd::cxx::tree::one<T, true>& c, std::size_t)
+{
+    c = xsd::cxx::tree::one<T, true>(nullptr);
+    return nullptr;
+}
+template <typename T>
+xml_schema::type* takeFrom(xsd::cxx::tree::optional<T, true>& c, std::size_t)
+{
+    c.reset();
+    return nullptr;
+}
+template <typename T>
+xml_schema::type* takeFrom(xsd::cxx::tree::sequence<T, false>& c, std::size_t index)
+{
+    std::auto_ptr<T> taken;
+    c.detach(c.begin() + static_cast<std::ptrdiff_t>(index), taken);
+    return taken.release();
+}
+template <typename T>
+xml_schema::type* takeFrom(xsd::cxx::tree::sequence<T, true>& c, std::size_t index)
+{
+    c.erase(c.begin() + static_cast<std::ptrdiff_t>(index));
+    return nullptr;
+}
+
 /// The operations on the member that `field` points to.
 template <auto field>
 struct Access;
@@ -102,10 +134,16 @@ struct Access<field>
             formatNumber(valueAt(of(owner), index), text);
         }
     }
+    static xml_schema::type* take(xml_schema::type& owner, std::size_t index)
+    {
+        return takeFrom(of(owner), index);
+    }
+    static const void* address(const xml_schema::type& owner) { return &of(owner); }
     static constexpr MemberOps ops = {
-        &add,    &addText,
-        &count,  &at,
-        &format, !std::is_base_of_v<xsd::cxx::tree::sequence<T, fundamental>, Container<T, fundamental>>};
+        &add,     &addText,
+        &count,   &at,
+        &format,  &take,
+        &address, !std::is_base_of_v<xsd::cxx::tree::sequence<T, fundamental>, Container<T, fundamental>>};
 };
 
 template <auto field>

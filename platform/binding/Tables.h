@@ -59,6 +59,12 @@ struct MemberOps
     const xml_schema::type& (*at)(const xml_schema::type& owner, std::size_t index);
     /// Appends a fundamental value; nothing for an object.
     void (*format)(const xml_schema::type& owner, std::size_t index, std::string& text);
+    /// Takes an object or value out of the member.
+    ///
+    /// \return the object, which stands in no document then; null for a fundamental value.
+    xml_schema::type* (*take)(xml_schema::type& owner, std::size_t index);
+    /// The container that the member is, which is also where a single fundamental value stands.
+    const void* (*address)(const xml_schema::type& owner);
     /// Whether `add` replaces what is there.
     bool single;
 };

@@ -24,6 +24,7 @@ const QStringList exportedClasses{
     "GmlEditRangeDialog",
     "OtherContentProvider",
     "FeaturePropertyModel",
+    "BoundProperty",
 };
 
 const QStringList exportedFunctions{"featureRoleNames", "firstCharacterNotInXml"};

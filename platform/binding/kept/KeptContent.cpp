@@ -4,6 +4,7 @@
 #include "platform/binding/xml/Namespaces.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace citygml {
 namespace binding {
@@ -78,12 +79,17 @@ void KeptContent::assign(xml_schema::type& target, const xml_schema::type& sourc
 {
     const bool isOfDocument = source.elementName != 0 || isMissing(source);
     if (isOfDocument) {
-        target.elementName = source.elementName;
-        target.spelledOut = source.spelledOut;
-        target.kept = source.kept ? std::make_unique<KeptContent>(*source.kept) : nullptr;
+        copy(target, source);
     } else {
         setGiven(target);
     }
+}
+
+void KeptContent::copy(xml_schema::type& target, const xml_schema::type& source)
+{
+    target.elementName = source.elementName;
+    target.spelledOut = source.spelledOut;
+    target.kept = source.kept ? std::make_unique<KeptContent>(*source.kept) : nullptr;
 }
 
 void KeptContent::setGiven(xml_schema::type& object)
@@ -146,6 +152,14 @@ void KeptContent::seal(xml_schema::type& object)
             object.kept = nullptr;
         }
     }
+}
+
+void KeptContent::setValues(MemberIndex member, std::vector<Value> values)
+{
+    const auto isOfMember = [member](const Value& value) { return value.member == member; };
+    keptValues.erase(std::remove_if(keptValues.begin(), keptValues.end(), isOfMember), keptValues.end());
+    std::move(values.begin(), values.end(), std::back_inserter(keptValues));
+    seal();
 }
 
 bool KeptContent::isEmpty() const

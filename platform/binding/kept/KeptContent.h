@@ -248,6 +248,10 @@ public:
     {
         object.spelledOut = static_cast<std::uint16_t>(object.spelledOut | attribute);
     }
+    static void clearSpelledOut(xml_schema::type& object, std::uint16_t attribute)
+    {
+        object.spelledOut = static_cast<std::uint16_t>(object.spelledOut & ~attribute);
+    }
     /// Whether a required member has the object only so that it is not empty: the document has no such
     /// element or attribute. A save leaves the object out as long as nothing has been set in it, see
     /// isLeftOut().
@@ -268,6 +272,8 @@ public:
     /// The run-time's classes of strings assign the characters alone, without a call of this. So an object
     /// that is a string keeps its own in either case.
     static void assign(xml_schema::type& target, const xml_schema::type& source);
+    /// Gives an object all that a document said about another one, and nothing else.
+    static void copy(xml_schema::type& target, const xml_schema::type& source);
 
     void addAttribute(Attribute attribute) { keptAttributes.push_back(std::move(attribute)); }
     void addNode(Node node) { keptNodes.push_back(std::move(node)); }
@@ -290,6 +296,8 @@ public:
             node.position = newPosition(static_cast<const Node&>(node));
         }
     }
+    /// Replaces what is kept about the values of a member, of sealed content.
+    void setValues(MemberIndex member, std::vector<Value> values);
     void setDocument(std::shared_ptr<const Document> whole) { ofDocument = std::move(whole); }
     /// A piece to be edited: all of it but its place and kind. Null where there is none.
     /// @{

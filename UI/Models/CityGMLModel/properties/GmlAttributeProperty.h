@@ -1,7 +1,6 @@
 #pragma once
 
-#include "framework/CoreProperty.h"
-#include "UI/Models/CityGMLModel/CityGMLModelExport.h"
+#include "UI/Models/CityGMLModel/properties/BoundProperty.h"
 #include "xml-schema.hxx"
 
 namespace tolvik {
@@ -14,7 +13,7 @@ namespace tolvik {
 /// \tparam Owner class of the object, or a base of it, that has the accessors
 /// \tparam Value type of the attribute: required, optional or a sequence, see ValueConversion.h
 template <class Owner, class Value>
-class GmlAttributeProperty : public CoreProperty
+class GmlAttributeProperty : public BoundProperty
 {
 public:
     using ConstGetter = const Value& (Owner::*)() const; ///< the accessor that reads
@@ -43,6 +42,8 @@ public:
 
     /// True.
     bool editable() const override;
+
+    citygml::Member member() const override;
 
 private:
     Owner* m_owner;

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "framework/CoreProperty.h"
-#include "UI/Models/CityGMLModel/CityGMLModelExport.h"
+#include "UI/Models/CityGMLModel/properties/BoundProperty.h"
 #include "xml-schema.hxx"
 
 namespace tolvik {
@@ -13,7 +12,7 @@ namespace tolvik {
 /// \tparam Poly  class of the object: a class derived from Value, or Value itself
 /// \tparam Value type as which the object shows, see ValueConversion.h
 template <class Poly, class Value>
-class GmlGenericApplicationAttributeProperty : public CoreProperty
+class GmlGenericApplicationAttributeProperty : public BoundProperty
 {
 public:
     /// \param owner not owned; the property is valid as long as it lives
@@ -31,6 +30,10 @@ public:
 
     /// False.
     bool editable() const override;
+
+    /// The entry of the slot that holds the object. When that has been cleared, the property must not be used
+    /// any more.
+    citygml::Member member() const override;
 
 private:
     Poly* m_owner;

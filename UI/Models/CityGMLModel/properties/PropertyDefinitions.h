@@ -43,8 +43,8 @@ template <class Owner, class Value>
 GmlAttributeProperty<Owner, Value>::GmlAttributeProperty(Owner* owner, const QString& label,
                                                          ConstGetter constGetter, MutableGetter mutableGetter,
                                                          const xml_schema::uri& uom)
-    : CoreProperty(label, QVariant()), m_owner(owner), m_constGetter(constGetter),
-      m_mutableGetter(mutableGetter), m_uom(plain(uom))
+    : BoundProperty(label), m_owner(owner), m_constGetter(constGetter), m_mutableGetter(mutableGetter),
+      m_uom(plain(uom))
 {
     setDocumentUnit(*this, m_uom);
 }
@@ -81,6 +81,12 @@ bool GmlAttributeProperty<Owner, Value>::editable() const
 }
 
 template <class Owner, class Value>
+citygml::Member GmlAttributeProperty<Owner, Value>::member() const
+{
+    return citygml::Member(*m_owner, (m_owner->*m_constGetter)());
+}
+
+template <class Owner, class Value>
 GmlEnumAttributeProperty<Owner, Value>::GmlEnumAttributeProperty(Owner* owner, const QString& label,
                                                                  ConstGetter constGetter,
                                                                  MutableGetter mutableGetter)
@@ -95,7 +101,7 @@ GmlEnumAttributeProperty<Owner, Value>::~GmlEnumAttributeProperty() = default;
 template <class Poly, class Value>
 GmlGenericApplicationAttributeProperty<Poly, Value>::GmlGenericApplicationAttributeProperty(
     Poly* owner, const QString& label, const xml_schema::uri& uom)
-    : CoreProperty(label, QVariant()), m_owner(owner), m_uom(plain(uom))
+    : BoundProperty(label), m_owner(owner), m_uom(plain(uom))
 {
     setDocumentUnit(*this, m_uom);
 }
@@ -130,6 +136,12 @@ template <class Poly, class Value>
 bool GmlGenericApplicationAttributeProperty<Poly, Value>::editable() const
 {
     return false;
+}
+
+template <class Poly, class Value>
+citygml::Member GmlGenericApplicationAttributeProperty<Poly, Value>::member() const
+{
+    return citygml::Member::holding(*m_owner);
 }
 
 template <class Poly, class Value>

@@ -1,0 +1,427 @@
+#include "citygml/Member.h"
+
+#include "platform/binding/kept/KeptContent.h"
+#include "platform/binding/kept/UnsetValues.h"
+#include "platform/binding/reader/RequiredMembers.h"
+#include "platform/binding/SchemaIndex.h"
+#include "platform/binding/values/TextValues.h"
+
+#include <algorithm>
+#include <stdexcept>
+#include <typeinfo>
+#include <utility>
+
+namespace citygml {
+
+using binding::KeptContent;
+using binding::MemberOps;
+using binding::SchemaIndex;
+using binding::TypeIndex;
+
+using FlatMember = TypeIndex::FlatMember;
+
+/// Copies of the values of a member, and what is kept about these with their owner.
+struct MemberState::Content
+{
+    const binding::Member* declaration = nullptr;
+    /// Whether it is one entry of a list.
+    bool isEntry = false;
+    std::vector<std::unique_ptr<xml_schema::type>> objects;
+    /// The values of a fundamental type.
+    std::vector<std::string> texts;
+    std::vector<KeptContent::Value> kept;
+    /// Whether the document spelled a default out.
+    bool isSpelledOut = false;
+};
+
+namespace {
+
+/// For texts that go from one object to another: each prefix stands for itself.
+class SamePrefixes : public binding::NameScope
+{
+public:
+    std::string namespaceOf(std::string_view prefix) const override { return std::string(prefix); }
+    std::string prefixOf(const std::string& uri) const override { return uri; }
+};
+
+const FlatMember& memberOf(const xml_schema::type& owner, std::size_t index)
+{
+    return SchemaIndex::instance().typeOf(owner).members()[index];
+}
+
+const MemberOps& opsOf(const FlatMember& member)
+{
+    return *member.declaration->ops;
+}
+
+xml_schema::type& objectAt(xml_schema::type& owner, const FlatMember& member, std::size_t index)
+{
+    return const_cast<xml_schema::type&>(opsOf(member).at(owner, index));
+}
+
+std::unique_ptr<xml_schema::type> takeFrom(xml_schema::type& owner, const FlatMember& member,
+                                           std::size_t index)
+{
+    return std::unique_ptr<xml_schema::type>(opsOf(member).take(owner, index));
+}
+
+void cutTo(xml_schema::type& owner, const FlatMember& member, std::size_t count)
+{
+    for (std::size_t i = opsOf(member).count(owner); i > count; --i) {
+        takeFrom(owner, member, i - 1);
+    }
+}
+
+/// Puts an object at a place in a list, or behind its end.
+void insert(xml_schema::type& owner, const FlatMember& member, std::size_t index,
+            std::unique_ptr<xml_schema::type> object)
+{
+    std::vector<std::unique_ptr<xml_schema::type>> behind;
+    while (opsOf(member).count(owner) > index) {
+        behind.push_back(takeFrom(owner, member, opsOf(member).count(owner) - 1));
+    }
+    opsOf(member).add(owner, object.release());
+    for (; !behind.empty(); behind.pop_back()) {
+        opsOf(member).add(owner, behind.back().release());
+    }
+}
+
+std::unique_ptr<xml_schema::type> copyOf(const xml_schema::type& object)
+{
+    return std::unique_ptr<xml_schema::type>(object._clone());
+}
+
+void copyText(xml_schema::type& target, const xml_schema::type& source, const binding::TextOps& ops)
+{
+    const auto* const string = dynamic_cast<const std::string*>(&source);
+    if (string != nullptr && dynamic_cast<const xml_schema::id*>(&source) == nullptr) {
+        dynamic_cast<std::string&>(target) = *string;
+        return;
+    }
+    std::string text;
+    ops.format(source, text, SamePrefixes());
+    ops.parse(target, text, SamePrefixes());
+}
+
+/// Gives an object everything that another one of its type has.
+void become(xml_schema::type& target, const xml_schema::type& source)
+{
+    const TypeIndex& type = SchemaIndex::instance().typeOf(source);
+    if (type.hasText()) {
+        copyText(target, source, *type.record()->text);
+    }
+    for (const FlatMember& member : type.members()) {
+        cutTo(target, member, 0);
+        for (std::size_t i = 0; i < opsOf(member).count(source); ++i) {
+            if (member.type != nullptr) {
+                opsOf(member).add(target, copyOf(opsOf(member).at(source, i)).release());
+            } else {
+                std::string text;
+                opsOf(member).format(source, i, text);
+                opsOf(member).addText(target, text);
+            }
+        }
+    }
+    KeptContent::copy(target, source);
+}
+
+/// Makes the objects of a member what others are, each the same object if it can be.
+void becomeAll(xml_schema::type& owner, const FlatMember& member,
+               const std::vector<std::unique_ptr<xml_schema::type>>& objects)
+{
+    std::size_t done = 0;
+    const std::size_t both = std::min(objects.size(), opsOf(member).count(owner));
+    for (; done < both; ++done) {
+        xml_schema::type& object = objectAt(owner, member, done);
+        if (typeid(object) != typeid(*objects[done])) {
+            break;
+        }
+        become(object, *objects[done]);
+    }
+    cutTo(owner, member, done);
+    for (; done < objects.size(); ++done) {
+        opsOf(member).add(owner, copyOf(*objects[done]).release());
+    }
+}
+
+void setTexts(xml_schema::type& owner, const FlatMember& member, const std::vector<std::string>& texts)
+{
+    cutTo(owner, member, 0);
+    for (const std::string& text : texts) {
+        opsOf(member).addText(owner, text);
+    }
+}
+
+void setKept(xml_schema::type& owner, const FlatMember& member, std::vector<KeptContent::Value> values)
+{
+    if (!values.empty() || KeptContent::find(owner) != nullptr) {
+        KeptContent::of(owner).setValues(member.index, std::move(values));
+        KeptContent::seal(owner);
+    }
+}
+
+std::vector<KeptContent::Value> keptOf(const xml_schema::type& owner, const FlatMember& member)
+{
+    const KeptContent* const kept = KeptContent::find(owner);
+    const KeptContent::Values values = kept != nullptr ? kept->valuesOf(member.index) : KeptContent::Values();
+    return std::vector<KeptContent::Value>(values.begin(), values.end());
+}
+
+/// What is kept about the values of a list that remain, when one has gone.
+void forgetKept(xml_schema::type& owner, const FlatMember& member, std::size_t index)
+{
+    std::vector<KeptContent::Value> rest;
+    for (KeptContent::Value& value : keptOf(owner, member)) {
+        if (value.index != index || value.isAbsent) {
+            value.index -= value.index > index ? 1 : 0;
+            rest.push_back(std::move(value));
+        }
+    }
+    setKept(owner, member, std::move(rest));
+}
+
+/// Gives an attribute that has a default the value of that.
+void addDefault(xml_schema::type& owner, const FlatMember& member)
+{
+    const char* const text = member.declaration->defaultText;
+    if (member.type == nullptr) {
+        opsOf(member).addText(owner, text);
+        return;
+    }
+    std::unique_ptr<xml_schema::type> value = binding::newObject(*member.type->record());
+    member.type->record()->text->parse(*value, text, SamePrefixes());
+    opsOf(member).add(owner, value.release());
+}
+
+bool isDefault(const xml_schema::type& owner, const FlatMember& member)
+{
+    if (member.defaultBit == 0 || KeptContent::isSpelledOut(owner, member.defaultBit) ||
+        opsOf(member).count(owner) == 0) {
+        return false;
+    }
+    std::string text;
+    if (member.type != nullptr) {
+        member.type->record()->text->format(opsOf(member).at(owner, 0), text, SamePrefixes());
+    } else {
+        opsOf(member).format(owner, 0, text);
+    }
+    return text == member.declaration->defaultText;
+}
+
+bool isListOfTexts(const FlatMember& member)
+{
+    return !member.declaration->isAttribute && !opsOf(member).single && member.type != nullptr &&
+           member.type->hasText() && !member.type->record()->isAbstract;
+}
+
+} // namespace
+
+MemberState::MemberState() = default;
+
+MemberState::MemberState(std::shared_ptr<Content> content) : content(std::move(content)) {}
+
+Member::Member(xml_schema::type& owner, std::uint16_t index, std::optional<std::size_t> entry)
+    : owner(&owner), index(index), entry(entry)
+{
+}
+
+Member::Member(xml_schema::type& owner, const void* address, Address) : owner(&owner)
+{
+    const auto& members = SchemaIndex::instance().typeOf(owner).members();
+    const auto found = std::find_if(members.begin(), members.end(), [&](const FlatMember& member) {
+        const MemberOps& ops = opsOf(member);
+        const bool isObject = ops.single && member.type != nullptr && ops.count(owner) != 0;
+        return ops.address(owner) == address ||
+               (isObject && dynamic_cast<const void*>(&ops.at(owner, 0)) == address);
+    });
+    if (found == members.end()) {
+        throw std::invalid_argument("the value is no member of the object");
+    }
+    index = found->index;
+}
+
+Member Member::holding(xml_schema::type& object)
+{
+    auto* const owner = dynamic_cast<xml_schema::type*>(object._container());
+    if (owner != nullptr) {
+        for (const FlatMember& member : SchemaIndex::instance().typeOf(*owner).members()) {
+            const std::size_t count = member.type != nullptr ? opsOf(member).count(*owner) : 0;
+            for (std::size_t i = 0; i < count; ++i) {
+                if (&opsOf(member).at(*owner, i) == &object) {
+                    return Member(*owner, member.index,
+                                  opsOf(member).single ? std::nullopt : std::optional<std::size_t>(i));
+                }
+            }
+        }
+    }
+    throw std::invalid_argument("the object stands in no other one");
+}
+
+std::vector<Member> Member::textLists(xml_schema::type& object)
+{
+    std::vector<Member> lists;
+    for (const FlatMember& member : SchemaIndex::instance().typeOf(object).members()) {
+        if (isListOfTexts(member)) {
+            lists.push_back(Member(object, member.index, std::nullopt));
+        }
+    }
+    return lists;
+}
+
+std::string Member::name() const
+{
+    return memberOf(*owner, index).declaration->name;
+}
+
+bool Member::isList() const
+{
+    return !entry && !opsOf(memberOf(*owner, index)).single;
+}
+
+std::size_t Member::size() const
+{
+    const std::size_t count = opsOf(memberOf(*owner, index)).count(*owner);
+    return entry ? (*entry < count ? 1 : 0) : count;
+}
+
+bool Member::present() const
+{
+    if (entry) {
+        return size() != 0;
+    }
+    const FlatMember& member = memberOf(*owner, index);
+    const std::vector<KeptContent::Value> kept = keptOf(*owner, member);
+    const bool isAbsent =
+        std::any_of(kept.begin(), kept.end(), [](const KeptContent::Value& value) { return value.isAbsent; });
+    return isAbsent || (binding::writtenCount(*owner, member) != 0 && !isDefault(*owner, member));
+}
+
+void Member::clear()
+{
+    const FlatMember& member = memberOf(*owner, index);
+    if (entry) {
+        if (size() != 0) {
+            takeFrom(*owner, member, *entry);
+            forgetKept(*owner, member, *entry);
+        }
+        return;
+    }
+    cutTo(*owner, member, 0);
+    setKept(*owner, member, {});
+    if (member.defaultBit != 0) {
+        addDefault(*owner, member);
+        KeptContent::clearSpelledOut(*owner, member.defaultBit);
+    } else if (member.requiredBit != 0) {
+        binding::fillRequired(*owner, SchemaIndex::instance().typeOf(*owner));
+        KeptContent::seal(*owner);
+    }
+}
+
+MemberState Member::capture() const
+{
+    const FlatMember& member = memberOf(*owner, index);
+    const auto content = std::make_shared<MemberState::Content>();
+    content->declaration = member.declaration;
+    content->isEntry = entry.has_value();
+    // A number that was set without the member's knowing counts.
+    const std::size_t count = std::max(opsOf(member).count(*owner), binding::writtenCount(*owner, member));
+    const std::size_t first = entry ? std::min(*entry, count) : 0;
+    const std::size_t end = entry ? std::min(*entry + 1, count) : count;
+    for (std::size_t i = first; i < end; ++i) {
+        if (member.type != nullptr) {
+            content->objects.push_back(copyOf(opsOf(member).at(*owner, i)));
+        } else {
+            opsOf(member).format(*owner, i, content->texts.emplace_back());
+        }
+    }
+    if (!entry) {
+        content->kept = keptOf(*owner, member);
+        content->isSpelledOut = KeptContent::isSpelledOut(*owner, member.defaultBit);
+    }
+    return MemberState(content);
+}
+
+bool Member::restore(const MemberState& state)
+{
+    const FlatMember& member = memberOf(*owner, index);
+    const MemberState::Content* const content = state.content.get();
+    if (content == nullptr || content->declaration != member.declaration ||
+        content->isEntry != entry.has_value()) {
+        return false;
+    }
+    if (entry) {
+        return restoreEntry(state);
+    }
+    if (member.type != nullptr) {
+        becomeAll(*owner, member, content->objects);
+    } else {
+        setTexts(*owner, member, content->texts);
+    }
+    setKept(*owner, member, content->kept);
+    KeptContent::clearSpelledOut(*owner, member.defaultBit);
+    if (content->isSpelledOut) {
+        KeptContent::setSpelledOut(*owner, member.defaultBit);
+    }
+    return true;
+}
+
+bool Member::restoreEntry(const MemberState& state)
+{
+    const FlatMember& member = memberOf(*owner, index);
+    if (state.content->objects.empty()) {
+        clear();
+        return true;
+    }
+    const xml_schema::type& saved = *state.content->objects.front();
+    if (size() != 0 && typeid(objectAt(*owner, member, *entry)) == typeid(saved)) {
+        become(objectAt(*owner, member, *entry), saved);
+        return true;
+    }
+    clear();
+    return Member(*owner, index, std::nullopt).put(*entry, state);
+}
+
+bool Member::add(const std::string& text)
+{
+    const FlatMember& member = memberOf(*owner, index);
+    if (entry || !isListOfTexts(member)) {
+        return false;
+    }
+    std::unique_ptr<xml_schema::type> value = binding::newObject(*member.type->record());
+    try {
+        member.type->record()->text->parse(*value, text, SamePrefixes());
+    } catch (const binding::ValueError&) {
+        return false;
+    }
+    opsOf(member).add(*owner, value.release());
+    return true;
+}
+
+MemberState Member::take(std::size_t at)
+{
+    const FlatMember& member = memberOf(*owner, index);
+    if (!isList() || member.type == nullptr || at >= size()) {
+        return MemberState();
+    }
+    const auto content = std::make_shared<MemberState::Content>();
+    content->declaration = member.declaration;
+    content->isEntry = true;
+    content->objects.push_back(takeFrom(*owner, member, at));
+    return MemberState(content);
+}
+
+bool Member::put(std::size_t at, const MemberState& state)
+{
+    const FlatMember& member = memberOf(*owner, index);
+    MemberState::Content* const content = state.content.get();
+    if (!isList() || content == nullptr || !content->isEntry || content->declaration != member.declaration ||
+        content->objects.empty()) {
+        return false;
+    }
+    std::unique_ptr<xml_schema::type>& object = content->objects.front();
+    std::unique_ptr<xml_schema::type> copy = copyOf(*object);
+    insert(*owner, member, at, std::exchange(object, std::move(copy)));
+    return true;
+}
+
+} // namespace citygml
