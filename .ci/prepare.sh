@@ -6,7 +6,7 @@ root=$(cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.." && pwd)
 packages=(
     g++ cmake ninja-build ccache python3 xsdcxx
     qtbase5-dev libxerces-c-dev libexpat1-dev liblog4cplus-dev libboost-iostreams-dev libopenscenegraph-dev
-    libmimalloc-dev
+    libgoogle-perftools-dev pkg-config
 )
 
 # Everything said goes to standard error, so that standard output is the job's alone.

@@ -2,7 +2,7 @@
 
 #include <chrono>
 #include <fstream>
-#include <malloc.h>
+#include <gperftools/malloc_extension.h>
 #include <sys/resource.h>
 #include <unistd.h>
 
@@ -29,13 +29,14 @@ double elapsedSeconds()
 
 double allocatedBytes()
 {
-    const struct mallinfo2 info = mallinfo2();
-    return static_cast<double>(info.uordblks + info.hblkhd);
+    std::size_t bytes = 0;
+    MallocExtension::instance()->GetNumericProperty("generic.current_allocated_bytes", &bytes);
+    return static_cast<double>(bytes);
 }
 
 MemoryPeak::MemoryPeak()
 {
-    malloc_trim(0);
+    MallocExtension::instance()->ReleaseFreeMemory();
     std::ofstream("/proc/self/clear_refs") << 5; // forgets the former peak
     before = residentBytes();
 }
