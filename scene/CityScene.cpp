@@ -1,0 +1,450 @@
+#include "scene/CityScene.h"
+
+#include "gml/AbstractFeatureType.hxx"
+#include "gml/BoundingShapeType.hxx"
+#include "gml/EnvelopeType.hxx"
+#include "scene/Shaders.h"
+#include "scene/Vectors.h"
+
+#include <algorithm>
+#include <cmath>
+#include <osg/LineWidth>
+#include <osg/Point>
+#include <osg/PolygonOffset>
+#include <QElapsedTimer>
+#include <unordered_set>
+#include <utility>
+
+namespace tolvik::scene {
+
+namespace {
+
+using citygml::GeometryPiece;
+using citygml::Position;
+
+constexpr std::size_t noTile = static_cast<std::size_t>(-1);
+/// Of a tile, in corners: about 1,400 triangles.
+constexpr std::size_t tileSize = 2800;
+/// Of the places that tiles are made of, in the units of the document.
+constexpr double cellSize = 150;
+/// What no number of a coordinate system comes near; larger ones would be infinite in single precision.
+constexpr double largestCoordinate = 1e15;
+
+bool isFinite(const Position& position)
+{
+    return std::all_of(position.begin(), position.end(),
+                       [](double part) { return std::isfinite(part) && std::abs(part) < largestCoordinate; });
+}
+
+Position placed(const std::array<double, 16>& m, const Position& p)
+{
+    Position result;
+    for (std::size_t row = 0; row < 3; ++row) {
+        result[row] = m[4 * row] * p[0] + m[4 * row + 1] * p[1] + m[4 * row + 2] * p[2] + m[4 * row + 3];
+    }
+    return result;
+}
+
+QString srsNameOf(const Feature& feature)
+{
+    if (feature.boundedBy().present() && feature.boundedBy()->Envelope().present() &&
+        feature.boundedBy()->Envelope()->srsName().present()) {
+        return QString::fromStdString(*feature.boundedBy()->Envelope()->srsName());
+    }
+    return QString();
+}
+
+void setLook(osg::StateSet& state, LookMode look)
+{
+    state.addUniform(new osg::Uniform("look", int(look)));
+}
+
+/// The states of faces without a look, of edges, and of lines and points.
+osg::ref_ptr<osg::StateSet> makePartState(TileDrawable::Part part)
+{
+    osg::ref_ptr<osg::StateSet> state = new osg::StateSet;
+    setLook(*state, part == TileDrawable::Part::Faces   ? FeatureLook
+                    : part == TileDrawable::Part::Edges ? EdgeLook
+                                                        : MarkLook);
+    if (part == TileDrawable::Part::Marks) {
+        state->setAttribute(new osg::LineWidth(2));
+        state->setAttribute(new osg::Point(7));
+    }
+    return state;
+}
+
+unsigned maskOf(TileDrawable::Part part)
+{
+    switch (part) {
+    case TileDrawable::Part::Faces:
+        return FaceMask;
+    case TileDrawable::Part::Edges:
+        return EdgeMask;
+    default:
+        return MarkMask;
+    }
+}
+
+} // namespace
+
+CityScene::CityScene()
+    : lookArrays(std::make_shared<std::vector<LookArrays>>(1)),
+      partStates({makePartState(TileDrawable::Part::Faces), makePartState(TileDrawable::Part::Edges),
+                  makePartState(TileDrawable::Part::Marks)})
+{
+    osg::StateSet* const state = top->getOrCreateStateSet();
+    table.bind(*state);
+    state->addUniform(new osg::Uniform("picture", int(pictureUnit)));
+    // Faces are moved back a little, so that edges and lines upon them are seen.
+    state->setAttributeAndModes(new osg::PolygonOffset(1, 1));
+    state->setMode(GL_LIGHTING, osg::StateAttribute::OFF);
+    state->setMode(GL_CULL_FACE, osg::StateAttribute::OFF);
+    state->setMode(GL_CLIP_DISTANCE0, osg::StateAttribute::ON);
+}
+
+CityScene::~CityScene() = default;
+
+void CityScene::begin(std::vector<const Feature*> features, const QString& document)
+{
+    clear();
+    coming = std::move(features);
+    folder = DocumentFolder(document);
+    surfaceLooks.read(coming, folder);
+    lookArrays = std::make_shared<std::vector<LookArrays>>(surfaceLooks.arrays());
+    srsName = coming.empty() ? QString() : srsNameOf(*coming.front());
+}
+
+void CityScene::clear()
+{
+    workers.clear();
+    coming.clear();
+    next = 0;
+    cells.clear();
+    tiles.clear();
+    tileOf.clear();
+    table.clear();
+    surfaceLooks.clear();
+    libraryObjects = LibraryObjects();
+    hasOrigin = false;
+    sceneOrigin = {};
+    srsName.clear();
+    top->removeChildren(0, top->getNumChildren());
+}
+
+bool CityScene::addSome(int milliseconds)
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (next < coming.size()) {
+        addFeature(*coming[next++]);
+        // The clock is asked seldom enough not to count.
+        if (next % 16 == 0 && timer.elapsed() >= milliseconds) {
+            return true;
+        }
+    }
+    sendAll();
+    coming.clear();
+    next = 0;
+    return false;
+}
+
+void CityScene::addAll()
+{
+    while (addSome(1000)) {
+    }
+    while (workers.awaited() > 0) {
+        workers.wait();
+        takeFinished();
+    }
+}
+
+double CityScene::progress() const
+{
+    return coming.empty() ? 1 : static_cast<double>(next) / static_cast<double>(coming.size());
+}
+
+void CityScene::addFeature(const Feature& feature)
+{
+    const Slot slot = table.add(feature);
+    tileOf.push_back(noTile);
+    Batch batch;
+    append(slot, feature, batch);
+    if (batch.patches.empty()) {
+        return;
+    }
+    const Position at = difference(batch.positions.front(), sceneOrigin);
+    const Cell cell = {std::lround(at[0] / cellSize), std::lround(at[1] / cellSize)};
+    Pending& pending = cells[cell];
+    const auto positionCount = pending.batch.positions.size();
+    const auto runCount = static_cast<std::uint32_t>(pending.batch.runs.size());
+    for (citygml::PositionRun& run : batch.runs) {
+        run.begin += positionCount;
+        run.end += positionCount;
+    }
+    for (Batch::Patch& patch : batch.patches) {
+        patch.firstRun += runCount;
+    }
+    if (!batch.places.empty()) {
+        pending.batch.places.resize(positionCount);
+    }
+    const auto appendTo = [](auto& all, const auto& more) {
+        all.insert(all.end(), more.begin(), more.end());
+    };
+    appendTo(pending.batch.positions, batch.positions);
+    appendTo(pending.batch.runs, batch.runs);
+    appendTo(pending.batch.patches, batch.patches);
+    appendTo(pending.batch.places, batch.places);
+    pending.members.push_back(slot);
+    if (pending.batch.positions.size() >= tileSize) {
+        send(std::move(pending));
+        cells.erase(cell);
+    }
+}
+
+void CityScene::append(Slot slot, const Feature& feature, Batch& batch)
+{
+    citygml::walkGeometry(feature, [&](const GeometryPiece& piece) {
+        if (piece.kind == GeometryPiece::Kind::LibraryObject) {
+            appendLibraryObject(slot, piece, batch);
+        } else if (!isDrawnElsewhere(piece) &&
+                   std::all_of(piece.positions.begin(), piece.positions.end(), isFinite)) {
+            appendPiece(slot, piece, batch);
+        }
+    });
+}
+
+/// Whether a piece that a reference led to is drawn as part of the feature in which it stands.
+bool CityScene::isDrawnElsewhere(const GeometryPiece& piece) const
+{
+    return piece.holder != nullptr && piece.holderLod == piece.lod;
+}
+
+void CityScene::appendPiece(Slot slot, const GeometryPiece& piece, Batch& batch)
+{
+    if (piece.positions.empty()) {
+        return;
+    }
+    if (!hasOrigin) {
+        sceneOrigin = piece.positions.front();
+        hasOrigin = true;
+    }
+    Batch::Patch patch;
+    patch.slot = slot;
+    patch.lod = static_cast<std::int8_t>(piece.lod);
+    patch.firstRun = static_cast<std::uint32_t>(batch.runs.size());
+    switch (piece.kind) {
+    case GeometryPiece::Kind::Line:
+        patch.kind = Batch::Kind::Line;
+        break;
+    case GeometryPiece::Kind::Point:
+        patch.kind = Batch::Kind::Point;
+        batch.runs.push_back({batch.positions.size(), batch.positions.size() + 1, nullptr});
+        break;
+    default:
+        patch.look = surfaceLooks.lookOf(piece);
+    }
+    for (citygml::PositionRun run : piece.runs) {
+        run.begin += batch.positions.size();
+        run.end += batch.positions.size();
+        batch.runs.push_back(run);
+    }
+    patch.runCount = static_cast<std::uint32_t>(batch.runs.size()) - patch.firstRun;
+    if (surfaceLooks.arrays()[patch.look].kind == LookKind::Texture) {
+        batch.places.resize(batch.positions.size());
+        surfaceLooks.appendPlaces(piece, patch.look, batch.places);
+    }
+    batch.positions.insert(batch.positions.end(), piece.positions.begin(), piece.positions.end());
+    batch.patches.push_back(patch);
+    table.addLod(slot, piece.lod);
+}
+
+void CityScene::appendLibraryObject(Slot slot, const GeometryPiece& piece, Batch& batch)
+{
+    const QString path = folder.find(QString::fromStdString(piece.libraryObject));
+    if (path.isEmpty()) {
+        return;
+    }
+    const std::vector<Position>& corners = libraryObjects.trianglesOf(path);
+    GeometryPiece triangle = piece;
+    triangle.kind = GeometryPiece::Kind::Surface;
+    triangle.runs = {{0, 3, nullptr}};
+    for (std::size_t i = 0; i + 2 < corners.size(); i += 3) {
+        triangle.positions.clear();
+        for (std::size_t corner = i; corner < i + 3; ++corner) {
+            triangle.positions.push_back(placed(piece.placement, corners[corner]));
+        }
+        if (std::all_of(triangle.positions.begin(), triangle.positions.end(), isFinite)) {
+            appendPiece(slot, triangle, batch);
+        }
+    }
+}
+
+void CityScene::send(Pending pending)
+{
+    const std::size_t tile = tiles.size();
+    for (const Slot slot : pending.members) {
+        tileOf[slot] = tile;
+    }
+    tiles.push_back({std::move(pending.members), nullptr, 0, 0});
+    workers.add(tile, std::move(pending.batch), lookArrays);
+}
+
+/// Makes tiles of what has not been enough for one, neighbours together.
+void CityScene::sendAll()
+{
+    for (auto& [cell, pending] : cells) {
+        send(std::move(pending));
+    }
+    cells.clear();
+}
+
+bool CityScene::takeFinished()
+{
+    std::vector<TileWorkers::Result> results = workers.take();
+    for (TileWorkers::Result& result : results) {
+        show(tiles[result.tile], std::move(result.mesh));
+    }
+    return !results.empty();
+}
+
+void CityScene::show(Tile& tile, TileMesh mesh)
+{
+    if (tile.node != nullptr) {
+        tile.node->removeChildren(0, tile.node->getNumChildren());
+    } else {
+        tile.node = new osg::MatrixTransform;
+        top->addChild(tile.node);
+    }
+    const Position offset = difference(mesh.origin, sceneOrigin);
+    tile.node->setMatrix(osg::Matrixd::translate(offset[0], offset[1], offset[2]));
+    for (const TileDrawable& drawable : mesh.drawables) {
+        drawable.geometry->setStateSet(drawable.look != 0
+                                           ? surfaceLooks.stateOf(drawable.look).get()
+                                           : partStates[static_cast<std::size_t>(drawable.part)].get());
+        drawable.geometry->setNodeMask(maskOf(drawable.part));
+        tile.node->addChild(drawable.geometry);
+    }
+    tile.triangles = mesh.triangles;
+    tile.degenerate = mesh.degenerate;
+}
+
+void CityScene::rebuildTile(std::size_t number)
+{
+    Tile& tile = tiles[number];
+    Batch batch;
+    for (const Slot slot : tile.members) {
+        table.clearLods(slot);
+        append(slot, *table.featureOf(slot), batch);
+    }
+    show(tile, buildTile(batch, *lookArrays));
+}
+
+void CityScene::add(const Feature& feature)
+{
+    addFeature(feature);
+    sendAll();
+}
+
+void CityScene::remove(const Feature& feature)
+{
+    const Slot slot = table.slotOf(&feature);
+    if (slot == noSlot) {
+        coming.erase(std::remove(coming.begin() + static_cast<std::ptrdiff_t>(next), coming.end(), &feature),
+                     coming.end());
+        return;
+    }
+    table.remove(slot);
+    if (tileOf[slot] != noTile) {
+        std::vector<Slot>& which = tiles[tileOf[slot]].members;
+        which.erase(std::remove(which.begin(), which.end(), slot), which.end());
+        tileOf[slot] = noTile;
+    }
+}
+
+void CityScene::rebuild(const Feature& feature)
+{
+    const Slot slot = table.slotOf(&feature);
+    if (slot == noSlot) {
+        return;
+    }
+    while (workers.awaited() > 0) {
+        workers.wait();
+        takeFinished();
+    }
+    sendAll();
+    if (tileOf[slot] != noTile) {
+        rebuildTile(tileOf[slot]);
+        return;
+    }
+    // It had nothing to draw until now.
+    Pending pending;
+    append(slot, feature, pending.batch);
+    if (!pending.batch.patches.empty()) {
+        pending.members.push_back(slot);
+        send(std::move(pending));
+    }
+}
+
+void CityScene::setTheme(const QString& theme, bool isShown)
+{
+    surfaceLooks.setTheme(theme, isShown);
+    lookArrays = std::make_shared<std::vector<LookArrays>>(surfaceLooks.arrays());
+    for (std::size_t tile = 0; tile < tiles.size(); ++tile) {
+        rebuildTile(tile);
+    }
+}
+
+CityScene::Counts CityScene::counts() const
+{
+    Counts counts;
+    counts.features = table.size();
+    counts.tiles = tiles.size();
+    for (const Tile& tile : tiles) {
+        counts.triangles += tile.triangles;
+        counts.degenerate += tile.degenerate;
+    }
+    return counts;
+}
+
+osg::BoundingBoxd CityScene::bounds() const
+{
+    osg::BoundingBoxd box;
+    for (const Tile& tile : tiles) {
+        for (unsigned i = 0; tile.node != nullptr && i < tile.node->getNumChildren(); ++i) {
+            const osg::BoundingBox part = tile.node->getChild(i)->asGeometry()->getBoundingBox();
+            const osg::Vec3d offset = tile.node->getMatrix().getTrans();
+            box.expandBy(osg::Vec3d(part._min) + offset);
+            box.expandBy(osg::Vec3d(part._max) + offset);
+        }
+    }
+    return box;
+}
+
+osg::BoundingBoxd CityScene::boundsOf(const std::vector<Slot>& which) const
+{
+    osg::BoundingBoxd box;
+    const std::unordered_set<Slot> wanted(which.begin(), which.end());
+    std::unordered_set<std::size_t> numbers;
+    for (const Slot slot : which) {
+        numbers.insert(tileOf[slot]);
+    }
+    numbers.erase(noTile);
+    for (const std::size_t number : numbers) {
+        const Tile& tile = tiles[number];
+        for (unsigned i = 0; tile.node != nullptr && i < tile.node->getNumChildren(); ++i) {
+            const osg::Geometry& geometry = *tile.node->getChild(i)->asGeometry();
+            const auto& positions = static_cast<const osg::Vec3Array&>(*geometry.getVertexArray());
+            const auto& tags =
+                static_cast<const osg::UIntArray&>(*geometry.getVertexAttribArray(FeatureAttribute));
+            for (std::size_t vertex = 0; vertex < positions.size(); ++vertex) {
+                const Slot slot = slotOfTag(tags[vertex]);
+                if (wanted.count(slot) != 0 && table.isLodShown(slot, lodOfTag(tags[vertex]))) {
+                    box.expandBy(osg::Vec3d(positions[vertex]) + tile.node->getMatrix().getTrans());
+                }
+            }
+        }
+    }
+    return box;
+}
+
+} // namespace tolvik::scene

@@ -1,0 +1,148 @@
+#pragma once
+
+#include "scene/FeatureTable.h"
+#include "scene/LibraryObjects.h"
+#include "scene/Looks.h"
+#include "scene/TileWorkers.h"
+
+#include <array>
+#include <map>
+#include <memory>
+#include <osg/BoundingBox>
+#include <osg/Group>
+#include <vector>
+
+namespace tolvik::scene {
+
+/// The features of one document as a scene that a Renderer draws.
+/// \code
+/// CityScene scene;
+/// scene.begin(features, path);
+/// while (scene.addSome(20)) {        // in slices, in milliseconds, on the document's thread
+///     scene.takeFinished();          // what other threads have made of it so far is drawn from now on
+/// }
+/// while (scene.isBusy()) {
+///     scene.waitForTile();
+///     scene.takeFinished();
+/// }
+/// \endcode
+/// The scene keeps pointers to the features and never looks into one of them outside of the operations that
+/// are given features or say so: a host calls clear() before the document goes. All operations belong to one
+/// thread.
+class CityScene
+{
+public:
+    struct Counts
+    {
+        std::size_t features = 0;
+        std::size_t triangles = 0;
+        /// Surfaces that have no area.
+        std::size_t degenerate = 0;
+        std::size_t tiles = 0;
+    };
+
+    CityScene();
+    CityScene(const CityScene&) = delete;
+    CityScene& operator=(const CityScene&) = delete;
+    ~CityScene();
+
+    /// Begins with another document.
+    /// \param features all of it, a feature before those below it
+    /// \param document path of its file, beside which pictures are looked for
+    void begin(std::vector<const Feature*> features, const QString& document);
+    /// Goes on adding features to the scene, for about so long.
+    /// \return whether there are more to add
+    bool addSome(int milliseconds);
+    /// Puts the tiles that are ready into the scene.
+    /// \return whether there were any
+    bool takeFinished();
+    /// Waits until a tile is ready; returns at once where none is awaited.
+    void waitForTile() { workers.wait(); }
+    /// Adds everything and waits for it.
+    void addAll();
+    /// Whether there are features to add or tiles to wait for.
+    bool isBusy() const { return next < coming.size() || workers.awaited() > 0; }
+    /// How many of the features have been added, from 0 to 1.
+    double progress() const;
+    /// Forgets the document.
+    void clear();
+
+    /// Adds a feature that has come into the document.
+    void add(const Feature& feature);
+    /// Takes a feature out of the scene. The features below it stay.
+    void remove(const Feature& feature);
+    /// Makes anew what is drawn of a feature.
+    void rebuild(const Feature& feature);
+    /// Uses another theme of the document's appearances, or none, and makes everything anew.
+    void setTheme(const QString& theme, bool isShown);
+
+    FeatureTable& features() { return table; }
+    const FeatureTable& features() const { return table; }
+    const Looks& looks() const { return surfaceLooks; }
+    Counts counts() const;
+
+    /// Of the document's coordinates; what is drawn is relative to it.
+    const citygml::Position& origin() const { return sceneOrigin; }
+    /// Name of the coordinate system as the document gives it; empty where it gives none.
+    const QString& coordinateSystem() const { return srsName; }
+    /// Around all that is drawn of visible features, relative to the origin; invalid where there is nothing.
+    osg::BoundingBoxd bounds() const;
+    /// Around what is drawn of some features, hidden or not.
+    osg::BoundingBoxd boundsOf(const std::vector<Slot>& which) const;
+
+    /// What is drawn.
+    osg::Group* root() const { return top; }
+
+private:
+    struct Tile
+    {
+        std::vector<Slot> members;
+        osg::ref_ptr<osg::MatrixTransform> node;
+        std::size_t triangles = 0;
+        std::size_t degenerate = 0;
+    };
+    /// What has come of a place in the city, until it is enough for a tile.
+    struct Pending
+    {
+        std::vector<Slot> members;
+        Batch batch;
+        std::size_t size = 0;
+    };
+    using Cell = std::array<long, 2>;
+
+    void addFeature(const Feature& feature);
+    void append(Slot slot, const Feature& feature, Batch& batch);
+    void appendPiece(Slot slot, const citygml::GeometryPiece& piece, Batch& batch);
+    void appendLibraryObject(Slot slot, const citygml::GeometryPiece& piece, Batch& batch);
+    bool isDrawnElsewhere(const citygml::GeometryPiece& piece) const;
+    void send(Pending pending);
+    void sendAll();
+    void show(Tile& tile, TileMesh mesh);
+    void rebuildTile(std::size_t tile);
+
+    std::vector<const Feature*> coming;
+    std::size_t next = 0;
+    std::map<Cell, Pending> cells;
+    std::vector<Tile> tiles;
+    /// The tile that a feature is drawn in; noTile for one that is in none.
+    std::vector<std::size_t> tileOf;
+    TileWorkers workers;
+    std::shared_ptr<const std::vector<LookArrays>> lookArrays;
+
+    FeatureTable table;
+    Looks surfaceLooks;
+    DocumentFolder folder;
+    LibraryObjects libraryObjects;
+    citygml::Position sceneOrigin = {};
+    bool hasOrigin = false;
+    QString srsName;
+
+    /// Of faces without a look, edges, and lines and points.
+    std::array<osg::ref_ptr<osg::StateSet>, 3> partStates;
+    osg::ref_ptr<osg::Group> top = new osg::Group;
+};
+
+/// Parts of what is drawn, as node masks.
+enum NodeMask : unsigned { FaceMask = 1, EdgeMask = 2, MarkMask = 4 };
+
+} // namespace tolvik::scene

@@ -1,0 +1,276 @@
+#include "scene/FeatureTable.h"
+
+#include "bldg/AbstractBoundarySurfaceType.hxx"
+#include "bldg/AbstractOpeningType.hxx"
+#include "brid/AbstractBoundarySurfaceType.hxx"
+#include "brid/AbstractOpeningType.hxx"
+#include "scene/Shaders.h"
+#include "scene/TypeColours.h"
+#include "tun/AbstractBoundarySurfaceType.hxx"
+#include "tun/AbstractOpeningType.hxx"
+#include "wtr/AbstractWaterBoundarySurfaceType.hxx"
+
+#include <algorithm>
+#include <typeindex>
+
+namespace tolvik::scene {
+
+namespace {
+
+/// Shown where every level of detail is to be left out.
+constexpr int noLod = 6;
+/// In texels: buffers grow by doubling, so that coming features are not a new buffer each.
+constexpr int smallestBuffer = 1024;
+
+template <typename... Types>
+bool isOneOf(const Feature& feature)
+{
+    return (... || (dynamic_cast<const Types*>(&feature) != nullptr));
+}
+
+std::uint32_t packed(const QColor& colour)
+{
+    return static_cast<std::uint32_t>(colour.red()) | static_cast<std::uint32_t>(colour.green()) << 8 |
+           static_cast<std::uint32_t>(colour.blue()) << 16 | 0xff000000;
+}
+
+osg::ref_ptr<osg::TextureBuffer> makeBuffer(osg::Image* image, GLint format)
+{
+    osg::ref_ptr<osg::TextureBuffer> buffer = new osg::TextureBuffer;
+    buffer->setImage(image);
+    buffer->setInternalFormat(format);
+    buffer->setUnRefImageDataAfterApply(false);
+    return buffer;
+}
+
+/// Copies values into an image that is at least as wide as they are many.
+template <typename Value>
+void copyTo(osg::Image& image, const std::vector<Value>& values, GLenum pixelFormat, GLenum type)
+{
+    int width = std::max(smallestBuffer, image.s());
+    while (width < static_cast<int>(values.size())) {
+        width *= 2;
+    }
+    if (width != image.s()) {
+        image.allocateImage(width, 1, 1, pixelFormat, type, 1);
+    }
+    if (!values.empty()) {
+        std::copy(values.begin(), values.end(), reinterpret_cast<Value*>(image.data()));
+    }
+    image.dirty();
+}
+
+} // namespace
+
+FeatureTable::FeatureTable()
+{
+    update();
+    copyTo(*stateImage, states, GL_RED_INTEGER_EXT, GL_UNSIGNED_BYTE);
+    copyTo(*colourImage, colours, GL_RGBA, GL_UNSIGNED_BYTE);
+    stateBuffer = makeBuffer(stateImage, GL_R8UI);
+    colourBuffer = makeBuffer(colourImage, GL_RGBA8);
+}
+
+Slot FeatureTable::add(const Feature& feature)
+{
+    const auto slot = static_cast<Slot>(features.size());
+    const xml_schema::type_base* const container = feature._container();
+    const auto* const object = dynamic_cast<const xml_schema::type*>(container);
+    const Slot parent = object != nullptr ? slotOf(citygml::featureAround(*object)) : noSlot;
+    features.push_back(&feature);
+    parents.push_back(parent);
+    units.push_back(parent != noSlot && isBoundary(feature) ? units[parent] : slot);
+    lods.push_back(0);
+    states.push_back(0);
+    colours.push_back(packed(TypeColours::of(feature)));
+    slotByFeature[&feature] = slot;
+    areLodsOld = areStatesOld = areColoursOld = true;
+    return slot;
+}
+
+void FeatureTable::remove(Slot slot)
+{
+    slotByFeature.erase(features[slot]);
+    features[slot] = nullptr;
+    lods[slot] = 0;
+    setHidden(slot, true);
+    selection.erase(std::remove(selection.begin(), selection.end(), slot), selection.end());
+    setBit(slot, SelectedBit, false);
+    if (hovered == slot) {
+        hovered = noSlot;
+    }
+    areLodsOld = true;
+}
+
+void FeatureTable::clear()
+{
+    features.clear();
+    parents.clear();
+    units.clear();
+    lods.clear();
+    slotByFeature.clear();
+    states.clear();
+    colours.clear();
+    selection.clear();
+    hovered = noSlot;
+}
+
+Slot FeatureTable::slotOf(const Feature* feature) const
+{
+    const auto found = slotByFeature.find(feature);
+    return found != slotByFeature.end() ? found->second : noSlot;
+}
+
+std::vector<Slot> FeatureTable::withBelow(const std::vector<Slot>& of) const
+{
+    std::vector<bool> isIn(features.size());
+    for (const Slot slot : of) {
+        isIn[slot] = true;
+    }
+    std::vector<Slot> result;
+    for (Slot slot = 0; slot < features.size(); ++slot) {
+        // A feature comes after the one around it.
+        isIn[slot] = isIn[slot] || (parents[slot] != noSlot && isIn[parents[slot]]);
+        if (isIn[slot] && features[slot] != nullptr) {
+            result.push_back(slot);
+        }
+    }
+    return result;
+}
+
+/// Whether a feature is a surface that bounds the one around it, or an opening in such a surface.
+bool FeatureTable::isBoundary(const Feature& feature)
+{
+    static std::unordered_map<std::type_index, bool> known;
+    const auto found = known.find(typeid(feature));
+    if (found != known.end()) {
+        return found->second;
+    }
+    const bool is = isOneOf<bldg::AbstractBoundarySurfaceType, bldg::AbstractOpeningType,
+                            brid::AbstractBoundarySurfaceType, brid::AbstractOpeningType,
+                            tun::AbstractBoundarySurfaceType, tun::AbstractOpeningType,
+                            wtr::AbstractWaterBoundarySurfaceType>(feature);
+    return known.emplace(typeid(feature), is).first->second;
+}
+
+void FeatureTable::addLod(Slot slot, int lod)
+{
+    if (lod >= 0) {
+        lods[slot] = static_cast<std::uint8_t>(lods[slot] | 1 << lod);
+        areLodsOld = true;
+    }
+}
+
+bool FeatureTable::hasLod(int lod) const
+{
+    return std::any_of(lods.begin(), lods.end(), [lod](std::uint8_t bits) { return (bits >> lod & 1) != 0; });
+}
+
+void FeatureTable::setLodChoice(const LodChoice& wanted)
+{
+    choice = wanted;
+    areLodsOld = true;
+}
+
+int FeatureTable::shownLod(Slot slot) const
+{
+    return (states[slot] >> lodShift) - 1;
+}
+
+bool FeatureTable::isLodShown(Slot slot, int lod) const
+{
+    return lod < 0 || lod == shownLod(slot);
+}
+
+void FeatureTable::updateShownLods()
+{
+    // Of each unit, at the feature that leads it: all levels of detail in it.
+    std::vector<std::uint8_t> ofUnit(features.size());
+    for (Slot slot = 0; slot < features.size(); ++slot) {
+        ofUnit[units[slot]] = static_cast<std::uint8_t>(ofUnit[units[slot]] | lods[slot]);
+    }
+    for (Slot slot = 0; slot < features.size(); ++slot) {
+        const std::uint8_t bits = ofUnit[units[slot]];
+        int shown = choice.kind == LodChoice::Kind::Fixed ? choice.lod : noLod;
+        for (int lod = 0; lod < lodCount && choice.kind != LodChoice::Kind::Fixed; ++lod) {
+            if ((bits >> lod & 1) != 0 && (choice.kind == LodChoice::Kind::Highest || shown == noLod)) {
+                shown = lod;
+            }
+        }
+        const int flags = states[slot] & ((1 << lodShift) - 1);
+        states[slot] = static_cast<std::uint8_t>(flags | (shown + 1) << lodShift);
+    }
+    areStatesOld = true;
+}
+
+void FeatureTable::setBit(Slot slot, Bit bit, bool isSet)
+{
+    const int state = isSet ? states[slot] | bit : states[slot] & ~bit;
+    if (state != states[slot]) {
+        states[slot] = static_cast<std::uint8_t>(state);
+        areStatesOld = true;
+    }
+}
+
+void FeatureTable::setSelection(const std::vector<Slot>& wanted)
+{
+    selection = wanted;
+    for (Slot slot = 0; slot < features.size(); ++slot) {
+        setBit(slot, SelectedBit, false);
+    }
+    for (const Slot slot : wanted) {
+        setBit(slot, SelectedBit, true);
+    }
+    for (Slot slot = 0; slot < features.size(); ++slot) {
+        if (parents[slot] != noSlot && isSelected(parents[slot])) {
+            setBit(slot, SelectedBit, true);
+        }
+    }
+}
+
+void FeatureTable::setHovered(Slot slot)
+{
+    if (hovered != noSlot) {
+        setBit(hovered, HoveredBit, false);
+    }
+    hovered = slot;
+    if (hovered != noSlot) {
+        setBit(hovered, HoveredBit, true);
+    }
+}
+
+void FeatureTable::setColour(Slot slot, const QColor& colour)
+{
+    colours[slot] = packed(colour);
+    areColoursOld = true;
+}
+
+QColor FeatureTable::colourOf(Slot slot) const
+{
+    const std::uint32_t colour = colours[slot];
+    return QColor(colour & 0xff, colour >> 8 & 0xff, colour >> 16 & 0xff);
+}
+
+void FeatureTable::update()
+{
+    if (areLodsOld) {
+        updateShownLods();
+    }
+    if (areStatesOld) {
+        copyTo(*stateImage, states, GL_RED_INTEGER_EXT, GL_UNSIGNED_BYTE);
+    }
+    if (areColoursOld) {
+        copyTo(*colourImage, colours, GL_RGBA, GL_UNSIGNED_BYTE);
+    }
+    areLodsOld = areStatesOld = areColoursOld = false;
+}
+
+void FeatureTable::bind(osg::StateSet& state) const
+{
+    state.setTextureAttribute(stateUnit, stateBuffer);
+    state.setTextureAttribute(colourUnit, colourBuffer);
+    state.addUniform(new osg::Uniform("stateOf", stateUnit));
+    state.addUniform(new osg::Uniform("colourOf", colourUnit));
+}
+
+} // namespace tolvik::scene

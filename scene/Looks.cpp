@@ -1,0 +1,385 @@
+#include "scene/Looks.h"
+
+#include "app/AppearanceType.hxx"
+#include "app/Color.hxx"
+#include "app/ColorPlusOpacity.hxx"
+#include "app/GeoreferencedTextureType.hxx"
+#include "app/ParameterizedTextureType.hxx"
+#include "app/SurfaceDataPropertyType.hxx"
+#include "app/TexCoordGenType.hxx"
+#include "app/TexCoordListType.hxx"
+#include "app/TextureAssociationType.hxx"
+#include "app/textureCoordinates.hxx"
+#include "app/worldToTexture.hxx"
+#include "app/WrapModeType.hxx"
+#include "app/X3DMaterialType.hxx"
+#include "core/doubleBetween0and1.hxx"
+#include "core/TransformationMatrix2x2Type.hxx"
+#include "gml/DirectPositionType.hxx"
+#include "gml/PointPropertyType.hxx"
+#include "gml/PointType.hxx"
+#include "scene/Shaders.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+#include <osg/BlendFunc>
+#include <osg/Texture2D>
+#include <QFile>
+#include <QFileInfo>
+
+namespace tolvik::scene {
+
+namespace {
+
+constexpr std::uint32_t noLook = 0;
+
+QString themeOf(const app::AppearanceType& appearance)
+{
+    return appearance.theme().present() ? QString::fromStdString(*appearance.theme()) : QString();
+}
+
+/// The object of the document that a reference names; null for one to somewhere else.
+const void* objectOf(const xml_schema::type& from, const std::string& uri)
+{
+    return uri.size() > 1 && uri[0] == '#' ? citygml::findById(from, uri.substr(1)) : nullptr;
+}
+
+/// What a property holds or refers to; null for nothing.
+const app::AbstractSurfaceDataType* surfaceDataOf(const app::SurfaceDataPropertyType& property)
+{
+    if (property._SurfaceData().present()) {
+        return &*property._SurfaceData();
+    }
+    const void* const object = property.href().present() ? objectOf(property, *property.href()) : nullptr;
+    return dynamic_cast<const app::AbstractSurfaceDataType*>(static_cast<const xml_schema::type*>(object));
+}
+
+std::uint8_t byteOf(double part)
+{
+    return static_cast<std::uint8_t>(std::lround(std::clamp(part, 0.0, 1.0) * 255));
+}
+
+/// Six numbers that tell where a picture lies: the world coordinates of a step to the right, one downwards,
+/// and of the centre of the upper left pixel.
+struct WorldFile
+{
+    std::array<double, 2> right;
+    std::array<double, 2> down;
+    std::array<double, 2> corner;
+};
+
+std::optional<WorldFile> readWorldFile(const DocumentFolder& folder, const QString& imageUri)
+{
+    const int dot = imageUri.lastIndexOf('.');
+    if (dot < 0 || imageUri.size() < dot + 3) {
+        return std::nullopt;
+    }
+    // Such as `.pgw` beside `.png`.
+    const QString name = imageUri.left(dot + 2) + imageUri.right(1) + 'w';
+    QFile file(folder.find(name));
+    if (file.fileName().isEmpty() || !file.open(QIODevice::ReadOnly)) {
+        return std::nullopt;
+    }
+    std::array<double, 6> numbers = {};
+    const QList<QByteArray> lines = file.read(4096).simplified().split(' ');
+    for (int i = 0; i < 6; ++i) {
+        bool isNumber = false;
+        numbers[static_cast<std::size_t>(i)] = lines.value(i).toDouble(&isNumber);
+        if (!isNumber) {
+            return std::nullopt;
+        }
+    }
+    return WorldFile{{numbers[0], numbers[1]}, {numbers[2], numbers[3]}, {numbers[4], numbers[5]}};
+}
+
+std::optional<WorldFile> worldFileOf(const app::GeoreferencedTextureType& texture)
+{
+    const bool isWhole = texture.orientation().present() && texture.orientation()->size() == 4 &&
+                         texture.referencePoint().present() && texture.referencePoint()->Point().present();
+    if (!isWhole || !texture.referencePoint()->Point()->pos().present() ||
+        texture.referencePoint()->Point()->pos()->size() < 2) {
+        return std::nullopt;
+    }
+    const auto& turn = *texture.orientation();
+    const auto& point = *texture.referencePoint()->Point()->pos();
+    return WorldFile{{turn[0], turn[2]}, {turn[1], turn[3]}, {point[0], point[1]}};
+}
+
+} // namespace
+
+void Looks::read(const std::vector<const gml::AbstractFeatureType*>& features,
+                 const DocumentFolder& documentFolder)
+{
+    folder = documentFolder;
+    appearances.clear();
+    themeNames.clear();
+    images.clear();
+    for (const gml::AbstractFeatureType* feature : features) {
+        if (const auto* const appearance = dynamic_cast<const app::AppearanceType*>(feature)) {
+            appearances.push_back(appearance);
+            const QString theme = themeOf(*appearance);
+            if (!themeNames.contains(theme)) {
+                themeNames << theme;
+            }
+        }
+    }
+    shownTheme = themeNames.value(0);
+    rebuild();
+}
+
+void Looks::clear()
+{
+    read({}, DocumentFolder());
+}
+
+void Looks::setTheme(const QString& theme, bool isShown)
+{
+    shownTheme = theme;
+    isThemeShown = isShown;
+    rebuild();
+}
+
+void Looks::rebuild()
+{
+    kinds = {LookArrays()};
+    textures.clear();
+    states.clear();
+    materialTargets.clear();
+    textureTargets.clear();
+    ringPlaces.clear();
+    placeLists.clear();
+    missingImages.clear();
+    for (const app::AppearanceType* appearance : appearances) {
+        if (isThemeShown && themeOf(*appearance) == shownTheme) {
+            add(*appearance);
+        }
+    }
+}
+
+void Looks::add(const app::AppearanceType& appearance)
+{
+    for (const auto& member : appearance.surfaceDataMember()) {
+        const app::AbstractSurfaceDataType* const data = surfaceDataOf(member);
+        // Of surfaces with two sides the front is shown.
+        if (data == nullptr || (data->isFront().present() && !data->isFront().get())) {
+            continue;
+        }
+        if (const auto* const material = dynamic_cast<const app::X3DMaterialType*>(data)) {
+            addMaterial(*material);
+        } else if (const auto* const texture = dynamic_cast<const app::ParameterizedTextureType*>(data)) {
+            addTexture(*texture);
+        } else if (const auto* const ground = dynamic_cast<const app::GeoreferencedTextureType*>(data)) {
+            addTexture(*ground);
+        }
+    }
+}
+
+void Looks::addMaterial(const app::X3DMaterialType& material)
+{
+    // What the schema says of a material without a colour.
+    std::array<double, 3> colour = {0.8, 0.8, 0.8};
+    if (material.diffuseColor().present() && material.diffuseColor()->size() == 3) {
+        std::copy(material.diffuseColor()->begin(), material.diffuseColor()->end(), colour.begin());
+    }
+    const double clear =
+        material.transparency().present() ? static_cast<double>(*material.transparency()) : 0;
+    const auto look = static_cast<std::uint32_t>(kinds.size());
+    kinds.push_back(
+        {LookKind::Material, {byteOf(colour[0]), byteOf(colour[1]), byteOf(colour[2]), byteOf(1 - clear)}});
+    for (const auto& target : material.target()) {
+        materialTargets[objectOf(material, target)] = {look, nullptr};
+    }
+}
+
+std::uint32_t Looks::addTextureLook(const app::AbstractTextureType& texture)
+{
+    Texture made;
+    made.uri = QString::fromStdString(texture.imageURI()).trimmed();
+    if (texture.wrapMode().present()) {
+        made.wrapMode = QString::fromStdString(*texture.wrapMode());
+    }
+    if (texture.borderColor().present()) {
+        std::copy_n(texture.borderColor()->begin(), std::min<std::size_t>(4, texture.borderColor()->size()),
+                    made.border.begin());
+    }
+    auto found = images.find(made.uri);
+    if (found == images.end()) {
+        const QString path = folder.find(made.uri);
+        found = images.emplace(made.uri, path.isEmpty() ? nullptr : readImage(path)).first;
+    }
+    made.image = found->second;
+    if (made.image == nullptr) {
+        if (!missingImages.contains(made.uri)) {
+            missingImages << made.uri;
+        }
+        return noLook;
+    }
+    const auto look = static_cast<std::uint32_t>(kinds.size());
+    kinds.push_back({LookKind::Texture, {255, 255, 255, 255}});
+    textures[look] = made;
+    return look;
+}
+
+void Looks::addTexture(const app::ParameterizedTextureType& texture)
+{
+    const std::uint32_t look = addTextureLook(texture);
+    if (look == noLook) {
+        return;
+    }
+    for (const app::TextureAssociationType& association : texture.target()) {
+        addAssociation(association, look);
+    }
+}
+
+void Looks::addAssociation(const app::TextureAssociationType& association, std::uint32_t look)
+{
+    Target target = {look, nullptr};
+    const xml_schema::type* parameters = nullptr;
+    if (association._TextureParameterization().present()) {
+        parameters = &*association._TextureParameterization();
+    } else if (association.href().present()) {
+        parameters = static_cast<const xml_schema::type*>(objectOf(association, *association.href()));
+    }
+    if (const auto* const list = dynamic_cast<const app::TexCoordListType*>(parameters)) {
+        for (const app::textureCoordinates& coordinates : list->textureCoordinates()) {
+            placeLists.push_back(
+                std::make_unique<std::vector<float>>(coordinates.begin(), coordinates.end()));
+            ringPlaces[objectOf(association, coordinates.ring())] = placeLists.back().get();
+        }
+    } else if (const auto* const world = dynamic_cast<const app::TexCoordGenType*>(parameters)) {
+        const app::worldToTexture& numbers = world->worldToTexture();
+        if (numbers.size() == 12) {
+            target.matrix = std::make_shared<Matrix>();
+            std::copy(numbers.begin(), numbers.end(), target.matrix->begin());
+        }
+    }
+    textureTargets[objectOf(association, association.uri())] = target;
+}
+
+void Looks::addTexture(const app::GeoreferencedTextureType& texture)
+{
+    const std::uint32_t look = addTextureLook(texture);
+    if (look == noLook) {
+        return;
+    }
+    const std::shared_ptr<Matrix> matrix = worldMatrixOf(texture, textures[look]);
+    for (const auto& target : texture.target()) {
+        if (matrix != nullptr) {
+            textureTargets[objectOf(texture, target)] = {look, matrix};
+        }
+    }
+}
+
+/// Takes a position to its place in a picture that lies flat on the ground; null where nothing says how.
+std::shared_ptr<Looks::Matrix> Looks::worldMatrixOf(const app::GeoreferencedTextureType& texture,
+                                                    const Texture& made) const
+{
+    const bool isFilePreferred = !texture.preferWorldFile().present() || texture.preferWorldFile().get();
+    std::optional<WorldFile> world = isFilePreferred ? readWorldFile(folder, made.uri) : std::nullopt;
+    if (!world) {
+        world = worldFileOf(texture);
+    }
+    const double area = world ? world->right[0] * world->down[1] - world->down[0] * world->right[1] : 0;
+    if (area == 0) {
+        return nullptr;
+    }
+    const double width = made.image->s();
+    const double height = made.image->t();
+    const auto& [right, down, corner] = *world;
+    // Columns and rows are counted from the centre of the upper left pixel.
+    const std::array<double, 2> column = {down[1] / area, -down[0] / area};
+    const std::array<double, 2> row = {-right[1] / area, right[0] / area};
+    const double column0 = -(column[0] * corner[0] + column[1] * corner[1]) + 0.5;
+    const double row0 = -(row[0] * corner[0] + row[1] * corner[1]) + 0.5;
+    return std::make_shared<Matrix>(Matrix{column[0] / width, column[1] / width, 0, column0 / width,
+                                           -row[0] / height, -row[1] / height, 0, 1 - row0 / height, 0, 0, 0,
+                                           1});
+}
+
+const Looks::Target* Looks::targetOf(const citygml::GeometryPiece& piece) const
+{
+    for (auto object = piece.objects.rbegin(); object != piece.objects.rend() && !textureTargets.empty();
+         ++object) {
+        const auto found = textureTargets.find(*object);
+        const bool isKnown = found != textureTargets.end();
+        if (isKnown &&
+            (found->second.matrix != nullptr || ringPlaces.count(piece.runs.front().object) != 0)) {
+            return &found->second;
+        }
+    }
+    for (auto object = piece.objects.rbegin(); object != piece.objects.rend() && !materialTargets.empty();
+         ++object) {
+        const auto found = materialTargets.find(*object);
+        if (found != materialTargets.end()) {
+            return &found->second;
+        }
+    }
+    return nullptr;
+}
+
+std::uint32_t Looks::lookOf(const citygml::GeometryPiece& piece) const
+{
+    const Target* const target = piece.runs.empty() ? nullptr : targetOf(piece);
+    return target != nullptr ? target->look : noLook;
+}
+
+void Looks::appendPlaces(const citygml::GeometryPiece& piece, std::uint32_t look,
+                         std::vector<std::array<float, 2>>& places) const
+{
+    const Target* const target = targetOf(piece);
+    if (target == nullptr || target->look != look) {
+        return;
+    }
+    for (const citygml::PositionRun& run : piece.runs) {
+        const auto found = ringPlaces.find(run.object);
+        for (std::size_t i = run.begin; i < run.end; ++i) {
+            std::array<float, 2> place = {0, 0};
+            const std::size_t at = 2 * (i - run.begin);
+            if (target->matrix != nullptr) {
+                const auto& [x, y, z] = piece.positions[i];
+                const Matrix& m = *target->matrix;
+                const double scale = m[8] * x + m[9] * y + m[10] * z + m[11];
+                place = {static_cast<float>((m[0] * x + m[1] * y + m[2] * z + m[3]) / scale),
+                         static_cast<float>((m[4] * x + m[5] * y + m[6] * z + m[7]) / scale)};
+            } else if (found != ringPlaces.end() && at + 1 < found->second->size()) {
+                place = {(*found->second)[at], (*found->second)[at + 1]};
+            }
+            places.push_back(place);
+        }
+    }
+}
+
+osg::ref_ptr<osg::StateSet> Looks::stateOf(std::uint32_t look)
+{
+    osg::ref_ptr<osg::StateSet>& state = states[look];
+    if (state != nullptr) {
+        return state;
+    }
+    state = new osg::StateSet;
+    if (kinds[look].kind == LookKind::Material) {
+        state->addUniform(new osg::Uniform("look", int(MaterialLook)));
+        if (kinds[look].colour[3] < 255) {
+            state->setAttributeAndModes(new osg::BlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA));
+            state->setRenderingHint(osg::StateSet::TRANSPARENT_BIN);
+        }
+    } else if (kinds[look].kind == LookKind::Texture) {
+        const Texture& texture = textures[look];
+        osg::ref_ptr<osg::Texture2D> picture = new osg::Texture2D(texture.image);
+        const auto wrap = texture.wrapMode == "mirror"   ? osg::Texture::MIRROR
+                          : texture.wrapMode == "clamp"  ? osg::Texture::CLAMP_TO_EDGE
+                          : texture.wrapMode == "border" ? osg::Texture::CLAMP_TO_BORDER
+                          : texture.wrapMode == "none"   ? osg::Texture::CLAMP_TO_EDGE
+                                                         : osg::Texture::REPEAT;
+        picture->setWrap(osg::Texture::WRAP_S, wrap);
+        picture->setWrap(osg::Texture::WRAP_T, wrap);
+        picture->setBorderColor(
+            osg::Vec4d(texture.border[0], texture.border[1], texture.border[2], texture.border[3]));
+        picture->setResizeNonPowerOfTwoHint(false);
+        state->setTextureAttribute(pictureUnit, picture);
+        state->addUniform(new osg::Uniform("look", int(TextureLook)));
+    }
+    return state;
+}
+
+} // namespace tolvik::scene

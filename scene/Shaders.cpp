@@ -1,0 +1,148 @@
+#include "scene/Shaders.h"
+
+#include "scene/TileMesh.h"
+
+#include <string>
+
+namespace tolvik::scene {
+
+namespace {
+
+/// Both programs place a vertex alike, so that both cover the same pixels.
+const char* const placeVertex = R"(#version 150 compatibility
+uniform usamplerBuffer stateOf;
+uniform vec4 section;
+in uint feature;
+
+uint slotOf() { return feature >> 3u; }
+uint stateOfFeature() { return texelFetch(stateOf, int(slotOf())).r; }
+
+void placeVertex(uint state)
+{
+    uint lod = feature & 7u;
+    bool isShown = (state & 1u) == 0u && (lod == 0u || lod == state >> 3u);
+    vec4 eye = gl_ModelViewMatrix * gl_Vertex;
+    gl_ClipDistance[0] = dot(eye, section);
+    // All vertices of what is not shown come to lie at one place out of sight.
+    gl_Position = isShown ? gl_ProjectionMatrix * eye : vec4(2.0, 2.0, 2.0, 1.0);
+}
+)";
+
+const char* const viewVertex = R"(
+uniform samplerBuffer colourOf;
+uniform int look;
+uniform bool isByFeature;
+in vec2 place;
+in vec4 normal;
+in vec4 materialColour;
+out vec2 placeInPicture;
+flat out vec4 colour;
+flat out uint stateOfFragment;
+
+float lightOn(vec3 normal, vec3 eye)
+{
+    vec3 toViewer = gl_ProjectionMatrix[3][3] == 1.0 ? vec3(0.0, 0.0, 1.0) : normalize(-eye);
+    vec3 turned = dot(normal, toViewer) < 0.0 ? -normal : normal;
+    vec3 sun = normalize(gl_NormalMatrix * vec3(-0.45, -0.62, 0.75));
+    return 0.52 + 0.33 * max(dot(turned, sun), 0.0) + 0.15 * max(dot(turned, toViewer), 0.0);
+}
+
+void main()
+{
+    uint state = stateOfFeature();
+    placeVertex(state);
+    stateOfFragment = state;
+    placeInPicture = place;
+    colour = look == 1 && !isByFeature ? materialColour : vec4(texelFetch(colourOf, int(slotOf())).rgb, 1.0);
+    if (look <= 2) {
+        colour.rgb *= lightOn(normalize(gl_NormalMatrix * normal.xyz), vec3(gl_ModelViewMatrix * gl_Vertex));
+    } else if (look == 3) {
+        colour.rgb *= 0.35;
+    }
+}
+)";
+
+const char* const viewFragment = R"(#version 150 compatibility
+uniform int look;
+uniform bool isByFeature;
+uniform vec4 selection;
+uniform sampler2D picture;
+in vec2 placeInPicture;
+flat in vec4 colour;
+flat in uint stateOfFragment;
+
+void main()
+{
+    vec4 shown = colour;
+    if (look == 2) {
+        vec4 texel = texture(picture, placeInPicture);
+        if (texel.a < 0.5) {
+            discard;
+        }
+        shown.rgb = isByFeature ? shown.rgb : texel.rgb;
+    }
+    if ((stateOfFragment & 2u) != 0u) {
+        shown = selection;
+    } else if ((stateOfFragment & 4u) != 0u) {
+        shown.rgb = mix(shown.rgb, vec3(1.0), 0.35);
+    }
+    gl_FragColor = shown;
+}
+)";
+
+const char* const identifierVertex = R"(
+uniform int look;
+in vec2 place;
+out vec2 placeInPicture;
+flat out uint identifier;
+
+void main()
+{
+    placeVertex(stateOfFeature());
+    placeInPicture = place;
+    identifier = slotOf() + 1u;
+}
+)";
+
+const char* const identifierFragment = R"(#version 150 compatibility
+uniform int look;
+uniform sampler2D picture;
+in vec2 placeInPicture;
+flat in uint identifier;
+
+void main()
+{
+    // One can look through the clear parts of a texture.
+    if (look == 2 && texture(picture, placeInPicture).a < 0.5) {
+        discard;
+    }
+    gl_FragColor = vec4(identifier & 255u, identifier >> 8u & 255u, identifier >> 16u & 255u,
+                        identifier >> 24u & 255u) / 255.0;
+}
+)";
+
+osg::ref_ptr<osg::Program> makeProgram(const char* vertex, const char* fragment)
+{
+    osg::ref_ptr<osg::Program> program = new osg::Program;
+    program->addShader(new osg::Shader(osg::Shader::VERTEX, std::string(placeVertex) + vertex));
+    program->addShader(new osg::Shader(osg::Shader::FRAGMENT, fragment));
+    program->addBindAttribLocation("place", PlaceAttribute);
+    program->addBindAttribLocation("normal", NormalAttribute);
+    program->addBindAttribLocation("feature", FeatureAttribute);
+    program->addBindAttribLocation("materialColour", ColourAttribute);
+    return program;
+}
+
+} // namespace
+
+osg::ref_ptr<osg::Program> makeViewProgram()
+{
+    return makeProgram(viewVertex, viewFragment);
+}
+
+osg::ref_ptr<osg::Program> makeIdentifierProgram()
+{
+    return makeProgram(identifierVertex, identifierFragment);
+}
+
+} // namespace tolvik::scene

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "scene/TileMesh.h"
+
+#include <condition_variable>
+#include <deque>
+#include <memory>
+#include <mutex>
+#include <thread>
+#include <vector>
+
+namespace tolvik::scene {
+
+/// Builds tiles in threads of its own. The owner hands batches over and takes what is ready.
+class TileWorkers
+{
+public:
+    using Looks = std::shared_ptr<const std::vector<LookArrays>>;
+    struct Result
+    {
+        std::size_t tile = 0;
+        TileMesh mesh;
+    };
+
+    TileWorkers() = default;
+    TileWorkers(const TileWorkers&) = delete;
+    TileWorkers& operator=(const TileWorkers&) = delete;
+    /// Waits for the tiles that are being built; what has not begun is given up.
+    ~TileWorkers();
+
+    /// \param tile a number by which the owner knows the result
+    void add(std::size_t tile, Batch batch, const Looks& looks);
+    /// Takes what is ready.
+    std::vector<Result> take();
+    /// Waits until something is ready; returns at once where nothing is awaited.
+    void wait();
+    /// Number of tiles that were added and not taken yet.
+    std::size_t awaited() const;
+    /// Gives up what was added and not taken.
+    void clear();
+
+private:
+    struct Job
+    {
+        std::size_t tile = 0;
+        Batch batch;
+        Looks looks;
+        unsigned round = 0;
+    };
+
+    void start();
+    void run();
+
+    mutable std::mutex mutex;
+    std::condition_variable jobsChanged;
+    std::condition_variable resultsChanged;
+    std::deque<Job> jobs;
+    std::vector<Result> results;
+    std::size_t running = 0;
+    /// Counts the calls of clear(): what was begun before is not wanted any more.
+    unsigned round = 0;
+    bool isEnding = false;
+    std::vector<std::thread> threads;
+};
+
+} // namespace tolvik::scene
