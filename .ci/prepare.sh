@@ -7,6 +7,7 @@ packages=(
     g++ cmake ninja-build ccache python3 xsdcxx
     qtbase5-dev libxerces-c-dev libexpat1-dev liblog4cplus-dev libboost-iostreams-dev libopenscenegraph-dev
     libgoogle-perftools-dev pkg-config
+    libegl-dev libegl1 libgl1-mesa-dri xvfb xauth
 )
 
 # Everything said goes to standard error, so that standard output is the job's alone.

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <osg/Depth>
 #include <osg/LineWidth>
 #include <osg/Point>
 #include <osg/PolygonOffset>
@@ -97,6 +98,7 @@ CityScene::CityScene()
     state->addUniform(new osg::Uniform("picture", int(pictureUnit)));
     // Faces are moved back a little, so that edges and lines upon them are seen.
     state->setAttributeAndModes(new osg::PolygonOffset(1, 1));
+    state->setAttributeAndModes(new osg::Depth(osg::Depth::LESS));
     state->setMode(GL_LIGHTING, osg::StateAttribute::OFF);
     state->setMode(GL_CULL_FACE, osg::StateAttribute::OFF);
     state->setMode(GL_CLIP_DISTANCE0, osg::StateAttribute::ON);

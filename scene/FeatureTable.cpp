@@ -239,6 +239,16 @@ void FeatureTable::setHovered(Slot slot)
     }
 }
 
+void FeatureTable::inheritValues(std::vector<QVariant>& values) const
+{
+    for (Slot slot = 0; slot < features.size() && slot < values.size(); ++slot) {
+        const Slot parent = parents[slot];
+        if (!values[slot].isValid() && parent != noSlot && parents[parent] != noSlot) {
+            values[slot] = values[parent];
+        }
+    }
+}
+
 void FeatureTable::setColour(Slot slot, const QColor& colour)
 {
     colours[slot] = packed(colour);

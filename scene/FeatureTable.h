@@ -6,6 +6,7 @@
 #include <osg/StateSet>
 #include <osg/TextureBuffer>
 #include <QColor>
+#include <QVariant>
 #include <unordered_map>
 #include <vector>
 
@@ -79,6 +80,10 @@ public:
     /// The feature that the pointer is on; noSlot for none.
     void setHovered(Slot slot);
 
+    /// Gives features without a value that of the nearest feature around them that has one. The outermost
+    /// features, the document itself, pass nothing on.
+    /// \param values by slot; invalid for none
+    void inheritValues(std::vector<QVariant>& values) const;
     void setColour(Slot slot, const QColor& colour);
     QColor colourOf(Slot slot) const;
 

@@ -127,6 +127,8 @@ osg::ref_ptr<osgUtil::SceneView> Renderer::makeView(osg::Program* program)
     view->setSceneData(root);
     view->setComputeNearFarMode(osg::CullSettings::DO_NOT_COMPUTE_NEAR_FAR);
     view->setCullingMode(osg::CullSettings::VIEW_FRUSTUM_SIDES_CULLING);
+    // The framebuffers drawn to are those of a host or of this class, never that of a window.
+    view->setDrawBufferValue(GL_COLOR_ATTACHMENT0);
     view->setFrameStamp(new osg::FrameStamp);
     return view;
 }
@@ -168,7 +170,10 @@ void Renderer::run(osgUtil::SceneView& view)
 {
     scene.features().update();
     // The host draws in the same context, and may have changed what the state believes to be set.
-    state->reset();
+    state->dirtyAllModes();
+    state->dirtyAllAttributes();
+    state->dirtyAllVertexArrays();
+    state->setLastAppliedProgramObject(nullptr);
     view.getFrameStamp()->setFrameNumber(view.getFrameStamp()->getFrameNumber() + 1);
     view.cull();
     view.draw();

@@ -1,5 +1,6 @@
 #include "SetCommand.h"
 
+#include "apps/common/PropertyPath.h"
 #include "framework/CoreProperty.h"
 #include "gml/AbstractFeatureType.hxx"
 #include "SaveDocument.h"
@@ -9,7 +10,6 @@
 #include <algorithm>
 #include <ostream>
 #include <QDateTime>
-#include <QHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QRegularExpression>
@@ -35,32 +35,6 @@ gml::AbstractFeatureType* findFeature(const CityGMLModel& model, const std::stri
         throw EditError(QStringLiteral("no feature has the gml:id %1").arg(QString::fromStdString(id)));
     }
     return feature;
-}
-
-/// The property that a path leads to, or null. A label may hold a slash or brackets itself, so that each
-/// child is tried that the path can mean.
-CoreProperty* findBelow(const CoreProperty& parent, const QStringRef& path)
-{
-    QHash<QString, int> seen;
-    for (const auto& child : parent.properties()) {
-        const int occurrence = ++seen[child->name()];
-        QStringList names{QStringLiteral("%1[%2]").arg(child->name()).arg(occurrence)};
-        if (occurrence == 1) {
-            names += child->name();
-        }
-        for (const QString& name : names) {
-            if (path == name) {
-                return child.get();
-            }
-            CoreProperty* const found = path.startsWith(name + QLatin1Char('/'))
-                                            ? findBelow(*child, path.mid(name.size() + 1))
-                                            : nullptr;
-            if (found != nullptr) {
-                return found;
-            }
-        }
-    }
-    return nullptr;
 }
 
 /// The entries of a list: those of a JSON array, or the text as the only one. An entry is a text, a number or
@@ -193,7 +167,7 @@ void edit(const CityGMLModel& model, gml::AbstractFeatureType* feature, const QS
         const Fondo::RefPtr<CoreProperty> root =
             GmlCorePropertyCreator::createProperty(feature, existingOnly);
         model.addPropertiesFromProviders(model.index(feature), *root);
-        if (CoreProperty* const property = findBelow(*root, QStringRef(&path))) {
+        if (CoreProperty* const property = apps::propertyAt(*root, path)) {
             edit(*property, value);
             return;
         }

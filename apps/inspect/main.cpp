@@ -2,6 +2,7 @@
 #include "DocumentFiles.h"
 #include "EachDocument.h"
 #include "LoadDocument.h"
+#include "PictureCommand.h"
 #include "PropertiesCommand.h"
 #include "RepairCommand.h"
 #include "RowsCommand.h"
@@ -58,6 +59,10 @@ FILE is a CityGML 2.0 document; `-` reads one from standard input.
   repair FILE OUT        save FILE as OUT with a free name for each gml:id that stands twice, with
                          elements in the order of the schema, as CityGML 2.0; what was done is told,
                          and FILE stays as it is
+  picture FILE OUT.png [--lod N] [--colour-by PATH] [--size WxH]
+                         draw the features; --lod takes one level of detail, 0 to 4, in place of the
+                         highest of each; --colour-by takes a PATH as `set` does, and a colour for
+                         each value; no display is needed
   --help                 show this text
   --version              show the version
 
@@ -211,6 +216,39 @@ int repair(const QStringList& given)
     return runRepair(arguments.at("FILE"), arguments.at("OUT"), std::cout, std::cerr);
 }
 
+PictureOptions pictureOptions(const Arguments& arguments)
+{
+    PictureOptions options;
+    options.output = arguments.at("OUT.png");
+    options.colourBy = arguments.value("colour-by");
+    if (arguments.has("lod")) {
+        bool isNumber = false;
+        options.lod = arguments.value("lod").toInt(&isNumber);
+        if (!isNumber || *options.lod < 0 || *options.lod > 4) {
+            throw UsageError("not a level of detail: " + arguments.value("lod").toStdString());
+        }
+    }
+    if (arguments.has("size")) {
+        const QStringList sides = arguments.value("size").split('x');
+        options.size = QSize(sides.value(0).toInt(), sides.value(1).toInt());
+        if (sides.size() != 2 || options.size.isEmpty()) {
+            throw UsageError("not a size: " + arguments.value("size").toStdString());
+        }
+    }
+    return options;
+}
+
+int picture(const QStringList& given)
+{
+    const Arguments arguments(given, {"FILE", "OUT.png"}, {"lod=", "colour-by=", "size="});
+    const PictureOptions options = pictureOptions(arguments);
+    CityGMLModel model(nullptr, nullptr);
+    if (!loadDocument(model, arguments.at("FILE"), std::cerr)) {
+        return failure;
+    }
+    return runPicture(model, options, std::cerr);
+}
+
 struct Command
 {
     const char* name;
@@ -219,7 +257,7 @@ struct Command
 
 const Command commands[] = {
     {"rows", rows}, {"tree", tree},   {"properties", properties}, {"save", save},
-    {"set", set},   {"check", check}, {"repair", repair},
+    {"set", set},   {"check", check}, {"repair", repair},         {"picture", picture},
 };
 
 int run(const QStringList& arguments)
