@@ -1,14 +1,17 @@
 #include "apps/viewer/application/Colours.h"
+#include "apps/viewer/application/Translations.h"
 #include "apps/viewer/document/Document.h"
 #include "apps/viewer/features/FeatureBrowser.h"
 #include "apps/viewer/files/FileCommands.h"
 #include "apps/viewer/log/LogAppender.h"
+#include "apps/viewer/recovery/Recovery.h"
 #include "apps/viewer/window/MainWindow.h"
 
 #include <cstdio>
 #include <log4cplus/initializer.h>
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QLocale>
 #include <QTimer>
 #include <stdexcept>
 
@@ -39,6 +42,12 @@ int showWindows(const QStringList& files, const QString& picture)
     for (const QString& file : files) {
         (file == files.first() ? first : MainWindow::openNew())->open(file);
     }
+    // One window each, as a window has one document.
+    MainWindow* window = files.isEmpty() ? first : nullptr;
+    for (std::unique_ptr<Recovery>& each : Recovery::findAll()) {
+        (window != nullptr ? window : MainWindow::openNew())->offer(std::move(each));
+        window = nullptr;
+    }
     return QApplication::exec();
 }
 
@@ -55,6 +64,7 @@ int main(int argc, char** argv)
     QApplication::setDesktopFileName(QStringLiteral("tolvik-viewer"));
     const log4cplus::Initializer logging;
     LogAppender::install();
+    installTranslations(QLocale());
 
     QCommandLineParser arguments;
     arguments.setApplicationDescription(

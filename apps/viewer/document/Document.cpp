@@ -58,6 +58,7 @@ void Document::noteSaved(const QString& path)
     if (isRenamed) {
         emit fileNameChanged(path);
     }
+    emit saved();
 }
 
 void Document::goTo(int row)

@@ -68,6 +68,8 @@ signals:
     /// The document is, or is no longer, as it was saved.
     void modifiedChanged(bool modified);
     void fileNameChanged(const QString& path);
+    /// The document is in its file as it is now.
+    void saved();
 
 private:
     std::unique_ptr<CityGMLModel> list;

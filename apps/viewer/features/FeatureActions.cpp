@@ -37,7 +37,7 @@ FeatureActions::FeatureActions(Document& document, QObject* parent) : QObject(pa
     groups.append(nullptr);
     goToReferenced = make(QStringLiteral("goToReferenced"), tr("&Go to Reference"), tr("Ctrl+R"),
                           &FeatureActions::requestReferences);
-    findReferring = make(QStringLiteral("findReferring"), tr("&Who Refers to This?"), tr("Ctrl+Shift+R"),
+    findReferring = make(QStringLiteral("findReferring"), tr("Who Re&fers to This?"), tr("Ctrl+Shift+R"),
                          &FeatureActions::requestReferrers);
     groups.append(nullptr);
     remove = make(QStringLiteral("removeFeature"), tr("Re&move Feature"), QKeySequence::Delete,

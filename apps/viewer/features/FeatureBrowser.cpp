@@ -312,7 +312,7 @@ void FeatureBrowser::showHits()
     const int current = document.selection().currentIndex().row();
     if (isJumpWanted) {
         isJumpWanted = false;
-        if (!finder.isHit(current)) {
+        if (!finder.isHit(current) && !finder.hits().isEmpty()) {
             jumpTo(finder.nextHit(current));
             return;
         }

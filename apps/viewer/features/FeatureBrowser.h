@@ -37,6 +37,9 @@ public:
     QTreeView* list() const { return flatList; }
     FeatureSearch& search() { return finder; }
 
+    /// Whether what the user has asked for does not show yet.
+    bool isSearching() const { return typing.isActive() || finder.isRunning() || filtering.isRunning(); }
+
     /// Makes a feature the current one and brings it into sight; a filter that hides it is given up.
     /// \param row row of the list of features
     void goTo(int row);

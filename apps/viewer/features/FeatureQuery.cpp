@@ -53,8 +53,8 @@ FeatureQuery::Term FeatureQuery::termOf(const QString& text)
     static const std::array<std::pair<const char*, Comparison>, 7> signs{{{":", Comparison::Contains},
                                                                           {"=", Comparison::Equal},
                                                                           {"!=", Comparison::Unequal},
-                                                                          {"<=", Comparison::AtMost},
-                                                                          {">=", Comparison::AtLeast},
+                                                                          {"<=", Comparison::NotGreater},
+                                                                          {">=", Comparison::NotLess},
                                                                           {"<", Comparison::Less},
                                                                           {">", Comparison::Greater}}};
     Term term;
@@ -98,7 +98,7 @@ bool FeatureQuery::compares(const Term& term, const QVariant& value)
         return order != 0;
     case Comparison::Less:
         return order < 0;
-    case Comparison::AtMost:
+    case Comparison::NotGreater:
         return order <= 0;
     case Comparison::Greater:
         return order > 0;

@@ -35,7 +35,7 @@ public:
     bool matches(const CityGMLModel& model, int row) const;
 
 private:
-    enum class Comparison { Contains, Equal, Unequal, Less, AtMost, Greater, AtLeast };
+    enum class Comparison { Contains, Equal, Unequal, Less, NotGreater, Greater, NotLess };
     struct Term
     {
         QString label; // empty for a word that stands alone

@@ -1,6 +1,7 @@
 #include "apps/viewer/features/FeatureRows.h"
 
 #include "apps/viewer/document/Document.h"
+#include "citygml/GeometryWalk.h"
 #include "core/CityModelType.hxx"
 
 #include <algorithm>
@@ -73,12 +74,15 @@ QList<QModelIndex> indexesOf(Document& document, const QVector<int>& rows)
 
 int rowOfIdentifier(Document& document, const QString& identifier)
 {
-    const std::string id = identifier.toStdString();
-    gml::AbstractFeatureType* feature = document.model().getFeature(id);
-    if (feature != nullptr && feature->id().present() && feature->id().get() == id) {
-        return document.model().getRow(feature);
+    if (!document.isOpen()) {
+        return -1;
     }
-    return -1;
+    const xml_schema::type* const object =
+        citygml::findById(*document.model().cityGML(), identifier.toStdString());
+    if (object == nullptr) {
+        return -1;
+    }
+    return document.model().index(citygml::featureAround(*object)).row();
 }
 
 } // namespace tolvik::viewer

@@ -5,13 +5,17 @@
 #include "apps/viewer/features/FeatureActions.h"
 #include "apps/viewer/features/FeatureBrowser.h"
 #include "apps/viewer/features/FeatureListModel.h"
+#include "apps/viewer/features/FeatureReferences.h"
 #include "apps/viewer/features/FeatureRows.h"
+#include "apps/viewer/features/FeatureTexts.h"
 #include "apps/viewer/files/FileCommands.h"
 #include "apps/viewer/files/RecentFiles.h"
 #include "apps/viewer/findings/FindingsPanel.h"
 #include "apps/viewer/log/LogAppender.h"
 #include "apps/viewer/log/LogModel.h"
 #include "apps/viewer/log/LogPanel.h"
+#include "apps/viewer/recovery/Journal.h"
+#include "apps/viewer/recovery/Recovery.h"
 #include "apps/viewer/selection/SelectionLink.h"
 #include "apps/viewer/window/NoticeBar.h"
 #include "apps/viewer/window/StatusProgress.h"
@@ -37,9 +41,16 @@
 
 namespace tolvik::viewer {
 
+namespace {
+
+constexpr int messageMilliseconds = 5000;
+
+} // namespace
+
 MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent), shown(new Document(this)), log(new LogModel(this)), progress(new StatusProgress),
-      features(new FeatureBrowser(*shown)), actionsOfFeatures(new FeatureActions(*shown, this))
+      features(new FeatureBrowser(*shown)), actionsOfFeatures(new FeatureActions(*shown, this)),
+      journal(new Journal(*shown, this)), referrers(new ReferrerSearch(*shown, this))
 {
     setAcceptDrops(true);
     setCentralWidget(makeMiddle());
@@ -75,8 +86,90 @@ void MainWindow::goToIdentifier(const QString& identifier)
     if (row >= 0) {
         features->goTo(row);
     } else {
-        statusBar()->showMessage(tr("No feature has the identifier %1.").arg(identifier), 5000);
+        statusBar()->showMessage(tr("No feature has the identifier %1.").arg(identifier),
+                                 messageMilliseconds);
     }
+}
+
+void MainWindow::offer(std::shared_ptr<Recovery> recovery)
+{
+    const QString name = QFileInfo(recovery->file()).fileName();
+    notice->tell(
+        tr("The program has ended with %Ln unsaved change(s) of %1.", nullptr, recovery->size()).arg(name));
+    notice->offer(QStringLiteral("recover"), tr("&Recover"), [this, recovery] { recover(recovery); });
+    notice->offer(QStringLiteral("discardRecovery"), tr("&Discard"), [recovery] { recovery->discard(); });
+}
+
+void MainWindow::recover(const std::shared_ptr<Recovery>& recovery)
+{
+    const QString name = QFileInfo(recovery->file()).fileName();
+    const QString refusal = recovery->refusal();
+    if (!refusal.isEmpty()) {
+        notice->tell(tr("The changes of %1 cannot be recovered: %2.").arg(name, refusal));
+        notice->offer(QStringLiteral("discardRecovery"), tr("&Discard"), [recovery] { recovery->discard(); });
+        return;
+    }
+    // What is waited for may never come, or be another document.
+    auto* const opening = new QObject(this);
+    connect(fileCommands.get(), &FileCommands::opened, opening, [this, recovery, opening, name] {
+        opening->deleteLater();
+        if (QFileInfo(shown->fileName()) != QFileInfo(recovery->file())) {
+            return;
+        }
+        const QString reason = recovery->applyTo(*shown);
+        if (reason.isEmpty()) {
+            recovery->discard();
+            log->add(LogModel::Information, tr("The changes of %1 are recovered.").arg(name));
+        } else {
+            notice->tell(tr("Not all changes of %1 could be recovered: %2.").arg(name, reason));
+        }
+    });
+    open(recovery->file());
+}
+
+void MainWindow::showReferences(int row)
+{
+    QMenu menu;
+    const QVector<FeatureReference> references = referencesOf(*shown, row);
+    for (const FeatureReference& each : references) {
+        QAction* const action =
+            menu.addAction(tr("%1: %2").arg(each.member, each.row >= 0 ? describe(each.row) : each.target));
+        action->setEnabled(each.row >= 0);
+        connect(action, &QAction::triggered, this, [this, target = each.row] { features->goTo(target); });
+    }
+    if (references.isEmpty()) {
+        statusBar()->showMessage(tr("%1 refers to no other feature.").arg(describe(row)),
+                                 messageMilliseconds);
+    } else if (references.size() == 1 && references.first().row >= 0) {
+        features->goTo(references.first().row);
+    } else {
+        menu.exec(QCursor::pos());
+    }
+}
+
+/// Selects them, so that they can be gone through.
+void MainWindow::showReferrers(int row, const QVector<int>& referring)
+{
+    if (referring.isEmpty()) {
+        statusBar()->showMessage(tr("No feature refers to %1.").arg(describe(row)), messageMilliseconds);
+        return;
+    }
+    features->goTo(referring.first());
+    QItemSelection selection;
+    for (const int each : referring) {
+        selection.append(QItemSelectionRange(shown->model().index(each, 0), shown->model().index(each, 1)));
+    }
+    replaceSelection(shown->selection(), selection);
+    statusBar()->showMessage(tr("%Ln feature(s) refer to %1.", nullptr, referring.size()).arg(describe(row)),
+                             messageMilliseconds);
+}
+
+/// Type and name of a feature, or its identifier where it has no name.
+QString MainWindow::describe(int row) const
+{
+    const gml::AbstractFeatureType& feature = *shown->model().getFeature(row);
+    const QString name = nameOf(feature);
+    return typeOf(feature) + QLatin1Char(' ') + (name.isEmpty() ? idOf(feature) : name);
 }
 
 QWidget* MainWindow::makeMiddle()
@@ -140,7 +233,7 @@ void MainWindow::makeMenus()
 {
     menuBar()->addMenu(makeFileMenu());
     menuBar()->addMenu(makeEditMenu());
-    auto* const featureMenu = new QMenu(tr("F&eature"), this);
+    auto* const featureMenu = new QMenu(tr("Featu&re"), this);
     actionsOfFeatures->addTo(*featureMenu);
     menuBar()->addMenu(featureMenu);
     menuBar()->addMenu(makeViewMenu());
@@ -281,7 +374,13 @@ void MainWindow::connectDocument()
     });
     connect(fileCommands.get(), &FileCommands::told, log, &LogModel::add);
     connect(fileCommands.get(), &FileCommands::told, this,
-            [this](int, const QString& text) { statusBar()->showMessage(text, 5000); });
+            [this](int, const QString& text) { statusBar()->showMessage(text, messageMilliseconds); });
+    connect(journal, &Journal::failed, this, [this](const QString& reason) {
+        log->add(LogModel::Warning, tr("Changes are not kept for a recovery: %1").arg(reason));
+    });
+    connect(actionsOfFeatures, &FeatureActions::referencesRequested, this, &MainWindow::showReferences);
+    connect(actionsOfFeatures, &FeatureActions::referrersRequested, referrers, &ReferrerSearch::start);
+    connect(referrers, &ReferrerSearch::found, this, &MainWindow::showReferrers);
     connect(&LogSource::instance(), &LogSource::logged, log, &LogModel::add);
 }
 

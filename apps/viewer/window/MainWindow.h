@@ -14,8 +14,11 @@ class FeatureActions;
 class FeatureBrowser;
 class FileCommands;
 class FindingsPanel;
+class Journal;
 class LogModel;
 class NoticeBar;
+class Recovery;
+class ReferrerSearch;
 class StatusProgress;
 
 /// One window with one document: the features at its left, their properties at its right, the log and the
@@ -34,6 +37,9 @@ public:
 
     /// Reads a document beside the window, and shows it when it is there.
     void open(const QString& path);
+
+    /// Asks whether edits that were lost with the program shall be done again.
+    void offer(std::shared_ptr<Recovery> recovery);
 
     /// A further window, without a document; it deletes itself when it is closed.
     static MainWindow* openNew();
@@ -60,6 +66,10 @@ private:
     QMenu* makeColoursMenu();
     QMenu* makeHelpMenu();
     void makeToolBar();
+    void recover(const std::shared_ptr<Recovery>& recovery);
+    void showReferences(int row);
+    void showReferrers(int row, const QVector<int>& referring);
+    QString describe(int row) const;
     void fillRecentFiles(QMenu& menu);
     void connectDocument();
     void updateTitle();
@@ -74,6 +84,8 @@ private:
     StatusProgress* progress;
     FeatureBrowser* features;
     FeatureActions* actionsOfFeatures;
+    Journal* journal;
+    ReferrerSearch* referrers;
     FindingsPanel* findings = nullptr;
     std::unique_ptr<FileCommands> fileCommands;
     QVector<QDockWidget*> panels;

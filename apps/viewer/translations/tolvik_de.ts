@@ -1,0 +1,802 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE" sourcelanguage="en_US">
+<context>
+    <name>main</name>
+    <message>
+        <source>Shows and edits city models in CityGML 2.0.</source>
+        <translation>Zeigt und bearbeitet Stadtmodelle in CityGML 2.0.</translation>
+    </message>
+    <message>
+        <source>desktop, light or dark</source>
+        <translation>desktop (wie die Arbeitsfläche), light (hell) oder dark (dunkel)</translation>
+    </message>
+    <message>
+        <source>Write a picture of the window to FILE, and end</source>
+        <translation>Schreibt ein Bild des Fensters nach FILE und endet</translation>
+    </message>
+    <message>
+        <source>Document to open</source>
+        <translation>Zu öffnendes Dokument</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik</name>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>unbekannt</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::CityGMLModel</name>
+    <message>
+        <source>&lt;unset&gt;</source>
+        <translation>&lt;nicht gesetzt&gt;</translation>
+    </message>
+    <message>
+        <source>Building Model</source>
+        <translation>Modell wird aufgebaut</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::CityGMLModelPlugin</name>
+    <message>
+        <source>CityGML documents (*.gml *.xml)</source>
+        <translation>CityGML-Dokumente (*.gml *.xml)</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::CityGMLProxyModel</name>
+    <message>
+        <source>Building Proxy Nodes</source>
+        <translation>Knoten des Baums werden angelegt</translation>
+    </message>
+    <message>
+        <source>Building Nodes Parent/Children relashionship</source>
+        <translation>Knoten des Baums werden verknüpft</translation>
+    </message>
+    <message>
+        <source>Building Root nodes</source>
+        <translation>Wurzeln des Baums werden gesammelt</translation>
+    </message>
+    <message>
+        <source>Select siblings of same type</source>
+        <translation>Geschwister gleichen Typs auswählen</translation>
+    </message>
+    <message>
+        <source>Select all brothers of the same type</source>
+        <translation>Alle Geschwister desselben Typs auswählen</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Auswählen</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::CityGMLViewSettingsWidget</name>
+    <message>
+        <source>Level of detail 0 up to</source>
+        <translation>Detailstufe 0 bis</translation>
+    </message>
+    <message>
+        <source>Level of detail 1 up to</source>
+        <translation>Detailstufe 1 bis</translation>
+    </message>
+    <message>
+        <source>Level of detail 2 up to</source>
+        <translation>Detailstufe 2 bis</translation>
+    </message>
+    <message>
+        <source>Level of detail 3 up to</source>
+        <translation>Detailstufe 3 bis</translation>
+    </message>
+    <message>
+        <source>Level of detail 4 up to</source>
+        <translation>Detailstufe 4 bis</translation>
+    </message>
+    <message>
+        <source> m</source>
+        <translation> m</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::FeaturePropertyModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::ModelPlugins</name>
+    <message>
+        <source>There is no plug-in for models in %1.</source>
+        <translation>In %1 gibt es kein Zusatzmodul für Modelle.</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>%1 has the interface %2, and not %3.</source>
+        <translation>%1 hat die Schnittstelle %2 und nicht %3.</translation>
+    </message>
+    <message>
+        <source>%1 is for version %2 of the library, and not %3.</source>
+        <translation>%1 ist für Version %2 der Bibliothek und nicht für %3.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be loaded: %2.</source>
+        <translation>%1 kann nicht geladen werden: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::TreeNodeProxyModel</name>
+    <message>
+        <source>Select children</source>
+        <translation>Kinder auswählen</translation>
+    </message>
+    <message>
+        <source>Select everything directly below the selection</source>
+        <translation>Alles direkt unter der Auswahl auswählen</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Auswählen</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::apps::DocumentReading</name>
+    <message>
+        <source>Reading</source>
+        <translation>Lesen</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::FeatureActions</name>
+    <message>
+        <source>&amp;Hide</source>
+        <translation>A&amp;usblenden</translation>
+    </message>
+    <message>
+        <source>H</source>
+        <translation>H</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Einblenden</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <translation>S</translation>
+    </message>
+    <message>
+        <source>Show &amp;Only This</source>
+        <translation>&amp;Nur dies zeigen</translation>
+    </message>
+    <message>
+        <source>O</source>
+        <translation>O</translation>
+    </message>
+    <message>
+        <source>Hide &amp;All</source>
+        <translation>&amp;Alles ausblenden</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+H</source>
+        <translation>Ctrl+Shift+H</translation>
+    </message>
+    <message>
+        <source>Sho&amp;w All</source>
+        <translation>A&amp;lles einblenden</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+A</source>
+        <translation>Ctrl+Shift+A</translation>
+    </message>
+    <message>
+        <source>&amp;Enable</source>
+        <translation>&amp;Sperre aufheben</translation>
+    </message>
+    <message>
+        <source>&amp;Disable</source>
+        <translation>S&amp;perren</translation>
+    </message>
+    <message>
+        <source>Ena&amp;ble All</source>
+        <translation>Alle Sperren auf&amp;heben</translation>
+    </message>
+    <message>
+        <source>Select Siblings of Same &amp;Type</source>
+        <translation>Geschwister gleichen &amp;Typs auswählen</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+T</source>
+        <translation>Ctrl+Shift+T</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Identifier</source>
+        <translation>&amp;Kennung kopieren</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+C</source>
+        <translation>Ctrl+Shift+C</translation>
+    </message>
+    <message>
+        <source>&amp;Go to Reference</source>
+        <translation>&amp;Gehe zum Verweis</translation>
+    </message>
+    <message>
+        <source>Ctrl+R</source>
+        <translation>Ctrl+R</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+R</source>
+        <translation>Ctrl+Shift+R</translation>
+    </message>
+    <message>
+        <source>Re&amp;move Feature</source>
+        <translation>&amp;Objekt entfernen</translation>
+    </message>
+    <message>
+        <source>Who Re&amp;fers to This?</source>
+        <translation>&amp;Wer verweist hierauf?</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::FeatureBrowser</name>
+    <message>
+        <source>Feature tree</source>
+        <translation>Baum der Objekte</translation>
+    </message>
+    <message>
+        <source>Filtered feature tree</source>
+        <translation>Gefilterter Baum der Objekte</translation>
+    </message>
+    <message>
+        <source>Feature list</source>
+        <translation>Liste der Objekte</translation>
+    </message>
+    <message>
+        <source>&amp;Tree</source>
+        <translation>&amp;Baum</translation>
+    </message>
+    <message>
+        <source>&amp;List</source>
+        <translation>&amp;Liste</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Search for features</source>
+        <translation>Objekte suchen</translation>
+    </message>
+    <message>
+        <source>Words in the name, identifier or type; type:Window, name:north,
+height&gt;3, function=1000 for attributes. Enter goes to the next hit.</source>
+        <translation>Wörter im Namen, in der Kennung oder im Typ; type:Window, name:nord,
+height&gt;3, function=1000 für Attribute. Eingabe führt zum nächsten Treffer.</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Previous hit</source>
+        <translation>Voriger Treffer</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>Next hit</source>
+        <translation>Nächster Treffer</translation>
+    </message>
+    <message>
+        <source>Filter by type</source>
+        <translation>Nach Typ filtern</translation>
+    </message>
+    <message>
+        <source>Show only features of one type</source>
+        <translation>Nur Objekte eines Typs zeigen</translation>
+    </message>
+    <message>
+        <source>All types</source>
+        <translation>Alle Typen</translation>
+    </message>
+    <message>
+        <source>Only hits</source>
+        <translation>Nur Treffer</translation>
+    </message>
+    <message>
+        <source>Show only the features that the search has found</source>
+        <translation>Nur die Objekte zeigen, die die Suche gefunden hat</translation>
+    </message>
+    <message>
+        <source>%1 (%L2)</source>
+        <extracomment>A type of features, and how many there are</extracomment>
+        <translation>%1 (%L2)</translation>
+    </message>
+    <message>
+        <source>no hits</source>
+        <translation>keine Treffer</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln hit(s)</source>
+        <translation>
+            <numerusform>%Ln Treffer</numerusform>
+            <numerusform>%Ln Treffer</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%L1 of %L2</source>
+        <translation>%L1 von %L2</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::FeatureListModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Identifier</source>
+        <translation>Kennung</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::FileCommands</name>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>City models (*.gml *.xml *.citygml);;All files (*)</source>
+        <translation>Stadtmodelle (*.gml *.xml *.citygml);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Reading %1</source>
+        <translation>%1 wird gelesen</translation>
+    </message>
+    <message>
+        <source>Reading %1 was cancelled.</source>
+        <translation>Das Lesen von %1 wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>%1 is open.</source>
+        <translation>%1 ist geöffnet.</translation>
+    </message>
+    <message>
+        <source>%1 could not be opened: %2.</source>
+        <translation>%1 konnte nicht geöffnet werden: %2.</translation>
+    </message>
+    <message>
+        <source>Another program has changed %1. A reload would lose your edits.</source>
+        <translation>Ein anderes Programm hat %1 geändert. Beim Neuladen gingen Ihre Änderungen verloren.</translation>
+    </message>
+    <message>
+        <source>Another program has changed %1.</source>
+        <translation>Ein anderes Programm hat %1 geändert.</translation>
+    </message>
+    <message>
+        <source>&amp;Reload</source>
+        <translation>&amp;Neu laden</translation>
+    </message>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Nicht gespeicherte Änderungen</translation>
+    </message>
+    <message>
+        <source>Save the changes of %1?</source>
+        <translation>Änderungen von %1 speichern?</translation>
+    </message>
+    <message>
+        <source>Otherwise they are lost.</source>
+        <translation>Sonst gehen sie verloren.</translation>
+    </message>
+    <message>
+        <source>File has changed</source>
+        <translation>Datei wurde geändert</translation>
+    </message>
+    <message>
+        <source>If you save, what that program has written is lost.</source>
+        <translation>Wenn Sie speichern, geht verloren, was jenes Programm geschrieben hat.</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>Speichern unter</translation>
+    </message>
+    <message>
+        <source>%1 could not be saved: %2</source>
+        <translation>%1 konnte nicht gespeichert werden: %2</translation>
+    </message>
+    <message>
+        <source>%1 is saved.</source>
+        <translation>%1 ist gespeichert.</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::FindingsModel</name>
+    <message numerus="yes">
+        <source>%Ln more: %1</source>
+        <translation>
+            <numerusform>%Ln weitere Stelle: %1</numerusform>
+            <numerusform>%Ln weitere Stellen: %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Zeile</translation>
+    </message>
+    <message>
+        <source>What is wrong</source>
+        <translation>Was nicht stimmt</translation>
+    </message>
+    <message>
+        <source>Element</source>
+        <translation>Element</translation>
+    </message>
+    <message>
+        <source>Feature</source>
+        <translation>Objekt</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::FindingsPanel</name>
+    <message>
+        <source>Findings</source>
+        <translation>Befunde</translation>
+    </message>
+    <message>
+        <source>Nothing was found wrong with the document.</source>
+        <translation>Am Dokument wurde nichts Falsches gefunden.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln place(s) where the document is not as its schema asks.</source>
+        <translation>
+            <numerusform>%Ln Stelle, an der das Dokument seinem Schema nicht entspricht.</numerusform>
+            <numerusform>%Ln Stellen, an denen das Dokument seinem Schema nicht entspricht.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::LogModel</name>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Stufe</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Meldung</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::LogPanel</name>
+    <message>
+        <source>Log</source>
+        <translation>Protokoll</translation>
+    </message>
+    <message>
+        <source>Lowest level that is shown</source>
+        <translation>Niedrigste angezeigte Stufe</translation>
+    </message>
+    <message>
+        <source>All messages</source>
+        <translation>Alle Meldungen</translation>
+    </message>
+    <message>
+        <source>Warnings and errors</source>
+        <translation>Warnungen und Fehler</translation>
+    </message>
+    <message>
+        <source>Errors only</source>
+        <translation>Nur Fehler</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>C&amp;lear</source>
+        <translation>&amp;Leeren</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::MainWindow</name>
+    <message>
+        <source>No feature has the identifier %1.</source>
+        <translation>Kein Objekt hat die Kennung %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The program has ended with %Ln unsaved change(s) of %1.</source>
+        <translation>
+            <numerusform>Das Programm endete mit %Ln nicht gespeicherten Änderung von %1.</numerusform>
+            <numerusform>Das Programm endete mit %Ln nicht gespeicherten Änderungen von %1.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Recover</source>
+        <translation>&amp;Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Verwerfen</translation>
+    </message>
+    <message>
+        <source>The changes of %1 cannot be recovered: %2.</source>
+        <translation>Die Änderungen von %1 können nicht wiederhergestellt werden: %2.</translation>
+    </message>
+    <message>
+        <source>The changes of %1 are recovered.</source>
+        <translation>Die Änderungen von %1 sind wiederhergestellt.</translation>
+    </message>
+    <message>
+        <source>Not all changes of %1 could be recovered: %2.</source>
+        <translation>Nicht alle Änderungen von %1 konnten wiederhergestellt werden: %2.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>%1 refers to no other feature.</source>
+        <translation>%1 verweist auf kein anderes Objekt.</translation>
+    </message>
+    <message>
+        <source>No feature refers to %1.</source>
+        <translation>Kein Objekt verweist auf %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln feature(s) refer to %1.</source>
+        <translation>
+            <numerusform>%Ln Objekt verweist auf %1.</numerusform>
+            <numerusform>%Ln Objekte verweisen auf %1.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Features of the document</source>
+        <translation>Objekte des Dokuments</translation>
+    </message>
+    <message>
+        <source>Features</source>
+        <translation>Objekte</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Protokoll</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <extracomment>Title of the panel, with the number of findings</extracomment>
+        <translation>Befunde</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;New Window</source>
+        <translation>&amp;Neues Fenster</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>Ö&amp;ffnen...</translation>
+    </message>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>Zu&amp;letzt geöffnet</translation>
+    </message>
+    <message>
+        <source>Re&amp;load</source>
+        <translation>Ne&amp;u laden</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>Save &amp;As...</source>
+        <translation>Speichern un&amp;ter...</translation>
+    </message>
+    <message>
+        <source>&amp;Close Window</source>
+        <translation>Fenster s&amp;chließen</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Clear List</source>
+        <translation>Liste &amp;leeren</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig:</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen:</translation>
+    </message>
+    <message>
+        <source>Ctrl+Y</source>
+        <translation>Ctrl+Y</translation>
+    </message>
+    <message>
+        <source>&amp;Search Features</source>
+        <translation>Objekte &amp;suchen</translation>
+    </message>
+    <message>
+        <source>&amp;Next Hit</source>
+        <translation>&amp;Nächster Treffer</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Hit</source>
+        <translation>&amp;Voriger Treffer</translation>
+    </message>
+    <message>
+        <source>Se&amp;ttings...</source>
+        <translation>&amp;Einstellungen...</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Expand All</source>
+        <translation>Alles auf&amp;klappen</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+E</source>
+        <translation>Ctrl+Shift+E</translation>
+    </message>
+    <message>
+        <source>&amp;Collapse All</source>
+        <translation>Alles &amp;zuklappen</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+W</source>
+        <translation>Ctrl+Shift+W</translation>
+    </message>
+    <message>
+        <source>C&amp;olours</source>
+        <translation>&amp;Farben</translation>
+    </message>
+    <message>
+        <source>As the &amp;Desktop</source>
+        <translation>Wie die &amp;Arbeitsfläche</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Hell</translation>
+    </message>
+    <message>
+        <source>D&amp;ark</source>
+        <translation>&amp;Dunkel</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>Ü&amp;ber</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Werkzeuge</translation>
+    </message>
+    <message>
+        <source>Changes are not kept for a recovery: %1</source>
+        <translation>Änderungen werden nicht für eine Wiederherstellung aufbewahrt: %1</translation>
+    </message>
+    <message>
+        <source>Tolvik</source>
+        <extracomment>Title of the window: name of the document, mark of unsaved changes, name of the program</extracomment>
+        <translation>Tolvik</translation>
+    </message>
+    <message>
+        <source>%1[*] - Tolvik</source>
+        <translation>%1[*] - Tolvik</translation>
+    </message>
+    <message>
+        <source>Findings (%L1)</source>
+        <translation>Befunde (%L1)</translation>
+    </message>
+    <message>
+        <source>About Tolvik</source>
+        <translation>Über Tolvik</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;Tolvik %1&lt;/h3&gt;&lt;p&gt;Shows and edits city models in CityGML 2.0.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;Tolvik %1&lt;/h3&gt;&lt;p&gt;Zeigt und bearbeitet Stadtmodelle in CityGML 2.0.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Featu&amp;re</source>
+        <translation>&amp;Objekt</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::NoticeBar</name>
+    <message>
+        <source>Close this message</source>
+        <translation>Diese Meldung schließen</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::Recovery</name>
+    <message>
+        <source>there is no such file any more</source>
+        <translation>es gibt die Datei nicht mehr</translation>
+    </message>
+    <message>
+        <source>the file is not the one that was edited</source>
+        <translation>die Datei ist nicht die, die bearbeitet wurde</translation>
+    </message>
+    <message>
+        <source>an edit does not fit the document</source>
+        <translation>eine Änderung passt nicht zum Dokument</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::StatusProgress</name>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Give up what is going on</source>
+        <translation>Abbrechen, was gerade läuft</translation>
+    </message>
+</context>
+</TS>

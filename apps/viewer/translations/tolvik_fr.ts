@@ -1,0 +1,802 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr_FR" sourcelanguage="en_US">
+<context>
+    <name>main</name>
+    <message>
+        <source>Shows and edits city models in CityGML 2.0.</source>
+        <translation>Affiche et modifie des maquettes urbaines CityGML 2.0.</translation>
+    </message>
+    <message>
+        <source>desktop, light or dark</source>
+        <translation>desktop (bureau), light (clair) ou dark (sombre)</translation>
+    </message>
+    <message>
+        <source>Write a picture of the window to FILE, and end</source>
+        <translation>Enregistre une image de la fenêtre dans FILE et termine</translation>
+    </message>
+    <message>
+        <source>Document to open</source>
+        <translation>Document à ouvrir</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik</name>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>inconnu</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::CityGMLModel</name>
+    <message>
+        <source>&lt;unset&gt;</source>
+        <translation>&lt;non défini&gt;</translation>
+    </message>
+    <message>
+        <source>Building Model</source>
+        <translation>Construction du modèle</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::CityGMLModelPlugin</name>
+    <message>
+        <source>CityGML documents (*.gml *.xml)</source>
+        <translation>Documents CityGML (*.gml *.xml)</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::CityGMLProxyModel</name>
+    <message>
+        <source>Building Proxy Nodes</source>
+        <translation>Construction des nœuds de l&apos;arbre</translation>
+    </message>
+    <message>
+        <source>Building Nodes Parent/Children relashionship</source>
+        <translation>Construction des liens parents-enfants de l&apos;arbre</translation>
+    </message>
+    <message>
+        <source>Building Root nodes</source>
+        <translation>Construction des racines de l&apos;arbre</translation>
+    </message>
+    <message>
+        <source>Select siblings of same type</source>
+        <translation>Sélectionner les frères du même type</translation>
+    </message>
+    <message>
+        <source>Select all brothers of the same type</source>
+        <translation>Sélectionner tous les frères du même type</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Sélectionner</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::CityGMLViewSettingsWidget</name>
+    <message>
+        <source>Level of detail 0 up to</source>
+        <translation>Niveau de détail 0 jusqu&apos;à</translation>
+    </message>
+    <message>
+        <source>Level of detail 1 up to</source>
+        <translation>Niveau de détail 1 jusqu&apos;à</translation>
+    </message>
+    <message>
+        <source>Level of detail 2 up to</source>
+        <translation>Niveau de détail 2 jusqu&apos;à</translation>
+    </message>
+    <message>
+        <source>Level of detail 3 up to</source>
+        <translation>Niveau de détail 3 jusqu&apos;à</translation>
+    </message>
+    <message>
+        <source>Level of detail 4 up to</source>
+        <translation>Niveau de détail 4 jusqu&apos;à</translation>
+    </message>
+    <message>
+        <source> m</source>
+        <translation> m</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::FeaturePropertyModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Unité</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::ModelPlugins</name>
+    <message>
+        <source>There is no plug-in for models in %1.</source>
+        <translation>Il n&apos;y a pas de greffon de modèles dans %1.</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>%1 has the interface %2, and not %3.</source>
+        <translation>%1 a l&apos;interface %2 et non %3.</translation>
+    </message>
+    <message>
+        <source>%1 is for version %2 of the library, and not %3.</source>
+        <translation>%1 est fait pour la version %2 de la bibliothèque et non %3.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be loaded: %2.</source>
+        <translation>Impossible de charger %1 : %2.</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::TreeNodeProxyModel</name>
+    <message>
+        <source>Select children</source>
+        <translation>Sélectionner les enfants</translation>
+    </message>
+    <message>
+        <source>Select everything directly below the selection</source>
+        <translation>Sélectionner tout ce qui est directement sous la sélection</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Sélectionner</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::apps::DocumentReading</name>
+    <message>
+        <source>Reading</source>
+        <translation>Lecture</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::FeatureActions</name>
+    <message>
+        <source>&amp;Hide</source>
+        <translation>&amp;Masquer</translation>
+    </message>
+    <message>
+        <source>H</source>
+        <translation>H</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>A&amp;fficher</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <translation>S</translation>
+    </message>
+    <message>
+        <source>Show &amp;Only This</source>
+        <translation>N&apos;afficher &amp;que ceci</translation>
+    </message>
+    <message>
+        <source>O</source>
+        <translation>O</translation>
+    </message>
+    <message>
+        <source>Hide &amp;All</source>
+        <translation>Masquer &amp;tout</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+H</source>
+        <translation>Ctrl+Shift+H</translation>
+    </message>
+    <message>
+        <source>Sho&amp;w All</source>
+        <translation>Tout aff&amp;icher</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+A</source>
+        <translation>Ctrl+Shift+A</translation>
+    </message>
+    <message>
+        <source>&amp;Enable</source>
+        <translation>&amp;Activer</translation>
+    </message>
+    <message>
+        <source>&amp;Disable</source>
+        <translation>&amp;Désactiver</translation>
+    </message>
+    <message>
+        <source>Ena&amp;ble All</source>
+        <translation>Activer t&amp;out</translation>
+    </message>
+    <message>
+        <source>Select Siblings of Same &amp;Type</source>
+        <translation>Sélectionner les f&amp;rères du même type</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+T</source>
+        <translation>Ctrl+Shift+T</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Identifier</source>
+        <translation>&amp;Copier l&apos;identifiant</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+C</source>
+        <translation>Ctrl+Shift+C</translation>
+    </message>
+    <message>
+        <source>&amp;Go to Reference</source>
+        <translation>Aller à la référ&amp;ence</translation>
+    </message>
+    <message>
+        <source>Ctrl+R</source>
+        <translation>Ctrl+R</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+R</source>
+        <translation>Ctrl+Shift+R</translation>
+    </message>
+    <message>
+        <source>Re&amp;move Feature</source>
+        <translation>&amp;Supprimer l&apos;objet</translation>
+    </message>
+    <message>
+        <source>Who Re&amp;fers to This?</source>
+        <translation>Q&amp;ui y fait référence ?</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::FeatureBrowser</name>
+    <message>
+        <source>Feature tree</source>
+        <translation>Arbre des objets</translation>
+    </message>
+    <message>
+        <source>Filtered feature tree</source>
+        <translation>Arbre filtré des objets</translation>
+    </message>
+    <message>
+        <source>Feature list</source>
+        <translation>Liste des objets</translation>
+    </message>
+    <message>
+        <source>&amp;Tree</source>
+        <translation>A&amp;rbre</translation>
+    </message>
+    <message>
+        <source>&amp;List</source>
+        <translation>&amp;Liste</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>Search for features</source>
+        <translation>Rechercher des objets</translation>
+    </message>
+    <message>
+        <source>Words in the name, identifier or type; type:Window, name:north,
+height&gt;3, function=1000 for attributes. Enter goes to the next hit.</source>
+        <translation>Mots du nom, de l&apos;identifiant ou du type ; type:Window, name:nord,
+height&gt;3, function=1000 pour les attributs. Entrée mène au résultat suivant.</translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation>Précédent</translation>
+    </message>
+    <message>
+        <source>Previous hit</source>
+        <translation>Résultat précédent</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Suivant</translation>
+    </message>
+    <message>
+        <source>Next hit</source>
+        <translation>Résultat suivant</translation>
+    </message>
+    <message>
+        <source>Filter by type</source>
+        <translation>Filtrer par type</translation>
+    </message>
+    <message>
+        <source>Show only features of one type</source>
+        <translation>N&apos;afficher que les objets d&apos;un type</translation>
+    </message>
+    <message>
+        <source>All types</source>
+        <translation>Tous les types</translation>
+    </message>
+    <message>
+        <source>Only hits</source>
+        <translation>Résultats seuls</translation>
+    </message>
+    <message>
+        <source>Show only the features that the search has found</source>
+        <translation>N&apos;afficher que les objets trouvés par la recherche</translation>
+    </message>
+    <message>
+        <source>%1 (%L2)</source>
+        <extracomment>A type of features, and how many there are</extracomment>
+        <translation>%1 (%L2)</translation>
+    </message>
+    <message>
+        <source>no hits</source>
+        <translation>aucun résultat</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln hit(s)</source>
+        <translation>
+            <numerusform>%Ln résultat</numerusform>
+            <numerusform>%Ln résultats</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%L1 of %L2</source>
+        <translation>%L1 sur %L2</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::FeatureListModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Identifier</source>
+        <translation>Identifiant</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::FileCommands</name>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>City models (*.gml *.xml *.citygml);;All files (*)</source>
+        <translation>Maquettes urbaines (*.gml *.xml *.citygml);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Reading %1</source>
+        <translation>Lecture de %1</translation>
+    </message>
+    <message>
+        <source>Reading %1 was cancelled.</source>
+        <translation>La lecture de %1 a été annulée.</translation>
+    </message>
+    <message>
+        <source>%1 is open.</source>
+        <translation>%1 est ouvert.</translation>
+    </message>
+    <message>
+        <source>%1 could not be opened: %2.</source>
+        <translation>%1 n&apos;a pas pu être ouvert : %2.</translation>
+    </message>
+    <message>
+        <source>Another program has changed %1. A reload would lose your edits.</source>
+        <translation>Un autre programme a modifié %1. Un rechargement ferait perdre vos modifications.</translation>
+    </message>
+    <message>
+        <source>Another program has changed %1.</source>
+        <translation>Un autre programme a modifié %1.</translation>
+    </message>
+    <message>
+        <source>&amp;Reload</source>
+        <translation>&amp;Recharger</translation>
+    </message>
+    <message>
+        <source>Unsaved changes</source>
+        <translation>Modifications non enregistrées</translation>
+    </message>
+    <message>
+        <source>Save the changes of %1?</source>
+        <translation>Enregistrer les modifications de %1 ?</translation>
+    </message>
+    <message>
+        <source>Otherwise they are lost.</source>
+        <translation>Sinon elles seront perdues.</translation>
+    </message>
+    <message>
+        <source>File has changed</source>
+        <translation>Fichier modifié</translation>
+    </message>
+    <message>
+        <source>If you save, what that program has written is lost.</source>
+        <translation>Si vous enregistrez, ce que ce programme a écrit sera perdu.</translation>
+    </message>
+    <message>
+        <source>Save As</source>
+        <translation>Enregistrer sous</translation>
+    </message>
+    <message>
+        <source>%1 could not be saved: %2</source>
+        <translation>%1 n&apos;a pas pu être enregistré : %2</translation>
+    </message>
+    <message>
+        <source>%1 is saved.</source>
+        <translation>%1 est enregistré.</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::FindingsModel</name>
+    <message numerus="yes">
+        <source>%Ln more: %1</source>
+        <translation>
+            <numerusform>%Ln autre : %1</numerusform>
+            <numerusform>%Ln autres : %1</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>Ligne</translation>
+    </message>
+    <message>
+        <source>What is wrong</source>
+        <translation>Ce qui ne va pas</translation>
+    </message>
+    <message>
+        <source>Element</source>
+        <translation>Élément</translation>
+    </message>
+    <message>
+        <source>Feature</source>
+        <translation>Objet</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::FindingsPanel</name>
+    <message>
+        <source>Findings</source>
+        <translation>Constats</translation>
+    </message>
+    <message>
+        <source>Nothing was found wrong with the document.</source>
+        <translation>Aucun défaut n&apos;a été trouvé dans le document.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln place(s) where the document is not as its schema asks.</source>
+        <translation>
+            <numerusform>%Ln endroit où le document n&apos;est pas conforme à son schéma.</numerusform>
+            <numerusform>%Ln endroits où le document n&apos;est pas conforme à son schéma.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::LogModel</name>
+    <message>
+        <source>Error</source>
+        <translation>Erreur</translation>
+    </message>
+    <message>
+        <source>Warning</source>
+        <translation>Avertissement</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Heure</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Niveau</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Message</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::LogPanel</name>
+    <message>
+        <source>Log</source>
+        <translation>Journal</translation>
+    </message>
+    <message>
+        <source>Lowest level that is shown</source>
+        <translation>Niveau le plus bas affiché</translation>
+    </message>
+    <message>
+        <source>All messages</source>
+        <translation>Tous les messages</translation>
+    </message>
+    <message>
+        <source>Warnings and errors</source>
+        <translation>Avertissements et erreurs</translation>
+    </message>
+    <message>
+        <source>Errors only</source>
+        <translation>Erreurs seules</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+    <message>
+        <source>C&amp;lear</source>
+        <translation>&amp;Effacer</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::MainWindow</name>
+    <message>
+        <source>No feature has the identifier %1.</source>
+        <translation>Aucun objet n&apos;a l&apos;identifiant %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The program has ended with %Ln unsaved change(s) of %1.</source>
+        <translation>
+            <numerusform>Le programme s&apos;est terminé avec %Ln modification non enregistrée de %1.</numerusform>
+            <numerusform>Le programme s&apos;est terminé avec %Ln modifications non enregistrées de %1.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>&amp;Recover</source>
+        <translation>&amp;Récupérer</translation>
+    </message>
+    <message>
+        <source>&amp;Discard</source>
+        <translation>&amp;Abandonner</translation>
+    </message>
+    <message>
+        <source>The changes of %1 cannot be recovered: %2.</source>
+        <translation>Les modifications de %1 ne peuvent pas être récupérées : %2.</translation>
+    </message>
+    <message>
+        <source>The changes of %1 are recovered.</source>
+        <translation>Les modifications de %1 sont récupérées.</translation>
+    </message>
+    <message>
+        <source>Not all changes of %1 could be recovered: %2.</source>
+        <translation>Toutes les modifications de %1 n&apos;ont pas pu être récupérées : %2.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>%1 refers to no other feature.</source>
+        <translation>%1 ne fait référence à aucun autre objet.</translation>
+    </message>
+    <message>
+        <source>No feature refers to %1.</source>
+        <translation>Aucun objet ne fait référence à %1.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln feature(s) refer to %1.</source>
+        <translation>
+            <numerusform>%Ln objet fait référence à %1.</numerusform>
+            <numerusform>%Ln objets font référence à %1.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Features of the document</source>
+        <translation>Objets du document</translation>
+    </message>
+    <message>
+        <source>Features</source>
+        <translation>Objets</translation>
+    </message>
+    <message>
+        <source>Log</source>
+        <translation>Journal</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <extracomment>Title of the panel, with the number of findings</extracomment>
+        <translation>Constats</translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation>&amp;Fichier</translation>
+    </message>
+    <message>
+        <source>&amp;New Window</source>
+        <translation>&amp;Nouvelle fenêtre</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>&amp;Ouvrir...</translation>
+    </message>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>Fichiers &amp;récents</translation>
+    </message>
+    <message>
+        <source>Re&amp;load</source>
+        <translation>Re&amp;charger</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>&amp;Enregistrer</translation>
+    </message>
+    <message>
+        <source>Save &amp;As...</source>
+        <translation>Enregistrer &amp;sous...</translation>
+    </message>
+    <message>
+        <source>&amp;Close Window</source>
+        <translation>&amp;Fermer la fenêtre</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Quitter</translation>
+    </message>
+    <message>
+        <source>&amp;Clear List</source>
+        <translation>&amp;Vider la liste</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Édition</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>Ann&amp;uler</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <source>Ctrl+Y</source>
+        <translation>Ctrl+Y</translation>
+    </message>
+    <message>
+        <source>&amp;Search Features</source>
+        <translation>Re&amp;chercher des objets</translation>
+    </message>
+    <message>
+        <source>&amp;Next Hit</source>
+        <translation>Résultat &amp;suivant</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Hit</source>
+        <translation>Résultat &amp;précédent</translation>
+    </message>
+    <message>
+        <source>Se&amp;ttings...</source>
+        <translation>Paramè&amp;tres...</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Affichage</translation>
+    </message>
+    <message>
+        <source>&amp;Expand All</source>
+        <translation>Tout &amp;développer</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+E</source>
+        <translation>Ctrl+Shift+E</translation>
+    </message>
+    <message>
+        <source>&amp;Collapse All</source>
+        <translation>Tout &amp;réduire</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+W</source>
+        <translation>Ctrl+Shift+W</translation>
+    </message>
+    <message>
+        <source>C&amp;olours</source>
+        <translation>C&amp;ouleurs</translation>
+    </message>
+    <message>
+        <source>As the &amp;Desktop</source>
+        <translation>Comme le &amp;bureau</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>C&amp;laires</translation>
+    </message>
+    <message>
+        <source>D&amp;ark</source>
+        <translation>&amp;Sombres</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>A&amp;ide</translation>
+    </message>
+    <message>
+        <source>&amp;About</source>
+        <translation>À &amp;propos</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Outils</translation>
+    </message>
+    <message>
+        <source>Changes are not kept for a recovery: %1</source>
+        <translation>Les modifications ne sont pas conservées pour une récupération : %1</translation>
+    </message>
+    <message>
+        <source>Tolvik</source>
+        <extracomment>Title of the window: name of the document, mark of unsaved changes, name of the program</extracomment>
+        <translation>Tolvik</translation>
+    </message>
+    <message>
+        <source>%1[*] - Tolvik</source>
+        <translation>%1[*] - Tolvik</translation>
+    </message>
+    <message>
+        <source>Findings (%L1)</source>
+        <translation>Constats (%L1)</translation>
+    </message>
+    <message>
+        <source>About Tolvik</source>
+        <translation>À propos de Tolvik</translation>
+    </message>
+    <message>
+        <source>&lt;h3&gt;Tolvik %1&lt;/h3&gt;&lt;p&gt;Shows and edits city models in CityGML 2.0.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;Tolvik %1&lt;/h3&gt;&lt;p&gt;Affiche et modifie des maquettes urbaines CityGML 2.0.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Featu&amp;re</source>
+        <translation>&amp;Objet</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::NoticeBar</name>
+    <message>
+        <source>Close this message</source>
+        <translation>Fermer ce message</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::Recovery</name>
+    <message>
+        <source>there is no such file any more</source>
+        <translation>ce fichier n&apos;existe plus</translation>
+    </message>
+    <message>
+        <source>the file is not the one that was edited</source>
+        <translation>le fichier n&apos;est pas celui qui a été modifié</translation>
+    </message>
+    <message>
+        <source>an edit does not fit the document</source>
+        <translation>une modification ne convient pas au document</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::StatusProgress</name>
+    <message>
+        <source>Progress</source>
+        <translation>Progression</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Give up what is going on</source>
+        <translation>Abandonner l&apos;opération en cours</translation>
+    </message>
+</context>
+</TS>

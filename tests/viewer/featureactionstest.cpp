@@ -1,0 +1,133 @@
+#include "apps/viewer/document/Document.h"
+#include "support/TestClass.h"
+#include "support/TestPaths.h"
+#include "viewer/OpenedWindow.h"
+
+#include <QClipboard>
+#include <QtTest>
+
+using namespace testsupport;
+using namespace tolvik::viewer;
+
+/// What the menu and the keys do with features.
+class FeatureActionsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { opened = std::make_unique<OpenedWindow>(examples() + "/district.gml"); }
+    void cleanup() { opened.reset(); }
+
+    void aFeatureIsHiddenWithAllBelowIt()
+    {
+        opened->select({"heron-bridge"});
+        opened->action("hide")->trigger();
+        QVERIFY(!isVisible("heron-bridge"));
+        QVERIFY(!isVisible("bell"));
+        QVERIFY(isVisible("lark-tunnel"));
+        QCOMPARE(check("heron-bridge"), int(Qt::Unchecked));
+        QCOMPARE(opened->document().tree().index(0, 0).data(Qt::CheckStateRole).toInt(),
+                 int(Qt::PartiallyChecked));
+        opened->action("show")->trigger();
+        QVERIFY(isVisible("bell"));
+        QCOMPARE(check("heron-bridge"), int(Qt::Checked));
+    }
+
+    void aCheckBoxHides()
+    {
+        QTreeView* const tree = opened->view("featureTree");
+        const QModelIndex node = nodeOf("heron-bridge");
+        tree->setCurrentIndex(node);
+        tree->setFocus();
+        QTest::keyClick(tree, Qt::Key_Space);
+        QVERIFY(!isVisible("bell"));
+        QTest::keyClick(tree, Qt::Key_Space);
+        QVERIFY(isVisible("bell"));
+    }
+
+    void onlyOneIsShown()
+    {
+        opened->action("hideAll")->trigger();
+        QVERIFY(!isVisible("bell"));
+        opened->select({"chapel"});
+        opened->action("showOnly")->trigger();
+        QVERIFY(isVisible("bell"));
+        QVERIFY(!isVisible("heron-bridge"));
+        opened->action("showAll")->trigger();
+        QVERIFY(isVisible("heron-bridge"));
+        opened->action("showOnly")->trigger();
+        QVERIFY(isVisible("bell"));
+        QVERIFY(!isVisible("heron-bridge"));
+    }
+
+    void disabledFeaturesAreGreyAndCannotBeSelected()
+    {
+        opened->select({"chapel"});
+        opened->action("disable")->trigger();
+        QCOMPARE(opened->document().tree().flags(nodeOf("bell")), Qt::ItemFlags(Qt::NoItemFlags));
+        opened->action("enableAll")->trigger();
+        QVERIFY(opened->document().tree().flags(nodeOf("bell")) & Qt::ItemIsEnabled);
+        opened->action("disable")->trigger();
+        opened->action("enable")->trigger();
+        QVERIFY(opened->document().tree().flags(nodeOf("bell")) & Qt::ItemIsEnabled);
+    }
+
+    void siblingsOfTheSameTypeAreSelected()
+    {
+        opened->select({"bridge-door"});
+        opened->select({"heron-bridge"});
+        opened->action("selectSiblings")->trigger();
+        for (const QModelIndex& each : opened->view("featureTree")->selectionModel()->selectedRows(1)) {
+            QCOMPARE(each.data().toString(), QString("Bridge"));
+            QCOMPARE(each.parent(), nodeOf("heron-bridge").parent());
+        }
+        QVERIFY(opened->selected().contains("heron-bridge"));
+    }
+
+    void identifiersAreCopied()
+    {
+        opened->select({"pier", "bell"});
+        opened->action("copyIdentifier")->trigger();
+        QStringList copied = QGuiApplication::clipboard()->text().split('\n');
+        copied.sort();
+        QCOMPARE(copied, QStringList({"bell", "pier"}));
+    }
+
+    void lettersActInTheTreeAndAreTextInTheSearch()
+    {
+        opened->window->activateWindow();
+        QTreeView* const tree = opened->view("featureTree");
+        opened->select({"pier"});
+        tree->setFocus();
+        QTest::keyClick(tree, Qt::Key_H);
+        QVERIFY(!isVisible("pier"));
+        opened->search("s");
+        QVERIFY(!isVisible("pier"));
+    }
+
+    void nothingCanBeDoneWithoutASelection()
+    {
+        opened->document().selection().clear();
+        QVERIFY(!opened->action("hide")->isEnabled());
+        QVERIFY(!opened->action("removeFeature")->isEnabled());
+        QVERIFY(opened->action("hideAll")->isEnabled());
+    }
+
+private:
+    bool isVisible(const QString& identifier)
+    {
+        return opened->document().model().isVisible(
+            opened->document().model().index(opened->row(identifier), 0));
+    }
+    QModelIndex nodeOf(const QString& identifier)
+    {
+        return opened->document().tree().mapFromSource(
+            opened->document().model().index(opened->row(identifier), 0));
+    }
+    int check(const QString& identifier) { return nodeOf(identifier).data(Qt::CheckStateRole).toInt(); }
+
+    std::unique_ptr<OpenedWindow> opened;
+};
+
+TEST_CLASS(FeatureActionsTest, Widgets)
+#include "featureactionstest.moc"

@@ -1,0 +1,254 @@
+#include "apps/viewer/files/FileCommands.h"
+#include "apps/viewer/document/Document.h"
+#include "apps/viewer/features/FeatureBrowser.h"
+#include "apps/viewer/files/RecentFiles.h"
+#include "support/Documents.h"
+#include "support/Files.h"
+#include "support/TestClass.h"
+#include "support/TestPaths.h"
+#include "viewer/OpenedWindow.h"
+
+#include <QDropEvent>
+#include <QLabel>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QtTest>
+#include <unistd.h>
+
+using namespace testsupport;
+using namespace tolvik;
+using namespace tolvik::viewer;
+
+namespace {
+
+/// Renames a feature as long as nothing else can.
+class Rename : public QUndoCommand
+{
+public:
+    Rename(CityGMLModel& model, int row, const QString& name)
+        : QUndoCommand("Rename"), model(model), row(row), name(name),
+          former(model.index(row, 0).data().toString())
+    {
+    }
+    void redo() override { model.setData(model.index(row, 0), name); }
+    void undo() override { model.setData(model.index(row, 0), former); }
+
+private:
+    CityGMLModel& model;
+    const int row;
+    const QString name, former;
+};
+
+} // namespace
+
+/// Opening, reloading and saving in the window.
+class FileCommandsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { opened = std::make_unique<OpenedWindow>(examples() + "/district.gml"); }
+    void cleanup() { opened.reset(); }
+
+    void theTitleNamesTheDocumentAndItsEdits()
+    {
+        QCOMPARE(opened->window->windowTitle(), QString("document.gml[*] - Tolvik"));
+        QVERIFY(!opened->window->isWindowModified());
+        rename("pier", "Other");
+        QVERIFY(opened->window->isWindowModified());
+        opened->action("undo")->trigger();
+        QVERIFY(!opened->window->isWindowModified());
+    }
+
+    void aReloadKeepsTheView()
+    {
+        QTreeView* const tree = opened->view("featureTree");
+        opened->select({"chapel"});
+        opened->action("hide")->trigger();
+        opened->select({"pier"});
+        tree->collapseAll();
+        tree->expand(tree->model()->index(0, 0));
+        tree->expand(node("heron-bridge"));
+        const QStringList texts = shownTexts(*tree);
+        reload();
+        QCOMPARE(opened->selected(), QStringList{"pier"});
+        QCOMPARE(node("pier"), tree->currentIndex());
+        QCOMPARE(shownTexts(*tree), texts);
+        QCOMPARE(node("bell").data(Qt::CheckStateRole).toInt(), int(Qt::Unchecked));
+        QCOMPARE(node("pier").data(Qt::CheckStateRole).toInt(), int(Qt::Checked));
+    }
+
+    void aDocumentThatCannotBeReadLeavesTheOpenOne()
+    {
+        opened->select({"pier"});
+        const QString broken = opened->path("broken.gml");
+        writeFile(broken, documentText("") + "<x>");
+        opened->window->open(broken);
+        auto* const text = opened->window->findChild<QLabel*>("noticeText");
+        QTRY_VERIFY(text->isVisible());
+        QVERIFY2(text->text().contains("broken.gml") && text->text().contains("junk"),
+                 qPrintable(text->text()));
+        QCOMPARE(opened->document().fileName(), opened->file());
+        QCOMPARE(opened->window->windowTitle(), QString("document.gml[*] - Tolvik"));
+        QCOMPARE(opened->selected(), QStringList{"pier"});
+        const QAbstractItemModel* const log = opened->view("log")->model();
+        QVERIFY(log->index(log->rowCount() - 1, 2).data().toString().contains("junk"));
+    }
+
+    void aReadingIsCancelled()
+    {
+        opened->window->open(largeDocument());
+        QVERIFY(opened->button("cancel")->isVisible());
+        opened->button("cancel")->click();
+        QTRY_VERIFY(!opened->window->files().isReading());
+        QCOMPARE(opened->document().fileName(), opened->file());
+        QVERIFY(!opened->button("cancel")->isVisible());
+    }
+
+    void theWindowIsClosedWhileItReads()
+    {
+        opened->window->open(largeDocument());
+        QVERIFY(opened->window->close());
+        opened.reset();
+    }
+
+    void anotherDocumentIsAskedForWhileOneIsRead()
+    {
+        opened->window->open(largeDocument());
+        QVERIFY(opened->open(examples() + "/energy.gml"));
+        QCOMPARE(opened->document().fileName(), QFileInfo(examples() + "/energy.gml").canonicalFilePath());
+    }
+
+    void anEditIsSaved()
+    {
+        rename("pier", "Northern pier");
+        opened->action("save")->trigger();
+        QVERIFY(!opened->document().isModified());
+        QVERIFY(contentOf(opened->file()).contains("Northern pier"));
+        reload();
+        QCOMPARE(node("pier").data().toString(), QString("Northern pier"));
+    }
+
+    void aSaveThatFailsSaysSo()
+    {
+        if (::geteuid() == 0) {
+            // Nothing is write-protected for root but what is no file.
+            QVERIFY(QFile::remove(opened->file()));
+            QVERIFY(QDir().mkdir(opened->file()));
+            OpenedWindow::answer(QMessageBox::Save);
+        } else {
+            QFile::setPermissions(opened->file(), QFile::ReadOwner);
+        }
+        rename("pier", "Northern pier");
+        opened->action("save")->trigger();
+        QVERIFY(opened->document().isModified());
+        auto* const text = opened->window->findChild<QLabel*>("noticeText");
+        QVERIFY(text->isVisible());
+        QVERIFY2(text->text().contains("could not be saved"), qPrintable(text->text()));
+    }
+
+    void unsavedEditsAreAskedFor()
+    {
+        rename("pier", "Northern pier");
+        OpenedWindow::answer(QMessageBox::Cancel);
+        QVERIFY(!opened->window->close());
+        QVERIFY(opened->document().isModified());
+        OpenedWindow::answer(QMessageBox::Cancel);
+        opened->window->open(examples() + "/energy.gml");
+        QVERIFY(!opened->window->files().isReading());
+        OpenedWindow::answer(QMessageBox::Save);
+        QVERIFY(opened->window->close());
+        QVERIFY(contentOf(opened->file()).contains("Northern pier"));
+    }
+
+    void editsAreGivenUp()
+    {
+        const QByteArray before = contentOf(opened->file());
+        rename("pier", "Northern pier");
+        OpenedWindow::answer(QMessageBox::Discard);
+        QVERIFY(opened->window->close());
+        QCOMPARE(contentOf(opened->file()), before);
+    }
+
+    void aChangeByAnotherProgramIsNoticed()
+    {
+        QByteArray content = contentOf(opened->file());
+        writeFile(opened->file(), content.replace("Lark Tunnel", "Wren Tunnel"));
+        auto* const text = opened->window->findChild<QLabel*>("noticeText");
+        QTRY_VERIFY(text->isVisible());
+        QVERIFY(text->text().contains("Another program"));
+        QSignalSpy done(&opened->window->files(), &FileCommands::opened);
+        opened->button("reloadChanged")->click();
+        QVERIFY(done.wait());
+        QCOMPARE(node("lark-tunnel").data().toString(), QString("Wren Tunnel"));
+        QVERIFY(!text->isVisible());
+    }
+
+    void aFileThatAnotherProgramHasChangedIsNotOverwrittenUnasked()
+    {
+        rename("pier", "Northern pier");
+        const QByteArray other = contentOf(opened->file()) + "<!-- other -->";
+        writeFile(opened->file(), other);
+        OpenedWindow::answer(QMessageBox::Cancel);
+        opened->action("save")->trigger();
+        QCOMPARE(contentOf(opened->file()), other);
+        QVERIFY(opened->document().isModified());
+        OpenedWindow::answer(QMessageBox::Save);
+        opened->action("save")->trigger();
+        QVERIFY(!opened->document().isModified());
+    }
+
+    void aDroppedDocumentIsOpened()
+    {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(examples() + "/energy.gml")});
+        QSignalSpy done(&opened->window->files(), &FileCommands::opened);
+        QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(opened->window.get(), &enter);
+        QVERIFY(enter.isAccepted());
+        QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(opened->window.get(), &drop);
+        QVERIFY(done.wait());
+        QVERIFY(opened->document().fileName().endsWith("energy.gml"));
+    }
+
+    void documentsThatWereOpenedAreRemembered()
+    {
+        QVERIFY(opened->open(examples() + "/energy.gml"));
+        QCOMPARE(recentFiles::list(),
+                 QStringList({QFileInfo(examples() + "/energy.gml").canonicalFilePath(), opened->file()}));
+    }
+
+private:
+    void rename(const QString& identifier, const QString& name)
+    {
+        opened->document().undoStack().push(
+            new Rename(opened->document().model(), opened->row(identifier), name));
+    }
+    QModelIndex node(const QString& identifier)
+    {
+        return opened->document().tree().mapFromSource(
+            opened->document().model().index(opened->row(identifier), 0));
+    }
+    void reload()
+    {
+        QSignalSpy done(&opened->window->files(), &FileCommands::opened);
+        opened->action("reload")->trigger();
+        QVERIFY(done.wait());
+    }
+    QString largeDocument() const
+    {
+        QByteArray members;
+        for (int i = 0; i < 50000; ++i) {
+            members += buildingMember("<gml:description>x</gml:description>", "b" + QByteArray::number(i));
+        }
+        const QString path = opened->path("large.gml");
+        writeFile(path, documentText(members));
+        return path;
+    }
+
+    std::unique_ptr<OpenedWindow> opened;
+};
+
+TEST_CLASS(FileCommandsTest, Widgets)
+#include "filecommandstest.moc"
