@@ -10,6 +10,11 @@ packages=(
     libegl-dev libegl1 libgl1-mesa-dri xvfb xauth
 )
 
+# What the hosts of examples/ need besides.
+host_packages=(
+    pkg-config qtdeclarative5-dev qml-module-qtquick2 qml-module-qtquick-controls python3-pyqt5
+)
+
 # Everything said goes to standard error, so that standard output is the job's alone.
 say() {
     printf '%s: %s\n' "$(basename -- "$0")" "$*" >&2

@@ -1,10 +1,27 @@
 #include "plugin/CityGMLModelPlugin.h"
 
+#include "plugin/ScriptDocument.h"
 #include "UI/Models/CityGMLModel/CityGMLModel.h"
 #include "UI/Models/CityGMLModel/CityGMLTreeModel.h"
 #include "viewsettings/CityGMLViewSettingsWidget.h"
 
+#include <log4cplus/logger.h>
+#include <log4cplus/nullappender.h>
+
 namespace tolvik {
+
+namespace {
+
+/// A script cannot configure the log, which would complain of that with the first document.
+void muteUnconfiguredLog()
+{
+    log4cplus::Logger root = log4cplus::Logger::getRoot();
+    if (root.getAllAppenders().empty()) {
+        root.addAppender(log4cplus::SharedAppenderPtr(new log4cplus::NullAppender));
+    }
+}
+
+} // namespace
 
 QString CityGMLModelPlugin::name() const
 {
@@ -35,6 +52,12 @@ TreeNodeProxyModel* CityGMLModelPlugin::createTreeModel(Model& model, QObject* p
 QWidget* CityGMLModelPlugin::createSettingsWidget(QWidget* parent)
 {
     return new CityGMLViewSettingsWidget(parent);
+}
+
+QObject* CityGMLModelPlugin::createDocument()
+{
+    muteUnconfiguredLog();
+    return new ScriptDocument(this, this);
 }
 
 } // namespace tolvik

@@ -27,6 +27,10 @@ public:
 
     /// A CityGMLViewSettingsWidget.
     QWidget* createSettingsWidget(QWidget* parent) override;
+
+    /// For scripts: a ScriptDocument without a document. It lives until it is deleted, or as long as the
+    /// plug-in.
+    Q_INVOKABLE QObject* createDocument();
 };
 
 } // namespace tolvik
