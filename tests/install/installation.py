@@ -108,9 +108,11 @@ def headers():
 
 
 def each_header():
-    """Each header can be included alone, and those of each namespace together."""
-    for name in sorted(dict(hand_written())):
-        compile_headers(name)
+    """Each header can be included alone, but for those that are parts of others, and those of each namespace together."""
+    for name, source in sorted(hand_written()):
+        with open(source, encoding="utf-8") as file:
+            if not re.search(r"include that (header )?instead", file.read()):
+                compile_headers(name)
     binding = os.path.join(PREFIX, "include/tolvik/binding")
     for name in sorted(os.listdir(binding)):
         if os.path.exists(os.path.join(binding, name, "AllTypes.h")):
