@@ -167,7 +167,7 @@ QVariant FeaturePropertyModel::data(const QModelIndex& index, int role) const
     if (shown == nullptr) {
         return QVariant();
     }
-    const QVariant value = shown->value();
+    QVariant value = shown->value();
     switch (role) {
     case PropertyNameRole:
         return shown->name();
