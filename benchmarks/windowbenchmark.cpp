@@ -33,7 +33,8 @@ void writeDocument(const QString& path, int features)
     file << R"(<CityModel xmlns="http://www.opengis.net/citygml/2.0" gml:id="city"
  xmlns:gml="http://www.opengis.net/gml" xmlns:bldg="http://www.opengis.net/citygml/building/2.0">)";
     for (int count = 0; count < features;) {
-        file << "<cityObjectMember><bldg:Building gml:id=\"b" << ++count << "\"><gml:name>Building "
+        ++count;
+        file << "<cityObjectMember><bldg:Building gml:id=\"b" << count << "\"><gml:name>Building "
              << (count * 7919) % features << "</gml:name><bldg:measuredHeight uom=\"m\">" << count % 40
              << "</bldg:measuredHeight>";
         for (int wall = 0; wall < 9; ++wall) {

@@ -44,7 +44,7 @@ bool OpenedWindow::open(const QString& path)
     return opened.wait(20000);
 }
 
-void OpenedWindow::search(const QString& text)
+bool OpenedWindow::search(const QString& text)
 {
     auto* const line = window->findChild<QLineEdit*>(QStringLiteral("search"));
     line->setFocus();
@@ -54,7 +54,7 @@ void OpenedWindow::search(const QString& text)
     } else {
         QTest::keyClicks(line, text);
     }
-    QTest::qWaitFor([this] { return !window->browser().isSearching(); });
+    return QTest::qWaitFor([this] { return !window->browser().isSearching(); });
 }
 
 QStringList OpenedWindow::selected()

@@ -33,7 +33,8 @@ public:
     }
     QAction* action(const char* name) const { return window->findChild<QAction*>(QLatin1String(name)); }
     /// Types into the search field, and waits until what was found shows.
-    void search(const QString& text);
+    /// \return whether that came
+    bool search(const QString& text);
     /// Identifiers of the selected features, sorted.
     QStringList selected();
     /// Row of the feature with an identifier.

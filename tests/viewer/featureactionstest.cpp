@@ -105,6 +105,47 @@ private slots:
         QVERIFY(!isVisible("pier"));
     }
 
+    void aReferenceIsFollowed()
+    {
+        opened->select({"block-1"});
+        opened->action("findReferring")->trigger();
+        QTRY_COMPARE(opened->selected(), QStringList{"lantern-house"});
+        opened->action("goToReferenced")->trigger();
+        QCOMPARE(opened->selected(), QStringList{"block-1"});
+    }
+
+    void ofSeveralReferencesOneIsChosen()
+    {
+        opened->select({"heron-bridge"});
+        opened->action("findReferring")->trigger();
+        QTRY_VERIFY(opened->selected() != QStringList{"heron-bridge"});
+        QStringList offered;
+        QTimer::singleShot(100, this, [&] {
+            auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            QVERIFY(menu != nullptr);
+            for (QAction* const action : menu->actions()) {
+                offered.append(action->text());
+                if (action->text().contains("Heron")) {
+                    menu->setActiveAction(action);
+                }
+            }
+            QTest::keyClick(menu, Qt::Key_Return);
+        });
+        opened->action("goToReferenced")->trigger();
+        QVERIFY2(offered.size() > 1, qPrintable(offered.join('|')));
+        QCOMPARE(opened->selected(), QStringList{"heron-bridge"});
+    }
+
+    void whereNothingRefersThatIsSaid()
+    {
+        opened->select({"pew"});
+        opened->action("findReferring")->trigger();
+        QTRY_VERIFY(opened->window->statusBar()->currentMessage().contains("No feature refers to"));
+        QCOMPARE(opened->selected(), QStringList{"pew"});
+        opened->action("goToReferenced")->trigger();
+        QVERIFY(opened->window->statusBar()->currentMessage().contains("refers to no other feature"));
+    }
+
     void nothingCanBeDoneWithoutASelection()
     {
         opened->document().selection().clear();

@@ -1,5 +1,7 @@
 #include "apps/viewer/features/FeatureBrowser.h"
 #include "apps/viewer/document/Document.h"
+#include "support/Documents.h"
+#include "support/Files.h"
 #include "support/TestClass.h"
 #include "support/TestPaths.h"
 #include "viewer/OpenedWindow.h"
@@ -192,6 +194,59 @@ private slots:
         QCOMPARE(opened->view("featureList")->selectionModel()->selectedRows().size(), nodes);
         opened->select({"pier"});
         QCOMPARE(tree->selectionModel()->selectedRows().size(), 1);
+    }
+
+    /// Each parent makes a range of its own.
+    void aSelectionMayHaveManyRanges()
+    {
+        QByteArray members;
+        for (int i = 0; i < 400; ++i) {
+            const QByteArray number = QByteArray::number(i);
+            members += buildingMember("<bldg:boundedBy><bldg:WallSurface gml:id=\"w" + number +
+                                          "\"/></bldg:boundedBy>",
+                                      "b" + number);
+        }
+        writeFile(opened->path("many.gml"), documentText(members));
+        QVERIFY(opened->open(opened->path("many.gml")));
+        QTreeView* const tree = opened->view("featureTree");
+        QTreeView* const list = opened->view("featureList");
+        tree->expandAll();
+        tree->selectAll();
+        QVERIFY(tree->selectionModel()->selection().size() > 400);
+        QCOMPARE(opened->selected().size(), 801);
+        QCOMPARE(list->selectionModel()->selectedRows().size(), 801);
+        opened->select({"w7"});
+        QCOMPARE(tree->selectionModel()->selectedRows().size(), 1);
+        QCOMPARE(identifiersIn(*list), QStringList{"w7"});
+        // From the list, with every second row.
+        QStringList walls;
+        for (int i = 0; i < 400; ++i) {
+            walls.append("w" + QString::number(i));
+        }
+        opened->select(walls);
+        QCOMPARE(tree->selectionModel()->selectedRows().size(), 400);
+        QCOMPARE(list->selectionModel()->selectedRows().size(), 400);
+        opened->document().selection().clearSelection();
+        QVERIFY(!tree->selectionModel()->hasSelection());
+        QVERIFY(!list->selectionModel()->hasSelection());
+    }
+
+    void aFilterFollowsTheDocument()
+    {
+        opened->search("type:RoofSurface");
+        opened->button("onlyHits")->click();
+        QTreeView* const filtered = opened->view("filteredTree");
+        QTRY_VERIFY(filtered->isVisible());
+        const int hits = opened->window->browser().search().hits().size();
+        tolvik::CityGMLModel& model = opened->document().model();
+        opened->document().model().removeFeature(
+            model.getFeature(opened->window->browser().search().hits().at(0)));
+        QTRY_COMPARE(opened->window->browser().search().hits().size(), hits - 1);
+        QTRY_COMPARE(shownTexts(*filtered, 1).filter("RoofSurface").size(), hits - 1);
+        QCOMPARE(opened->view("featureList")->model()->rowCount(), hits - 1);
+        QVERIFY(opened->open(examples() + "/energy.gml"));
+        QTRY_VERIFY(!opened->window->browser().isSearching());
+        QVERIFY(!shownTexts(*filtered, 1).contains("Bridge"));
     }
 
 private:

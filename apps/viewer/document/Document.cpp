@@ -25,7 +25,7 @@ ModelPlugin& plugin()
 Document::Document(QObject* parent)
     : QObject(parent), list(static_cast<CityGMLModel*>(plugin().createModel(nullptr))),
       features(static_cast<CityGMLTreeModel*>(plugin().createTreeModel(*list, nullptr))),
-      selected(std::make_unique<QItemSelectionModel>(list.get()))
+      selected(std::make_unique<RowSelectionModel>(list.get()))
 {
     features->setCheckColumnEnabled(true);
     list->setSelectionModel(selected.get());

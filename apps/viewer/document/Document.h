@@ -1,10 +1,10 @@
 #pragma once
 
+#include "apps/viewer/selection/RowSelectionModel.h"
 #include "UI/Models/CityGMLModel/CityGMLModel.h"
 #include "UI/Models/CityGMLModel/CityGMLTreeModel.h"
 
 #include <memory>
-#include <QItemSelectionModel>
 #include <QObject>
 #include <QString>
 #include <QUndoStack>
@@ -38,7 +38,7 @@ public:
     CityGMLModel& model() { return *list; }
     CityGMLTreeModel& tree() { return *features; }
     /// The selected features and the current one, as rows of model().
-    QItemSelectionModel& selection() { return *selected; }
+    RowSelectionModel& selection() { return *selected; }
     /// Every edit goes through it: the document counts as modified while the stack is not clean.
     QUndoStack& undoStack() { return edits; }
 
@@ -74,7 +74,7 @@ signals:
 private:
     std::unique_ptr<CityGMLModel> list;
     std::unique_ptr<CityGMLTreeModel> features;
-    std::unique_ptr<QItemSelectionModel> selected;
+    std::unique_ptr<RowSelectionModel> selected;
     QUndoStack edits;
 };
 

@@ -124,7 +124,9 @@ FeatureBrowser::FeatureBrowser(Document& document, QWidget* parent)
     // A large selection is replaced without telling the views what is no longer selected.
     connect(&document.selection(), &QItemSelectionModel::selectionChanged, this,
             &FeatureBrowser::repaintViews);
+    // The rows that are being looked at are no more, or others; the search begins anew by itself.
     connect(branches, &FilteredTreeModel::stale, &filtering, &SlicedWork::stop);
+    connect(&document.model(), &QAbstractItemModel::modelAboutToBeReset, &filtering, &SlicedWork::stop);
     connect(tabs, &QTabWidget::currentChanged, this, &FeatureBrowser::showCurrent);
 }
 
@@ -215,12 +217,15 @@ QTreeView* FeatureBrowser::makeView(const QString& name, QAbstractProxyModel& mo
 }
 
 /// The filtered tree stands on the tree, whose selection stands on that of the list.
-void FeatureBrowser::linkSelection(QTreeView& view, const QAbstractProxyModel& proxy)
+void FeatureBrowser::linkSelection(QTreeView& view, QAbstractProxyModel& proxy)
 {
-    QItemSelectionModel& source = &proxy == static_cast<QAbstractProxyModel*>(branches)
-                                      ? *wholeTree->selectionModel()
-                                      : document.selection();
-    links.push_back(new SelectionLink(*view.selectionModel(), proxy, source, this));
+    auto* const selection = new RowSelectionModel(&proxy, &view);
+    view.setSelectionModel(selection);
+    if (&proxy == &document.tree()) {
+        treeSelection = selection;
+    }
+    RowSelectionModel& source = &proxy == branches ? *treeSelection : document.selection();
+    links.push_back(new SelectionLink(*selection, proxy, source, this));
 }
 
 bool FeatureBrowser::eventFilter(QObject* object, QEvent* event)

@@ -20,6 +20,7 @@ namespace tolvik::viewer {
 class Document;
 class FeatureListModel;
 class FilteredTreeModel;
+class RowSelectionModel;
 class SelectionLink;
 
 /// The features of a document as a tree and as a list, with a search over both.
@@ -63,7 +64,7 @@ private:
     QWidget* makeSearchBar();
     QWidget* makeFilterBar();
     QTreeView* makeView(const QString& name, QAbstractProxyModel& model);
-    void linkSelection(QTreeView& view, const QAbstractProxyModel& proxy);
+    void linkSelection(QTreeView& view, QAbstractProxyModel& proxy);
     void showTypes();
     void showHits();
     void showFilter();
@@ -89,6 +90,7 @@ private:
     QTreeView* wholeTree = nullptr;
     QTreeView* filteredTree = nullptr;
     QTreeView* flatList = nullptr;
+    RowSelectionModel* treeSelection = nullptr;
     std::vector<SelectionLink*> links;
     QTimer typing;
     bool isJumpWanted = false;

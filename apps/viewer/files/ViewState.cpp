@@ -3,7 +3,6 @@
 #include "apps/viewer/document/Document.h"
 #include "apps/viewer/features/FeatureRows.h"
 #include "apps/viewer/features/FeatureTexts.h"
-#include "apps/viewer/selection/SelectionLink.h"
 
 #include <QTreeView>
 
@@ -93,7 +92,7 @@ void ViewState::restore(Document& document, QTreeView& tree) const
     if (currentRow >= 0) {
         document.selection().setCurrentIndex(model.index(currentRow, 0), QItemSelectionModel::NoUpdate);
     }
-    replaceSelection(document.selection(), toSelect);
+    document.selection().replace(toSelect);
 }
 
 } // namespace tolvik::viewer

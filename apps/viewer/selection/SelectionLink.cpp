@@ -1,34 +1,14 @@
 #include "apps/viewer/selection/SelectionLink.h"
 
+#include "apps/viewer/selection/RowSelectionModel.h"
+
 #include <QAbstractProxyModel>
 #include <QScopedValueRollback>
-#include <QSignalBlocker>
 
 namespace tolvik::viewer {
 
-namespace {
-
-// From about so many ranges on a user waits for Qt to compare them.
-constexpr int manyRanges = 200;
-
-} // namespace
-
-void replaceSelection(QItemSelectionModel& selection, const QItemSelection& rows)
-{
-    const auto flags = QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
-    if (rows.isEmpty() || selection.selection().size() + rows.size() < manyRanges) {
-        selection.select(rows, flags);
-        return;
-    }
-    {
-        const QSignalBlocker quiet(&selection);
-        selection.clearSelection();
-    }
-    selection.select(rows, QItemSelectionModel::Select | QItemSelectionModel::Rows);
-}
-
-SelectionLink::SelectionLink(QItemSelectionModel& view, const QAbstractProxyModel& proxy,
-                             QItemSelectionModel& source, QObject* parent)
+SelectionLink::SelectionLink(RowSelectionModel& view, const QAbstractProxyModel& proxy,
+                             RowSelectionModel& source, QObject* parent)
     : QObject(parent), view(view), proxy(proxy), source(source)
 {
     connect(&view, &QItemSelectionModel::selectionChanged, this, &SelectionLink::selectInSource);
@@ -50,7 +30,7 @@ void SelectionLink::selectInSource()
 {
     if (!isPassing) {
         const QScopedValueRollback<bool> passing(isPassing, true);
-        replaceSelection(source, proxy.mapSelectionToSource(view.selection()));
+        source.replace(proxy.mapSelectionToSource(view.selection()));
     }
 }
 
@@ -58,7 +38,7 @@ void SelectionLink::selectInView()
 {
     if (!isPassing) {
         const QScopedValueRollback<bool> passing(isPassing, true);
-        replaceSelection(view, proxy.mapSelectionFromSource(source.selection()));
+        view.replace(proxy.mapSelectionFromSource(source.selection()));
     }
 }
 

@@ -1,18 +1,16 @@
 #pragma once
 
-#include <QItemSelectionModel>
 #include <QObject>
 
 class QAbstractProxyModel;
+class QModelIndex;
 
 namespace tolvik::viewer {
 
+class RowSelectionModel;
+
 /// Keeps the selection of a view over a proxy model and the selection over its source the same, both ways,
 /// with the current index.
-///
-/// Large selections are replaced as a whole: Qt merges the ranges of the former selection with those of the
-/// new one in a time that grows with the product of their numbers. Whoever draws a selection draws all of it
-/// again when the source's selection has changed.
 class SelectionLink : public QObject
 {
     Q_OBJECT
@@ -20,7 +18,7 @@ class SelectionLink : public QObject
 public:
     /// \param view   selection model over \a proxy
     /// \param source selection model over the source of \a proxy
-    SelectionLink(QItemSelectionModel& view, const QAbstractProxyModel& proxy, QItemSelectionModel& source,
+    SelectionLink(RowSelectionModel& view, const QAbstractProxyModel& proxy, RowSelectionModel& source,
                   QObject* parent = nullptr);
     ~SelectionLink() override;
 
@@ -34,13 +32,10 @@ private:
     void moveInSource(const QModelIndex& current);
     void moveInView();
 
-    QItemSelectionModel& view;
+    RowSelectionModel& view;
     const QAbstractProxyModel& proxy;
-    QItemSelectionModel& source;
+    RowSelectionModel& source;
     bool isPassing = false;
 };
-
-/// Selects rows, and nothing else. Ranges of large selections are not merged, see SelectionLink.
-void replaceSelection(QItemSelectionModel& selection, const QItemSelection& rows);
 
 } // namespace tolvik::viewer

@@ -159,7 +159,7 @@ void MainWindow::showReferrers(int row, const QVector<int>& referring)
     for (const int each : referring) {
         selection.append(QItemSelectionRange(shown->model().index(each, 0), shown->model().index(each, 1)));
     }
-    replaceSelection(shown->selection(), selection);
+    shown->selection().replace(selection);
     statusBar()->showMessage(tr("%Ln feature(s) refer to %1.", nullptr, referring.size()).arg(describe(row)),
                              messageMilliseconds);
 }
@@ -195,7 +195,9 @@ QWidget* MainWindow::makeView()
     view->setUniformRowHeights(true);
     view->setSelectionMode(QAbstractItemView::ExtendedSelection);
     view->setModel(rows);
-    new SelectionLink(*view->selectionModel(), *rows, shown->selection(), view);
+    auto* const selection = new RowSelectionModel(rows, view);
+    view->setSelectionModel(selection);
+    new SelectionLink(*selection, *rows, shown->selection(), view);
     return view;
 }
 
