@@ -1,0 +1,27 @@
+#!/usr/bin/env bash
+# Makes the pictures of the desktop program in docs/pictures/ anew, without a display. Needs the build.
+#
+#   docs/screenshots.sh [FILE [FOLDER]]    FILE is shown in place of an example, FOLDER takes the pictures
+set -euo pipefail
+root=$(cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.." && pwd)
+document=${1:-$root/examples/district.gml}
+folder=${2:-$root/docs/pictures}
+mkdir -p "$folder"
+
+# Settings of the user would show in the pictures.
+settings=$(mktemp -d)
+trap 'rm -r "$settings"' EXIT
+
+# A picture by that name, in a locale, with further options of the program.
+picture() {
+    local name=$1 locale=$2
+    shift 2
+    env XDG_CONFIG_HOME="$settings" XDG_DATA_HOME="$settings" LC_ALL="$locale" LANGUAGE= QT_QPA_PLATFORM=offscreen \
+        QT_FONT_DPI="${FONT_DPI:-80}" "$root/build/bin/tolvik-viewer" "$@" --picture "$folder/$name.png" "$document"
+}
+
+picture light en_US.UTF-8 --colours light
+picture dark en_US.UTF-8 --colours dark
+picture french fr_FR.UTF-8 --colours light
+picture german de_DE.UTF-8 --colours light
+QT_SCALE_FACTOR=2 picture double en_US.UTF-8 --colours light
