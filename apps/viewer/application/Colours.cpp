@@ -29,12 +29,12 @@ QString nameOf(Colours colours)
 
 QPalette darkPalette()
 {
-    const QColor window(45, 45, 48), base(30, 30, 32), text(225, 225, 225), weak(135, 135, 135);
+    const QColor window(62, 62, 66), base(28, 28, 30), text(225, 225, 225), weak(150, 150, 150);
     QPalette palette;
     palette.setColor(QPalette::Window, window);
     palette.setColor(QPalette::WindowText, text);
     palette.setColor(QPalette::Base, base);
-    palette.setColor(QPalette::AlternateBase, window);
+    palette.setColor(QPalette::AlternateBase, QColor(38, 38, 41));
     palette.setColor(QPalette::ToolTipBase, QColor(70, 66, 45));
     palette.setColor(QPalette::ToolTipText, text);
     palette.setColor(QPalette::PlaceholderText, weak);

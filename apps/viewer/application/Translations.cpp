@@ -13,6 +13,20 @@ static void initializeResources()
 
 namespace tolvik::viewer {
 
+namespace {
+
+// The library has one function for two classes, of which lupdate knows neither.
+[[maybe_unused]] constexpr const char* textsOfTwoModels[] = {
+    QT_TRANSLATE_NOOP("tolvik::CityGMLModel", "Name"),
+    QT_TRANSLATE_NOOP("tolvik::CityGMLModel", "Type"),
+    QT_TRANSLATE_NOOP("tolvik::CityGMLModel", "unknown"),
+    QT_TRANSLATE_NOOP("tolvik::CityGMLProxyModel", "Name"),
+    QT_TRANSLATE_NOOP("tolvik::CityGMLProxyModel", "Type"),
+    QT_TRANSLATE_NOOP("tolvik::CityGMLProxyModel", "unknown"),
+};
+
+} // namespace
+
 void installTranslations(const QLocale& locale)
 {
     initializeResources();

@@ -45,6 +45,18 @@
         <source>Building Model</source>
         <translation>Modell wird aufgebaut</translation>
     </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>unbekannt</translation>
+    </message>
 </context>
 <context>
     <name>tolvik::CityGMLModelPlugin</name>
@@ -78,6 +90,18 @@
     <message>
         <source>Select</source>
         <translation>Auswählen</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>unbekannt</translation>
     </message>
 </context>
 <context>
@@ -143,6 +167,13 @@
     <message>
         <source>%1 cannot be loaded: %2.</source>
         <translation>%1 kann nicht geladen werden: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::ScriptDocument</name>
+    <message>
+        <source>%1 cannot be opened</source>
+        <translation>%1 kann nicht geöffnet werden</translation>
     </message>
 </context>
 <context>

@@ -45,6 +45,18 @@
         <source>Building Model</source>
         <translation>Construction du modèle</translation>
     </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>inconnu</translation>
+    </message>
 </context>
 <context>
     <name>tolvik::CityGMLModelPlugin</name>
@@ -78,6 +90,18 @@
     <message>
         <source>Select</source>
         <translation>Sélectionner</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>inconnu</translation>
     </message>
 </context>
 <context>
@@ -143,6 +167,13 @@
     <message>
         <source>%1 cannot be loaded: %2.</source>
         <translation>Impossible de charger %1 : %2.</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::ScriptDocument</name>
+    <message>
+        <source>%1 cannot be opened</source>
+        <translation>impossible d&apos;ouvrir %1</translation>
     </message>
 </context>
 <context>
