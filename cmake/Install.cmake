@@ -4,6 +4,7 @@
 #   tolvik_install_headers(INCLUDE_FOLDER BASE HEADER...)     headers, at their paths below BASE
 #   tolvik_install_plugin(TARGET)                             a plug-in for models
 #   tolvik_install_program(TARGET MAN-PAGE...)                a program
+#   tolvik_install_module(TARGET)                             what a program loads when it needs it
 #
 # The packages that an installation is split into are the install components `runtime`, `plugin`, `programs`,
 # `development` and `documentation`. An installation can be moved as a whole: what finds something else in it does so
@@ -65,6 +66,13 @@ function(tolvik_install_program target)
     if(TOLVIK_INSTALL)
         install(TARGETS ${target} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT programs)
         install(FILES ${ARGN} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT programs)
+    endif()
+endfunction()
+
+function(tolvik_install_module target)
+    tolvik_set_library_path(${target} ${CMAKE_INSTALL_LIBDIR}/tolvik)
+    if(TOLVIK_INSTALL)
+        install(TARGETS ${target} LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/tolvik COMPONENT programs)
     endif()
 endfunction()
 

@@ -8,6 +8,7 @@
 #include "RowsCommand.h"
 #include "SaveDocument.h"
 #include "SetCommand.h"
+#include "TableModule.h"
 #include "TerminalProgress.h"
 #include "TreeCommand.h"
 #include "UI/Models/CityGMLModel/CityGMLModel.h"
@@ -63,6 +64,16 @@ FILE is a CityGML 2.0 document; `-` reads one from standard input.
                          draw the features; --lod takes one level of detail, 0 to 4, in place of the
                          highest of each; --colour-by takes a PATH as `set` does, and a colour for
                          each value; no display is needed
+  table FILE... --out TARGET [--format FORMAT] [--type TYPE,...] [--columns PATH,...]
+        [--columns-from FILE] [--all] [--geometry] [--3d] [--append] [--recursive]
+                         write the attributes as tables: a table a type of features, a row a
+                         feature. TARGET is a file *.gpkg or *.xlsx, a database PG:..., a folder for
+                         a file a table, or with one --type a file *.csv, *.geojson, *.geojsonl or
+                         *.fgb. A column is a PATH as `set` takes it, or gen:NAME for a generic
+                         attribute; --columns-from keeps the columns in a file, and uses those of
+                         one that is there. Maps get a geometry, a CSV with --geometry; --3d takes
+                         the surfaces with their heights. --all adds "Other content"; --append adds
+                         rows to tables of a database
   --help                 show this text
   --version              show the version
 
@@ -249,6 +260,47 @@ int picture(const QStringList& given)
     return runPicture(model, options, std::cerr);
 }
 
+TableDocuments tableDocuments(const DocumentFiles& files)
+{
+    return {files.paths(),
+            [](CityGMLModel& model, const QString& file) { return loadDocument(model, file, std::cerr); },
+            [](CityGMLModel& model, const QString& output) { return saveDocument(model, output, std::cerr); },
+            &std::cerr};
+}
+
+/// The entries of an option that may be given several times, or once with commas.
+QStringList listOf(const QString& value)
+{
+    return value.split(',', Qt::SkipEmptyParts);
+}
+
+int table(const QStringList& given)
+{
+    const Arguments arguments(given, {"FILE..."},
+                              {"out=", "format=", "type=", "columns=", "columns-from=", "all", "geometry",
+                               "3d", "append", "recursive"});
+    if (!arguments.has("out")) {
+        throw UsageError("--out is missing");
+    }
+    TableOptions options;
+    options.types = listOf(arguments.value("type"));
+    options.columns = listOf(arguments.value("columns"));
+    options.columnsFrom = arguments.value("columns-from");
+    options.out = arguments.value("out");
+    options.format = arguments.value("format");
+    options.all = arguments.has("all");
+    options.geometry = arguments.has("geometry");
+    options.hasHeights = arguments.has("3d");
+    options.append = arguments.has("append");
+    const DocumentFiles files(arguments.all(), arguments.has("recursive"), std::cerr);
+    try {
+        const int code = TableModule::load().writeTables(options, tableDocuments(files));
+        return files.areComplete() ? code : failure;
+    } catch (const TableUsageError& error) {
+        throw UsageError(error.what());
+    }
+}
+
 struct Command
 {
     const char* name;
@@ -256,8 +308,8 @@ struct Command
 };
 
 const Command commands[] = {
-    {"rows", rows}, {"tree", tree},   {"properties", properties}, {"save", save},
-    {"set", set},   {"check", check}, {"repair", repair},         {"picture", picture},
+    {"rows", rows},   {"tree", tree},     {"properties", properties}, {"save", save},   {"set", set},
+    {"check", check}, {"repair", repair}, {"picture", picture},       {"table", table},
 };
 
 int run(const QStringList& arguments)

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "TableModule.h"
+
+namespace tolvik::inspect {
+
+/// Writes the features of documents as tables, each document at its turn.
+/// \return the program's exit code
+/// \throws TableUsageError
+int runTable(const TableOptions& options, const TableDocuments& documents);
+
+} // namespace tolvik::inspect

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <iosfwd>
+#include <stdexcept>
+
+namespace tolvik {
+class CityGMLModel;
+}
+
+namespace tolvik::inspect {
+
+/// The documents of a command and how they are loaded.
+struct TableDocuments
+{
+    QStringList files;
+    /// Loads a document, and tells the user where that fails.
+    std::function<bool(CityGMLModel& model, const QString& file)> load;
+    /// Saves a document under a name, and tells the user where that fails.
+    std::function<bool(CityGMLModel& model, const QString& output)> save;
+    std::ostream* err = nullptr; ///< takes what goes wrong, a line each
+};
+
+/// What `tolvik-inspect table` does, in the words of the user.
+struct TableOptions
+{
+    QStringList types;
+    QStringList columns;
+    QString columnsFrom;
+    QString out;
+    QString format; ///< empty where the target tells it
+    bool all = false;
+    bool hasHeights = false;
+    bool geometry = false;
+    bool append = false;
+};
+
+/// The options contradict each other or the target.
+struct TableUsageError : std::runtime_error
+{
+    using std::runtime_error::runtime_error;
+};
+
+/// The commands that need GDAL. They are in a module of their own that is loaded when one of them is called:
+/// loading GDAL takes longer than most other commands do.
+class TableModule
+{
+public:
+    virtual ~TableModule() = default;
+
+    /// Writes the features of documents as tables.
+    /// \return the program's exit code: 0, or 1 where something is missing from the tables
+    /// \throws TableUsageError before anything is done
+    virtual int writeTables(const TableOptions& options, const TableDocuments& documents) = 0;
+
+    /// The module of the program, loaded when first asked for.
+    /// \throws std::runtime_error where it is not there
+    static TableModule& load();
+
+protected:
+    TableModule() = default;
+    TableModule(const TableModule&) = default;
+    TableModule& operator=(const TableModule&) = default;
+};
+
+} // namespace tolvik::inspect

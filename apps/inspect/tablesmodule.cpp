@@ -1,0 +1,25 @@
+#include "TableCommand.h"
+#include "TableModule.h"
+
+namespace {
+
+class Commands : public tolvik::inspect::TableModule
+{
+public:
+    int writeTables(const tolvik::inspect::TableOptions& options,
+                    const tolvik::inspect::TableDocuments& documents) override
+    {
+        return tolvik::inspect::runTable(options, documents);
+    }
+};
+
+} // namespace
+
+extern "C" __attribute__((visibility("default"))) tolvik::inspect::TableModule* tolvikTableModule();
+
+/// The only entry of the module.
+tolvik::inspect::TableModule* tolvikTableModule()
+{
+    static Commands commands;
+    return &commands;
+}
