@@ -28,6 +28,11 @@ OpenedWindow::OpenedWindow(const QString& document)
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());
     window = std::make_unique<MainWindow>();
     window->show();
+    // On a display without a window manager keys go nowhere else.
+    window->activateWindow();
+    if (!QTest::qWaitForWindowActive(window.get())) {
+        qWarning("the window does not become active");
+    }
     if (!document.isEmpty()) {
         QFile::copy(document, file());
         QFile::setPermissions(file(), QFile::ReadOwner | QFile::WriteOwner);

@@ -123,7 +123,7 @@ void FileCommands::take()
     if (QFileInfo(document.fileName()).isFile()) {
         recentFiles::add(document.fileName());
     }
-    emit told(LogModel::Information, tr("%1 is open.").arg(document.fileName()));
+    emit told(LogModel::Information, tr("%1 is open.").arg(nameOf(document.fileName())));
     emit opened();
 }
 
@@ -143,7 +143,7 @@ void FileCommands::offerReload()
                           .arg(nameOf(document.fileName()))
                     : tr("Another program has changed %1.").arg(nameOf(document.fileName())));
     notice.offer(QStringLiteral("reloadChanged"), tr("&Reload"), [this] { reload(); });
-    emit told(LogModel::Warning, tr("Another program has changed %1.").arg(document.fileName()));
+    emit told(LogModel::Warning, tr("Another program has changed %1.").arg(nameOf(document.fileName())));
 }
 
 bool FileCommands::letGo()
@@ -211,7 +211,7 @@ bool FileCommands::saveTo(const QString& path)
     watch.watch(path);
     notice.hide();
     recentFiles::add(path);
-    emit told(LogModel::Information, tr("%1 is saved.").arg(path));
+    emit told(LogModel::Information, tr("%1 is saved.").arg(nameOf(path)));
     return true;
 }
 

@@ -1,0 +1,106 @@
+#include "apps/viewer/document/Document.h"
+#include "apps/viewer/log/LogAppender.h"
+#include "framework/EditRangeDialog.h"
+#include "support/Documents.h"
+#include "support/Files.h"
+#include "support/TestClass.h"
+#include "support/TestPaths.h"
+#include "viewer/OpenedWindow.h"
+
+#include <log4cplus/logger.h>
+#include <log4cplus/loggingmacros.h>
+#include <QClipboard>
+#include <QComboBox>
+#include <QDockWidget>
+#include <QtTest>
+
+using namespace testsupport;
+using namespace tolvik::viewer;
+
+/// The findings, the log, and what else the window tells and lets set.
+class BottomPanelsTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { LogAppender::install(); }
+    void init()
+    {
+        opened = std::make_unique<OpenedWindow>(QString());
+        const QByteArray fault = "<bldg:measuredHeight uom=\"m\">tall</bldg:measuredHeight>";
+        writeFile(opened->path("faults.gml"),
+                  documentText(buildingMember("", "sound") + buildingMember(fault, "faulty")));
+        QVERIFY(opened->open(opened->path("faults.gml")));
+    }
+    void cleanup() { opened.reset(); }
+
+    void aFindingLeadsToItsFeature()
+    {
+        QTreeView* const findings = opened->view("findings");
+        QCOMPARE(findings->model()->rowCount(), 1);
+        const QModelIndex reason = findings->model()->index(0, 1);
+        QVERIFY2(reason.data().toString().contains("tall"), qPrintable(reason.data().toString()));
+        QCOMPARE(opened->window->findChild<QDockWidget*>("findingsPanelDock")->windowTitle(),
+                 QString("Findings (1)"));
+        QTRY_VERIFY(findings->isVisible());
+        QTest::mouseClick(findings->viewport(), Qt::LeftButton, Qt::NoModifier,
+                          findings->visualRect(reason).center());
+        QCOMPARE(opened->selected(), QStringList{"faulty"});
+    }
+
+    void anotherDocumentHasOtherFindings()
+    {
+        writeFile(opened->path("sound.gml"), documentText(buildingMember("", "sound")));
+        QVERIFY(opened->open(opened->path("sound.gml")));
+        QCOMPARE(opened->view("findings")->model()->rowCount(), 0);
+        QCOMPARE(opened->window->findChild<QDockWidget*>("findingsPanelDock")->windowTitle(),
+                 QString("Findings"));
+    }
+
+    void theLogIsFilteredAndCopied()
+    {
+        const log4cplus::Logger logger = log4cplus::Logger::getInstance("viewertest");
+        LOG4CPLUS_ERROR(logger, "something is broken");
+        LOG4CPLUS_WARN(logger, "something is odd");
+        QTreeView* const log = opened->view("log");
+        const QStringList all = texts(*log);
+        QVERIFY(all.contains("something is broken"));
+        QVERIFY(all.contains("something is odd"));
+        auto* const levels = opened->window->findChild<QComboBox*>("logLevel");
+        levels->setCurrentIndex(2);
+        QCOMPARE(texts(*log), QStringList{"something is broken"});
+        log->setFocus();
+        log->selectAll();
+        QTest::keyClick(log, Qt::Key_C, Qt::ControlModifier);
+        const QStringList fields = QGuiApplication::clipboard()->text().split('\t');
+        QCOMPARE(fields.size(), 3);
+        QCOMPARE(fields.mid(1), QStringList({"Error", "something is broken"}));
+    }
+
+    void theSettingsAreReached()
+    {
+        bool wasShown = false;
+        QTimer::singleShot(0, this, [&] {
+            auto* const dialog = qobject_cast<tolvik::EditRangeDialog*>(QApplication::activeModalWidget());
+            wasShown = dialog != nullptr;
+            QApplication::activeModalWidget()->close();
+        });
+        opened->action("settings")->trigger();
+        QVERIFY(wasShown);
+    }
+
+private:
+    static QStringList texts(const QTreeView& log)
+    {
+        QStringList messages;
+        for (int row = 0; row < log.model()->rowCount(); ++row) {
+            messages.append(log.model()->index(row, 2).data().toString());
+        }
+        return messages;
+    }
+
+    std::unique_ptr<OpenedWindow> opened;
+};
+
+TEST_CLASS(BottomPanelsTest, Widgets)
+#include "bottompanelstest.moc"
