@@ -143,6 +143,20 @@ void expanded(LargeWindow& window)
     window.window.browser().expandAll();
 }
 
+/// A further window, without a document.
+void windowOpen(benchmark::State& state)
+{
+    measure(
+        state, [](LargeWindow&) {},
+        [](LargeWindow& window) {
+            std::unique_ptr<MainWindow> further;
+            return window.operate([&] {
+                further = std::make_unique<MainWindow>();
+                further->show();
+            });
+        });
+}
+
 void windowExpandAll(benchmark::State& state)
 {
     measure(
@@ -267,6 +281,7 @@ void veryLarge(benchmark::internal::Benchmark* benchmark)
 
 } // namespace
 
+BENCHMARK(windowOpen)->Apply(large);
 BENCHMARK(windowExpandAll)->Apply(large);
 BENCHMARK(windowTypeInSearch)->Apply(large);
 BENCHMARK(windowFilter)->Apply(large);

@@ -8,11 +8,13 @@
 #include "support/TestPaths.h"
 #include "viewer/OpenedWindow.h"
 
+#include <csignal>
 #include <QDropEvent>
 #include <QLabel>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QtTest>
+#include <sys/resource.h>
 #include <unistd.h>
 
 using namespace testsupport;
@@ -147,6 +149,31 @@ private slots:
         QVERIFY2(text->text().contains("could not be saved"), qPrintable(text->text()));
     }
 
+    void aFullDiskLeavesTheFile()
+    {
+        const QByteArray before = contentOf(opened->file());
+        rename("pier", "Northern pier");
+        {
+            // No file may become longer than this, as if there were no more room.
+            struct ::rlimit former = {};
+            ::getrlimit(RLIMIT_FSIZE, &former);
+            const struct ::rlimit small = {1000, former.rlim_max};
+            std::signal(SIGXFSZ, SIG_IGN);
+            ::setrlimit(RLIMIT_FSIZE, &small);
+            opened->action("save")->trigger();
+            ::setrlimit(RLIMIT_FSIZE, &former);
+        }
+        QVERIFY(opened->document().isModified());
+        auto* const text = opened->window->findChild<QLabel*>("noticeText");
+        QVERIFY(text->isVisible());
+        QVERIFY2(text->text().contains("could not be saved"), qPrintable(text->text()));
+        QCOMPARE(contentOf(opened->file()), before);
+        QCOMPARE(QDir(opened->path(QString())).entryList({".document*"}, QDir::Files | QDir::Hidden),
+                 QStringList());
+        opened->action("save")->trigger();
+        QVERIFY(!opened->document().isModified());
+    }
+
     void unsavedEditsAreAskedFor()
     {
         rename("pier", "Northern pier");
@@ -196,6 +223,28 @@ private slots:
         OpenedWindow::answer(QMessageBox::Save);
         opened->action("save")->trigger();
         QVERIFY(!opened->document().isModified());
+    }
+
+    void ofSeveralDroppedDocumentsEachHasAWindow()
+    {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(examples() + "/energy.gml"),
+                      QUrl::fromLocalFile(examples() + "/utility.gml")});
+        QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(opened->window.get(), &enter);
+        QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(opened->window.get(), &drop);
+        MainWindow* other = nullptr;
+        for (QWidget* const each : QApplication::topLevelWidgets()) {
+            auto* const window = qobject_cast<MainWindow*>(each);
+            other = window != nullptr && window != opened->window.get() ? window : other;
+        }
+        QVERIFY(other != nullptr);
+        QTRY_VERIFY(opened->document().fileName().endsWith("energy.gml"));
+        QTRY_VERIFY(other->document().fileName().endsWith("utility.gml"));
+        QPointer<MainWindow> closed(other);
+        QVERIFY(other->close());
+        QTRY_VERIFY(closed.isNull());
     }
 
     void aDroppedDocumentIsOpened()

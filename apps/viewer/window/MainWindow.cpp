@@ -65,7 +65,13 @@ MainWindow::MainWindow(QWidget* parent)
     updateTitle();
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow()
+{
+    // They show the document, which is a child of this like them, and an older one.
+    fileCommands.reset();
+    qDeleteAll(panels);
+    delete takeCentralWidget();
+}
 
 void MainWindow::open(const QString& path)
 {
