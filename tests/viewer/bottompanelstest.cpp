@@ -12,6 +12,7 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QDockWidget>
+#include <QDoubleSpinBox>
 #include <QtTest>
 
 using namespace testsupport;
@@ -77,16 +78,36 @@ private slots:
         QCOMPARE(fields.mid(1), QStringList({"Error", "something is broken"}));
     }
 
-    void theSettingsAreReached()
+    void theSettingsAreReachedAndRemembered()
     {
-        bool wasShown = false;
-        QTimer::singleShot(0, this, [&] {
-            auto* const dialog = qobject_cast<tolvik::EditRangeDialog*>(QApplication::activeModalWidget());
-            wasShown = dialog != nullptr;
-            QApplication::activeModalWidget()->close();
+        double first = 0;
+        const auto inDialog =
+            [&](const std::function<void(tolvik::EditRangeDialog&, QDoubleSpinBox&)>& work) {
+                bool wasShown = false;
+                QTimer::singleShot(0, this, [&] {
+                    auto* const dialog =
+                        qobject_cast<tolvik::EditRangeDialog*>(QApplication::activeModalWidget());
+                    QVERIFY(dialog != nullptr);
+                    wasShown = true;
+                    work(*dialog, *dialog->findChild<QDoubleSpinBox*>());
+                });
+                opened->action("settings")->trigger();
+                QVERIFY(wasShown);
+            };
+        inDialog([&](tolvik::EditRangeDialog& dialog, QDoubleSpinBox& line) {
+            first = line.value();
+            line.setValue(first - 5);
+            dialog.accept();
         });
-        opened->action("settings")->trigger();
-        QVERIFY(wasShown);
+        inDialog([&](tolvik::EditRangeDialog& dialog, QDoubleSpinBox& line) {
+            QCOMPARE(line.value(), first - 5);
+            line.setValue(1);
+            dialog.reject();
+        });
+        inDialog([&](tolvik::EditRangeDialog& dialog, QDoubleSpinBox& line) {
+            QCOMPARE(line.value(), first - 5);
+            dialog.reject();
+        });
     }
 
 private:

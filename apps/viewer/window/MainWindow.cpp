@@ -20,7 +20,6 @@
 #include "apps/viewer/window/NoticeBar.h"
 #include "apps/viewer/window/StatusProgress.h"
 #include "framework/EditRangeDialog.h"
-#include "viewsettings/CityGMLViewSettings.h"
 
 #include <QActionGroup>
 #include <QApplication>
@@ -424,12 +423,21 @@ void MainWindow::showAbout()
 
 void MainWindow::showSettings()
 {
-    const CityGMLViewSettings defaults;
-    const std::unique_ptr<EditRangeDialog> dialog(
-        shown->model().getEditRangeDialog({defaults.lod0Range, defaults.lod1Range, defaults.lod2Range,
-                                           defaults.lod3Range, defaults.lod4Range}));
+    const QString key = QStringLiteral("viewRanges");
+    QVector<double> ranges;
+    for (const QVariant& each : QSettings().value(key).toList()) {
+        ranges.append(each.toDouble());
+    }
+    // The dialog fills up what is missing.
+    const std::unique_ptr<EditRangeDialog> dialog(shown->model().getEditRangeDialog(ranges));
     dialog->setParent(this, dialog->windowFlags());
-    dialog->exec();
+    if (dialog->exec() == QDialog::Accepted) {
+        QVariantList accepted;
+        for (const double each : dialog->getRanges()) {
+            accepted.append(each);
+        }
+        QSettings().setValue(key, accepted);
+    }
 }
 
 void MainWindow::restoreLayout()
