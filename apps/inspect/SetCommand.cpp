@@ -1,5 +1,6 @@
 #include "SetCommand.h"
 
+#include "apps/common/EditedValues.h"
 #include "apps/common/PropertyPath.h"
 #include "framework/CoreProperty.h"
 #include "gml/AbstractFeatureType.hxx"
@@ -12,9 +13,7 @@
 #include <QDateTime>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QRegularExpression>
 #include <QStringList>
-#include <QUrl>
 #include <stdexcept>
 #include <typeinfo>
 
@@ -94,42 +93,11 @@ QVariant valueFromText(const QString& text, const QVariant& example)
 /// \throws EditError if the value is or has a text that no XML document can hold
 void verifyCharacters(const QString& property, const QVariant& value)
 {
-    static const QRegularExpression notInXml(
-        QStringLiteral("[^\\t\\n\\r\\x{20}-\\x{D7FF}\\x{E000}-\\x{FFFD}\\x{10000}-\\x{10FFFF}]"));
-    const QRegularExpressionMatch match = notInXml.match(value.toStringList().join(' '));
-    if (match.hasMatch()) {
-        const QString code = QString::number(match.captured().at(0).unicode(), 16).toUpper();
+    if (const auto character = apps::characterOutsideXml(value)) {
+        const QString code = QString::number(*character, 16).toUpper();
         throw EditError(QStringLiteral("%1 cannot hold the character U+%2, as XML has no such character")
                             .arg(property, code.rightJustified(4, '0')));
     }
-}
-
-/// Whether each entry of a list can stand in a text that holds them all, with blanks between them.
-bool areWords(const QVariantList& entries)
-{
-    return std::all_of(entries.begin(), entries.end(), [](const QVariant& entry) {
-        const QString text = entry.toString();
-        return !text.isEmpty() && std::none_of(text.begin(), text.end(), [](QChar c) { return c.isSpace(); });
-    });
-}
-
-/// Whether the document now says what was asked for.
-bool isSame(const QVariant& now, const QVariant& asked)
-{
-    if (now.userType() == QMetaType::QVariantList) {
-        const QVariantList list = now.toList();
-        const QVariantList askedList = asked.toList();
-        return list.size() == askedList.size() &&
-               std::equal(list.begin(), list.end(), askedList.begin(), isSame);
-    }
-    if (now.userType() == QMetaType::QUrl) {
-        return now.toUrl() == QUrl(asked.toString(), QUrl::TolerantMode);
-    }
-    if (now.userType() == QMetaType::Double) {
-        bool isNumber = false;
-        return now.toDouble() == asked.toDouble(&isNumber) && isNumber;
-    }
-    return now.isValid() && now.toString() == asked.toString();
 }
 
 /// Writes the value into the document.
@@ -149,12 +117,12 @@ void edit(CoreProperty& property, const QString& text)
     // would have no property.
     const bool isOneText = property.unit() != nullptr || current.toList().isEmpty();
     if (!value.isValid() || (!literals.isEmpty() && !literals.contains(value)) ||
-        (value.userType() == QMetaType::QVariantList && isOneText && !areWords(value.toList()))) {
+        (value.userType() == QMetaType::QVariantList && isOneText && !apps::areWords(value.toList()))) {
         throw EditError(QStringLiteral("%1 cannot be \"%2\"").arg(property.name(), text));
     }
     verifyCharacters(property.name(), value);
     property.setValue(value);
-    if (!isSame(property.value(), value)) {
+    if (!apps::isSame(property.value(), value)) {
         throw EditError(QStringLiteral("%1 cannot be set to \"%2\"").arg(property.name(), text));
     }
 }
