@@ -62,10 +62,26 @@ public:
     /// the schema. An empty one is among them too.
     static std::vector<Member> textLists(xml_schema::type& object);
 
+    /// The member that an object has under a name(), the nearest to its class where bases have such a one
+    /// too.
+    static std::optional<Member> named(xml_schema::type& object, const std::string& name);
+
     /// Name of the element or attribute in its schema.
     std::string name() const;
     /// Whether the member may stand any number of times; an entry of a list does not.
     bool isList() const;
+    /// Whether the schema demands the element or attribute.
+    bool isRequired() const;
+    /// The object that has the member.
+    xml_schema::type& object() const { return *owner; }
+    /// The list that an entry stands in; of any other member itself.
+    Member list() const;
+    /// The place of an entry in its list; 0 of any other member.
+    std::size_t position() const { return entry.value_or(0); }
+    /// An entry of a list.
+    ///
+    /// \param at below size()
+    Member entryAt(std::size_t at) const;
     /// Number of the values: of a member that is no list, and of an entry, at most one.
     std::size_t size() const;
 
@@ -85,18 +101,28 @@ public:
     /// \return false, with nothing changed, for the state of another member
     bool restore(const MemberState& state);
 
+    /// The text of a single value, in the words of the schema: a list of numbers has blanks between them, and
+    /// a date its time zone. Nothing for lists, for what has elements in it, and where there is no value.
+    std::optional<std::string> text() const;
+    /// Gives a member a value. What stands with a former one stays, such as the code space of a name and the
+    /// unit of a measure.
+    ///
+    /// \return false, with nothing changed, for a text that is no value of the type, for lists, and where
+    /// nothing is that could not do with a text alone, such as a measure without its unit
+    bool setText(const std::string& text);
+
     /// Adds an entry with a text behind the others of a list.
     ///
     /// \return false, with nothing changed, for a text that is no value of the list's type, and where the
     /// member is no list of texts
     bool add(const std::string& text);
-    /// Takes an entry out of a list.
+    /// Takes an entry out of a list, or the object out of a member that the schema does not require.
     ///
     /// \param index below size()
-    /// \return the entry for put(); empty where the member is no list of objects
+    /// \return the entry for put(); empty where nothing can be taken
     MemberState take(std::size_t index);
-    /// Puts an entry into a list. The first call after take() puts back the very object that was taken, so
-    /// that whoever knew it knows it again; a later one makes a copy.
+    /// Puts an entry into a list, or an object back into its member. The first call after take() puts back
+    /// the very object that was taken, so that whoever knew it knows it again; a later one makes a copy.
     ///
     /// \param index at most size()
     /// \param entry from take(), or from capture() of one entry; also of the same list of another object
@@ -110,6 +136,7 @@ private:
     Member(xml_schema::type& owner, const void* address, Address);
     Member(xml_schema::type& owner, std::uint16_t index, std::optional<std::size_t> entry);
     bool restoreEntry(const MemberState& state);
+    bool canLose() const;
 
     xml_schema::type* owner;
     // Of the member among those of the owner's type.

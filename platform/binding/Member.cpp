@@ -208,6 +208,36 @@ bool isDefault(const xml_schema::type& owner, const FlatMember& member)
     return text == member.declaration->defaultText;
 }
 
+/// A new object of a type.
+///
+/// \throws ValueError for a text that is no value of the type, and for a type that needs more than a text
+std::unique_ptr<xml_schema::type> objectOfText(const TypeIndex& type, const std::string& text)
+{
+    const auto isRequired = [](const FlatMember& member) { return member.declaration->isRequired; };
+    if (!type.hasText() || type.record()->isAbstract ||
+        std::any_of(type.members().begin(), type.members().end(), isRequired)) {
+        throw binding::ValueError{"a text alone is no value of the type"};
+    }
+    std::unique_ptr<xml_schema::type> value = binding::newObject(*type.record());
+    type.record()->text->parse(*value, text, SamePrefixes());
+    return value;
+}
+
+/// Gives an object another text.
+///
+/// \throws ValueError with nothing changed
+void setTextOf(xml_schema::type& value, const std::string& text)
+{
+    const TypeIndex& type = SchemaIndex::instance().typeOf(value);
+    if (!type.hasText()) {
+        throw binding::ValueError{"the type has no text"};
+    }
+    // A text that is no value would leave half of itself in the object.
+    type.record()->text->parse(*binding::newObject(*type.record()), text, SamePrefixes());
+    type.record()->text->parse(value, text, SamePrefixes());
+    KeptContent::setGiven(value);
+}
+
 bool isListOfTexts(const FlatMember& member)
 {
     return !member.declaration->isAttribute && !opsOf(member).single && member.type != nullptr &&
@@ -268,6 +298,16 @@ std::vector<Member> Member::textLists(xml_schema::type& object)
     return lists;
 }
 
+std::optional<Member> Member::named(xml_schema::type& object, const std::string& name)
+{
+    const auto& members = SchemaIndex::instance().typeOf(object).members();
+    const auto found = std::find_if(members.rbegin(), members.rend(), [&name](const FlatMember& member) {
+        return member.declaration->name == name;
+    });
+    return found != members.rend() ? std::optional<Member>(Member(object, found->index, std::nullopt))
+                                   : std::nullopt;
+}
+
 std::string Member::name() const
 {
     return memberOf(*owner, index).declaration->name;
@@ -276,6 +316,21 @@ std::string Member::name() const
 bool Member::isList() const
 {
     return !entry && !opsOf(memberOf(*owner, index)).single;
+}
+
+bool Member::isRequired() const
+{
+    return memberOf(*owner, index).declaration->isRequired;
+}
+
+Member Member::list() const
+{
+    return Member(*owner, index, std::nullopt);
+}
+
+Member Member::entryAt(std::size_t at) const
+{
+    return Member(*owner, index, at);
 }
 
 std::size_t Member::size() const
@@ -381,6 +436,47 @@ bool Member::restoreEntry(const MemberState& state)
     return Member(*owner, index, std::nullopt).put(*entry, state);
 }
 
+std::optional<std::string> Member::text() const
+{
+    const FlatMember& member = memberOf(*owner, index);
+    if (isList() || (entry ? size() == 0 : binding::writtenCount(*owner, member) == 0)) {
+        return std::nullopt;
+    }
+    std::string text;
+    if (member.type == nullptr) {
+        opsOf(member).format(*owner, position(), text);
+        return text;
+    }
+    const xml_schema::type& value = opsOf(member).at(*owner, position());
+    const TypeIndex& type = SchemaIndex::instance().typeOf(value);
+    if (!type.hasText() || isSetAside(value)) {
+        return std::nullopt;
+    }
+    type.record()->text->format(value, text, SamePrefixes());
+    return text;
+}
+
+bool Member::setText(const std::string& text)
+{
+    const FlatMember& member = memberOf(*owner, index);
+    // A number in a list cannot be set alone.
+    if (isList() || (entry && (member.type == nullptr || size() == 0))) {
+        return false;
+    }
+    try {
+        if (member.type == nullptr) {
+            opsOf(member).addText(*owner, text);
+        } else if (size() != 0) {
+            setTextOf(objectAt(*owner, member, position()), text);
+        } else {
+            opsOf(member).add(*owner, objectOfText(*member.type, text).release());
+        }
+        return true;
+    } catch (const binding::ValueError&) {
+        return false;
+    }
+}
+
 bool Member::add(const std::string& text)
 {
     const FlatMember& member = memberOf(*owner, index);
@@ -397,10 +493,17 @@ bool Member::add(const std::string& text)
     return true;
 }
 
+/// Whether objects can be taken out and put in.
+bool Member::canLose() const
+{
+    const FlatMember& member = memberOf(*owner, index);
+    return member.type != nullptr && !entry && (isList() || !member.declaration->isRequired);
+}
+
 MemberState Member::take(std::size_t at)
 {
     const FlatMember& member = memberOf(*owner, index);
-    if (!isList() || member.type == nullptr || at >= size()) {
+    if (!canLose() || at >= size()) {
         return MemberState();
     }
     const auto content = std::make_shared<MemberState::Content>();
@@ -414,8 +517,8 @@ bool Member::put(std::size_t at, const MemberState& state)
 {
     const FlatMember& member = memberOf(*owner, index);
     MemberState::Content* const content = state.content.get();
-    if (!isList() || content == nullptr || !content->isEntry || content->declaration != member.declaration ||
-        content->objects.empty()) {
+    if (!canLose() || (!isList() && size() != 0) || content == nullptr || !content->isEntry ||
+        content->declaration != member.declaration || content->objects.empty()) {
         return false;
     }
     std::unique_ptr<xml_schema::type>& object = content->objects.front();

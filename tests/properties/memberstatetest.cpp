@@ -283,6 +283,85 @@ private slots:
         QVERIFY(!citygml::Member(building, building.consistsOfBuildingPart()).add("3"));
     }
 
+    void aTextLeavesWhatStandsWithTheValue_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QByteArray>("written");
+        QTest::newRow("code space") << QByteArray(
+                                           "<bldg:class codeSpace=\"x\" x:note=\"y\">1000</bldg:class>")
+                                    << "Fields/Class" << QByteArray("1010")
+                                    << QByteArray("codeSpace=\"x\" x:note=\"y\">1010</bldg:class>");
+        QTest::newRow("unit") << QByteArray("<bldg:measuredHeight uom=\"m\">1</bldg:measuredHeight>")
+                              << "Fields/MeasuredHeight" << QByteArray("2.5")
+                              << QByteArray("<bldg:measuredHeight uom=\"m\">2.5</bldg:measuredHeight>");
+        QTest::newRow("large number") << QByteArray("<bldg:storeysAboveGround>3</bldg:storeysAboveGround>")
+                                      << "Fields/StoreysAboveGround" << QByteArray("9007199254740993")
+                                      << QByteArray(">9007199254740993</bldg:storeysAboveGround>");
+        QTest::newRow("zone") << QByteArray("<bldg:yearOfConstruction>1984+01:00</bldg:yearOfConstruction>")
+                              << "Fields/YearOfConstruction" << QByteArray("1985+01:00")
+                              << QByteArray(">1985+01:00</bldg:yearOfConstruction>");
+        QTest::newRow("absent") << QByteArray("") << "Fields/Class" << QByteArray("1010")
+                                << QByteArray("<bldg:class>1010</bldg:class>");
+        QTest::newRow("position") << QByteArray("<gml:boundedBy><gml:Envelope><gml:lowerCorner>1 2 3"
+                                                "</gml:lowerCorner></gml:Envelope></gml:boundedBy>")
+                                  << "Fields/Envelope/LowerCorner" << QByteArray("4 5.5 6")
+                                  << QByteArray(">4 5.5 6</gml:lowerCorner>");
+        QTest::newRow("wrong before")
+            << QByteArray("<bldg:measuredHeight uom=\"m\">high</bldg:measuredHeight>")
+            << "Fields/MeasuredHeight" << QByteArray("2.5")
+            << QByteArray("<bldg:measuredHeight uom=\"m\">2.5</bldg:measuredHeight>");
+    }
+
+    void aTextLeavesWhatStandsWithTheValue()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(QString, path);
+        QFETCH(QByteArray, text);
+        QFETCH(QByteArray, written);
+        const Document document = read(documentWithBuilding(content));
+        gml::AbstractFeatureType& feature = *featuresOf(*document).back();
+        const QByteArray before = write(*document);
+        const Fondo::RefPtr<CoreProperty> root = propertiesOf(feature, false);
+        citygml::Member member = boundAt(root, path.split('/')).member();
+        const citygml::MemberState state = member.capture();
+        QVERIFY(member.setText(text.toStdString()));
+        QVERIFY2(write(*document).contains(written), write(*document));
+        QCOMPARE(QByteArray::fromStdString(*member.text()), text);
+        QVERIFY(member.restore(state));
+        QCOMPARE(write(*document), before);
+    }
+
+    void aTextThatIsNoValueChangesNothing()
+    {
+        FeatureDocument document(buildingText("<bldg:storeysAboveGround>3</bldg:storeysAboveGround>"
+                                              "<bldg:function>1</bldg:function>"));
+        bldg::BuildingType& building = buildingIn(document);
+        const QByteArray before = document.text();
+        QVERIFY(!citygml::Member(building, building.storeysAboveGround()).setText("high"));
+        QVERIFY(!citygml::Member(building, building.function()).setText("2"));
+        QVERIFY(!citygml::Member(building, building.measuredHeight()).setText("2.5")); // has no unit
+        QVERIFY(!citygml::Member(building, building.creationDate()).setText("spring"));
+        QVERIFY(!citygml::Member(building, building.boundedBy()).setText("1"));
+        QCOMPARE(document.text(), before);
+    }
+
+    void membersAreNamed()
+    {
+        FeatureDocument document(
+            buildingText("<bldg:function>1</bldg:function><bldg:function>2</bldg:function>"));
+        bldg::BuildingType& building = buildingIn(document);
+        const std::optional<citygml::Member> function = citygml::Member::named(building, "function");
+        QVERIFY(function && function->size() == 2 && !function->isRequired());
+        QVERIFY(!citygml::Member::named(building, "no such"));
+        const citygml::Member second = citygml::Member::holding(building.function()[1]);
+        QCOMPARE(second.position(), std::size_t(1));
+        QCOMPARE(second.list().size(), std::size_t(2));
+        QCOMPARE(&second.object(), &building);
+        QCOMPARE(QString::fromStdString(*function->entryAt(1).text()), "2");
+    }
+
     void aGenericAttributeCanComeAndGo()
     {
         FeatureDocument document(buildingText(
