@@ -199,6 +199,145 @@
     </message>
 </context>
 <context>
+    <name>tolvik::viewer::AttributeDialog</name>
+    <message>
+        <source>&amp;Value:</source>
+        <translation>&amp;Wert:</translation>
+    </message>
+    <message>
+        <source>&amp;Unit:</source>
+        <translation>&amp;Einheit:</translation>
+    </message>
+    <message>
+        <source>Add an Attribute</source>
+        <translation>Attribut hinzufügen</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Whole number</source>
+        <translation>Ganze Zahl</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Zahl</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>Verweis</translation>
+    </message>
+    <message>
+        <source>Measure</source>
+        <translation>Maß</translation>
+    </message>
+    <message>
+        <source>Set of attributes</source>
+        <translation>Gruppe von Attributen</translation>
+    </message>
+    <message>
+        <source>&amp;Type:</source>
+        <translation>&amp;Typ:</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Name:</translation>
+    </message>
+    <message>
+        <source>An attribute needs a name.</source>
+        <translation>Ein Attribut braucht einen Namen.</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::AttributeTable</name>
+    <message>
+        <source>Type of the features</source>
+        <translation>Typ der Objekte</translation>
+    </message>
+    <message>
+        <source>Filter rows</source>
+        <translation>Zeilen filtern</translation>
+    </message>
+    <message>
+        <source>Columns…</source>
+        <translation>Spalten…</translation>
+    </message>
+    <message>
+        <source>Attributes</source>
+        <translation>Attribute</translation>
+    </message>
+    <message>
+        <source>Reading: %1 of %2</source>
+        <translation>Lesen: %1 von %2</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy with &amp;Titles</source>
+        <translation>Mit &amp;Titeln kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Select the Features</source>
+        <translation>Objekte au&amp;swählen</translation>
+    </message>
+    <message>
+        <source>C&amp;olumns…</source>
+        <translation>S&amp;palten…</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n feature(s)</source>
+        <translation>
+            <numerusform>%n Objekt</numerusform>
+            <numerusform>%n Objekte</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 of %2 features</source>
+        <translation>%1 von %2 Objekten</translation>
+    </message>
+    <message numerus="yes">
+        <source> – %n number(s)</source>
+        <translation>
+            <numerusform> – %n Zahl</numerusform>
+            <numerusform> – %n Zahlen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>: sum %1, mean %2, smallest %3, largest %4</source>
+        <translation>: Summe %1, Mittel %2, kleinste %3, größte %4</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::ColumnsDialog</name>
+    <message>
+        <source>Columns</source>
+        <translation>Spalten</translation>
+    </message>
+    <message>
+        <source>Filter columns</source>
+        <translation>Spalten filtern</translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation>&amp;Alle</translation>
+    </message>
+    <message>
+        <source>&amp;None</source>
+        <translation>&amp;Keine</translation>
+    </message>
+</context>
+<context>
     <name>tolvik::viewer::FeatureActions</name>
     <message>
         <source>&amp;Hide</source>
@@ -398,6 +537,28 @@ height&gt;3, function=1000 für Attribute. Eingabe führt zum nächsten Treffer.
     </message>
 </context>
 <context>
+    <name>tolvik::viewer::FeatureRemoval</name>
+    <message>
+        <source>remove %1 %2</source>
+        <translation>%1 %2 entfernen</translation>
+    </message>
+    <message numerus="yes">
+        <source>remove %n feature(s)</source>
+        <translation>
+            <numerusform>%n Objekt entfernen</numerusform>
+            <numerusform>%n Objekte entfernen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The document itself cannot be removed.</source>
+        <translation>Das Dokument selbst kann nicht entfernt werden.</translation>
+    </message>
+    <message>
+        <source>%1 %2 cannot be removed, as what stands around it needs it.</source>
+        <translation>%1 %2 kann nicht entfernt werden, da das Umgebende es braucht.</translation>
+    </message>
+</context>
+<context>
     <name>tolvik::viewer::FileCommands</name>
     <message>
         <source>Open</source>
@@ -510,6 +671,33 @@ height&gt;3, function=1000 für Attribute. Eingabe führt zum nächsten Treffer.
             <numerusform>%Ln Stelle, an der das Dokument seinem Schema nicht entspricht.</numerusform>
             <numerusform>%Ln Stellen, an denen das Dokument seinem Schema nicht entspricht.</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::ListEditor</name>
+    <message>
+        <source>Entries of the list</source>
+        <translation>Einträge der Liste</translation>
+    </message>
+    <message>
+        <source>Add an entry</source>
+        <translation>Eintrag hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove the entry</source>
+        <translation>Eintrag entfernen</translation>
+    </message>
+    <message>
+        <source>Move the entry up</source>
+        <translation>Eintrag nach oben</translation>
+    </message>
+    <message>
+        <source>Move the entry down</source>
+        <translation>Eintrag nach unten</translation>
+    </message>
+    <message>
+        <source>Take the list over</source>
+        <translation>Liste übernehmen</translation>
     </message>
 </context>
 <context>
@@ -792,12 +980,210 @@ height&gt;3, function=1000 für Attribute. Eingabe führt zum nächsten Treffer.
         <source>Featu&amp;re</source>
         <translation>&amp;Objekt</translation>
     </message>
+    <message>
+        <source>Properties</source>
+        <translation>Eigenschaften</translation>
+    </message>
+    <message>
+        <source>Table</source>
+        <translation>Tabelle</translation>
+    </message>
+    <message>
+        <source>%1 is not opened.</source>
+        <translation>%1 wird nicht geöffnet.</translation>
+    </message>
 </context>
 <context>
     <name>tolvik::viewer::NoticeBar</name>
     <message>
         <source>Close this message</source>
         <translation>Diese Meldung schließen</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::PropertyEdit</name>
+    <message>
+        <source>XML has no character U+%1.</source>
+        <translation>XML kennt das Zeichen U+%1 nicht.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be an entry of this list.</source>
+        <translation>„%1“ kann kein Eintrag dieser Liste sein.</translation>
+    </message>
+    <message>
+        <source>The feature can have no such attribute.</source>
+        <translation>Das Objekt kann kein solches Attribut haben.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be changed.</source>
+        <translation>%1 kann nicht geändert werden.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be &quot;%2&quot;.</source>
+        <translation>%1 kann nicht „%2“ sein.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be absent.</source>
+        <translation>%1 kann nicht fehlen.</translation>
+    </message>
+    <message>
+        <source>%1 is not a generic attribute.</source>
+        <translation>%1 ist kein generisches Attribut.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n feature(s)</source>
+        <translation>
+            <numerusform>%n Objekt</numerusform>
+            <numerusform>%n Objekte</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>change %1 of %2</source>
+        <translation>%1 von %2 ändern</translation>
+    </message>
+    <message>
+        <source>make %1 of %2 absent</source>
+        <translation>%1 von %2 weglassen</translation>
+    </message>
+    <message>
+        <source>add to %1 of %2</source>
+        <translation>zu %1 von %2 hinzufügen</translation>
+    </message>
+    <message>
+        <source>add attribute %1 to %2</source>
+        <translation>Attribut %1 zu %2 hinzufügen</translation>
+    </message>
+    <message>
+        <source>rename attribute %1 of %2</source>
+        <translation>Attribut %1 von %2 umbenennen</translation>
+    </message>
+    <message>
+        <source>remove attribute %1 of %2</source>
+        <translation>Attribut %1 von %2 entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::PropertyPanel</name>
+    <message>
+        <source>Filter properties</source>
+        <translation>Eigenschaften filtern</translation>
+    </message>
+    <message>
+        <source>Absent</source>
+        <translation>Fehlende</translation>
+    </message>
+    <message>
+        <source>Show the attributes that the features do not have</source>
+        <translation>Attribute zeigen, die die Objekte nicht haben</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add an attribute or an entry of a list</source>
+        <translation>Ein Attribut oder einen Listeneintrag hinzufügen</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Eigenschaften</translation>
+    </message>
+    <message numerus="yes">
+        <source>Reading %n feature(s)…</source>
+        <translation>
+            <numerusform>%n Objekt wird gelesen…</numerusform>
+            <numerusform>%n Objekte werden gelesen…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Rename the Attribute</source>
+        <translation>Attribut umbenennen</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
+        <source>Add to %1</source>
+        <translation>Zu %1 hinzufügen</translation>
+    </message>
+    <message>
+        <source>Entry:</source>
+        <translation>Eintrag:</translation>
+    </message>
+    <message>
+        <source>Nothing is selected</source>
+        <translation>Nichts ist ausgewählt</translation>
+    </message>
+    <message>
+        <source>&amp;Attribute…</source>
+        <translation>&amp;Attribut…</translation>
+    </message>
+    <message>
+        <source>Entry of %1…</source>
+        <translation>Eintrag von %1…</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Value</source>
+        <translation>Wert &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Follow the Link</source>
+        <translation>Verweis &amp;folgen</translation>
+    </message>
+    <message>
+        <source>&amp;Rename…</source>
+        <translation>&amp;Umbenennen…</translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>&amp;Make Absent</source>
+        <translation>&amp;Weglassen</translation>
+    </message>
+    <message>
+        <source>The features are still being read.</source>
+        <translation>Die Objekte werden noch gelesen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n feature(s)</source>
+        <translation>
+            <numerusform>%n Objekt</numerusform>
+            <numerusform>%n Objekte</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::PropertyTreeModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>(different values)</source>
+        <translation>(verschiedene Werte)</translation>
+    </message>
+    <message>
+        <source>Absent: it comes into being when it is given a value.</source>
+        <translation>Fehlt: ein Wert lässt es entstehen.</translation>
+    </message>
+    <message>
+        <source>Cannot be changed here.</source>
+        <translation>Kann hier nicht geändert werden.</translation>
     </message>
 </context>
 <context>
@@ -828,6 +1214,40 @@ height&gt;3, function=1000 für Attribute. Eingabe führt zum nächsten Treffer.
     <message>
         <source>Give up what is going on</source>
         <translation>Abbrechen, was gerade läuft</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::ValueText</name>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nein</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number.</source>
+        <translation>„%1“ ist keine Zahl.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a whole number from 0 up.</source>
+        <translation>„%1“ ist keine ganze Zahl ab 0.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a date such as %2.</source>
+        <translation>„%1“ ist kein Datum wie %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a whole number.</source>
+        <translation>„%1“ ist keine ganze Zahl.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries: %1…</source>
+        <translation>
+            <numerusform>%n Eintrag: %1…</numerusform>
+            <numerusform>%n Einträge: %1…</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

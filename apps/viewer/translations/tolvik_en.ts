@@ -2,12 +2,39 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_US" sourcelanguage="en_US">
 <context>
+    <name>tolvik::viewer::AttributeTable</name>
+    <message numerus="yes">
+        <source>%n feature(s)</source>
+        <translation>
+            <numerusform>%n feature</numerusform>
+            <numerusform>%n features</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source> – %n number(s)</source>
+        <translation>
+            <numerusform> – %n number</numerusform>
+            <numerusform> – %n numbers</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>tolvik::viewer::FeatureBrowser</name>
     <message numerus="yes">
         <source>%Ln hit(s)</source>
         <translation>
             <numerusform>%Ln hit</numerusform>
             <numerusform>%Ln hits</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::FeatureRemoval</name>
+    <message numerus="yes">
+        <source>remove %n feature(s)</source>
+        <translation>
+            <numerusform>remove %n feature</numerusform>
+            <numerusform>remove %n features</numerusform>
         </translation>
     </message>
 </context>
@@ -45,6 +72,43 @@
         <translation>
             <numerusform>%Ln feature refers to %1.</numerusform>
             <numerusform>%Ln features refer to %1.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::PropertyEdit</name>
+    <message numerus="yes">
+        <source>%n feature(s)</source>
+        <translation>
+            <numerusform>%n feature</numerusform>
+            <numerusform>%n features</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::PropertyPanel</name>
+    <message numerus="yes">
+        <source>Reading %n feature(s)…</source>
+        <translation>
+            <numerusform>Reading %n feature…</numerusform>
+            <numerusform>Reading %n features…</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n feature(s)</source>
+        <translation>
+            <numerusform>%n feature</numerusform>
+            <numerusform>%n features</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::ValueText</name>
+    <message numerus="yes">
+        <source>%n entries: %1…</source>
+        <translation>
+            <numerusform>%n entry: %1…</numerusform>
+            <numerusform>%n entries: %1…</numerusform>
         </translation>
     </message>
 </context>

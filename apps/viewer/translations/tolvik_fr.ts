@@ -199,6 +199,145 @@
     </message>
 </context>
 <context>
+    <name>tolvik::viewer::AttributeDialog</name>
+    <message>
+        <source>&amp;Value:</source>
+        <translation>&amp;Valeur :</translation>
+    </message>
+    <message>
+        <source>&amp;Unit:</source>
+        <translation>&amp;Unité :</translation>
+    </message>
+    <message>
+        <source>Add an Attribute</source>
+        <translation>Ajouter un attribut</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Whole number</source>
+        <translation>Nombre entier</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>Lien</translation>
+    </message>
+    <message>
+        <source>Measure</source>
+        <translation>Mesure</translation>
+    </message>
+    <message>
+        <source>Set of attributes</source>
+        <translation>Groupe d’attributs</translation>
+    </message>
+    <message>
+        <source>&amp;Type:</source>
+        <translation>&amp;Type :</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Nom :</translation>
+    </message>
+    <message>
+        <source>An attribute needs a name.</source>
+        <translation>Un attribut a besoin d’un nom.</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::AttributeTable</name>
+    <message>
+        <source>Type of the features</source>
+        <translation>Type des objets</translation>
+    </message>
+    <message>
+        <source>Filter rows</source>
+        <translation>Filtrer les lignes</translation>
+    </message>
+    <message>
+        <source>Columns…</source>
+        <translation>Colonnes…</translation>
+    </message>
+    <message>
+        <source>Attributes</source>
+        <translation>Attributs</translation>
+    </message>
+    <message>
+        <source>Reading: %1 of %2</source>
+        <translation>Lecture : %1 sur %2</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+    <message>
+        <source>Copy with &amp;Titles</source>
+        <translation>Copier avec les &amp;titres</translation>
+    </message>
+    <message>
+        <source>&amp;Select the Features</source>
+        <translation>&amp;Sélectionner les objets</translation>
+    </message>
+    <message>
+        <source>C&amp;olumns…</source>
+        <translation>C&amp;olonnes…</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n feature(s)</source>
+        <translation>
+            <numerusform>%n objet</numerusform>
+            <numerusform>%n objets</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 of %2 features</source>
+        <translation>%1 objets sur %2</translation>
+    </message>
+    <message numerus="yes">
+        <source> – %n number(s)</source>
+        <translation>
+            <numerusform> – %n nombre</numerusform>
+            <numerusform> – %n nombres</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>: sum %1, mean %2, smallest %3, largest %4</source>
+        <translation> : somme %1, moyenne %2, minimum %3, maximum %4</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::ColumnsDialog</name>
+    <message>
+        <source>Columns</source>
+        <translation>Colonnes</translation>
+    </message>
+    <message>
+        <source>Filter columns</source>
+        <translation>Filtrer les colonnes</translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation>&amp;Toutes</translation>
+    </message>
+    <message>
+        <source>&amp;None</source>
+        <translation>&amp;Aucune</translation>
+    </message>
+</context>
+<context>
     <name>tolvik::viewer::FeatureActions</name>
     <message>
         <source>&amp;Hide</source>
@@ -398,6 +537,28 @@ height&gt;3, function=1000 pour les attributs. Entrée mène au résultat suivan
     </message>
 </context>
 <context>
+    <name>tolvik::viewer::FeatureRemoval</name>
+    <message>
+        <source>remove %1 %2</source>
+        <translation>supprimer %1 %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>remove %n feature(s)</source>
+        <translation>
+            <numerusform>supprimer %n objet</numerusform>
+            <numerusform>supprimer %n objets</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The document itself cannot be removed.</source>
+        <translation>Le document lui-même ne peut pas être supprimé.</translation>
+    </message>
+    <message>
+        <source>%1 %2 cannot be removed, as what stands around it needs it.</source>
+        <translation>%1 %2 ne peut pas être supprimé : ce qui l’entoure en a besoin.</translation>
+    </message>
+</context>
+<context>
     <name>tolvik::viewer::FileCommands</name>
     <message>
         <source>Open</source>
@@ -510,6 +671,33 @@ height&gt;3, function=1000 pour les attributs. Entrée mène au résultat suivan
             <numerusform>%Ln endroit où le document n&apos;est pas conforme à son schéma.</numerusform>
             <numerusform>%Ln endroits où le document n&apos;est pas conforme à son schéma.</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::ListEditor</name>
+    <message>
+        <source>Entries of the list</source>
+        <translation>Éléments de la liste</translation>
+    </message>
+    <message>
+        <source>Add an entry</source>
+        <translation>Ajouter un élément</translation>
+    </message>
+    <message>
+        <source>Remove the entry</source>
+        <translation>Supprimer l’élément</translation>
+    </message>
+    <message>
+        <source>Move the entry up</source>
+        <translation>Monter l’élément</translation>
+    </message>
+    <message>
+        <source>Move the entry down</source>
+        <translation>Descendre l’élément</translation>
+    </message>
+    <message>
+        <source>Take the list over</source>
+        <translation>Appliquer la liste</translation>
     </message>
 </context>
 <context>
@@ -792,12 +980,210 @@ height&gt;3, function=1000 pour les attributs. Entrée mène au résultat suivan
         <source>Featu&amp;re</source>
         <translation>&amp;Objet</translation>
     </message>
+    <message>
+        <source>Properties</source>
+        <translation>Propriétés</translation>
+    </message>
+    <message>
+        <source>Table</source>
+        <translation>Table</translation>
+    </message>
+    <message>
+        <source>%1 is not opened.</source>
+        <translation>%1 n’est pas ouvert.</translation>
+    </message>
 </context>
 <context>
     <name>tolvik::viewer::NoticeBar</name>
     <message>
         <source>Close this message</source>
         <translation>Fermer ce message</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::PropertyEdit</name>
+    <message>
+        <source>XML has no character U+%1.</source>
+        <translation>XML ne connaît pas le caractère U+%1.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be an entry of this list.</source>
+        <translation>« %1 » ne peut pas être un élément de cette liste.</translation>
+    </message>
+    <message>
+        <source>The feature can have no such attribute.</source>
+        <translation>L’objet ne peut pas avoir un tel attribut.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be changed.</source>
+        <translation>%1 ne peut pas être modifié.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be &quot;%2&quot;.</source>
+        <translation>%1 ne peut pas être « %2 ».</translation>
+    </message>
+    <message>
+        <source>%1 cannot be absent.</source>
+        <translation>%1 ne peut pas être absent.</translation>
+    </message>
+    <message>
+        <source>%1 is not a generic attribute.</source>
+        <translation>%1 n’est pas un attribut générique.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n feature(s)</source>
+        <translation>
+            <numerusform>%n objet</numerusform>
+            <numerusform>%n objets</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>change %1 of %2</source>
+        <translation>modifier %1 de %2</translation>
+    </message>
+    <message>
+        <source>make %1 of %2 absent</source>
+        <translation>rendre %1 de %2 absent</translation>
+    </message>
+    <message>
+        <source>add to %1 of %2</source>
+        <translation>ajouter à %1 de %2</translation>
+    </message>
+    <message>
+        <source>add attribute %1 to %2</source>
+        <translation>ajouter l’attribut %1 à %2</translation>
+    </message>
+    <message>
+        <source>rename attribute %1 of %2</source>
+        <translation>renommer l’attribut %1 de %2</translation>
+    </message>
+    <message>
+        <source>remove attribute %1 of %2</source>
+        <translation>supprimer l’attribut %1 de %2</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::PropertyPanel</name>
+    <message>
+        <source>Filter properties</source>
+        <translation>Filtrer les propriétés</translation>
+    </message>
+    <message>
+        <source>Absent</source>
+        <translation>Absents</translation>
+    </message>
+    <message>
+        <source>Show the attributes that the features do not have</source>
+        <translation>Afficher les attributs que les objets n’ont pas</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Ajouter</translation>
+    </message>
+    <message>
+        <source>Add an attribute or an entry of a list</source>
+        <translation>Ajouter un attribut ou un élément de liste</translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation>Propriétés</translation>
+    </message>
+    <message numerus="yes">
+        <source>Reading %n feature(s)…</source>
+        <translation>
+            <numerusform>Lecture de %n objet…</numerusform>
+            <numerusform>Lecture de %n objets…</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Rename the Attribute</source>
+        <translation>Renommer l’attribut</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Nom :</translation>
+    </message>
+    <message>
+        <source>Add to %1</source>
+        <translation>Ajouter à %1</translation>
+    </message>
+    <message>
+        <source>Entry:</source>
+        <translation>Élément :</translation>
+    </message>
+    <message>
+        <source>Nothing is selected</source>
+        <translation>Rien n’est sélectionné</translation>
+    </message>
+    <message>
+        <source>&amp;Attribute…</source>
+        <translation>&amp;Attribut…</translation>
+    </message>
+    <message>
+        <source>Entry of %1…</source>
+        <translation>Élément de %1…</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Modifier</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Value</source>
+        <translation>&amp;Copier la valeur</translation>
+    </message>
+    <message>
+        <source>&amp;Follow the Link</source>
+        <translation>&amp;Suivre le lien</translation>
+    </message>
+    <message>
+        <source>&amp;Rename…</source>
+        <translation>&amp;Renommer…</translation>
+    </message>
+    <message>
+        <source>Re&amp;move</source>
+        <translation>S&amp;upprimer</translation>
+    </message>
+    <message>
+        <source>&amp;Make Absent</source>
+        <translation>Rendre &amp;absent</translation>
+    </message>
+    <message>
+        <source>The features are still being read.</source>
+        <translation>Les objets sont encore en cours de lecture.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n feature(s)</source>
+        <translation>
+            <numerusform>%n objet</numerusform>
+            <numerusform>%n objets</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::PropertyTreeModel</name>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Unité</translation>
+    </message>
+    <message>
+        <source>(different values)</source>
+        <translation>(valeurs différentes)</translation>
+    </message>
+    <message>
+        <source>Absent: it comes into being when it is given a value.</source>
+        <translation>Absent : une valeur le fait exister.</translation>
+    </message>
+    <message>
+        <source>Cannot be changed here.</source>
+        <translation>Ne peut pas être modifié ici.</translation>
     </message>
 </context>
 <context>
@@ -828,6 +1214,40 @@ height&gt;3, function=1000 pour les attributs. Entrée mène au résultat suivan
     <message>
         <source>Give up what is going on</source>
         <translation>Abandonner l&apos;opération en cours</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::ValueText</name>
+    <message>
+        <source>yes</source>
+        <translation>oui</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>non</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number.</source>
+        <translation>« %1 » n’est pas un nombre.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a whole number from 0 up.</source>
+        <translation>« %1 » n’est pas un nombre entier positif ou nul.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a date such as %2.</source>
+        <translation>« %1 » n’est pas une date comme %2.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a whole number.</source>
+        <translation>« %1 » n’est pas un nombre entier.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries: %1…</source>
+        <translation>
+            <numerusform>%n élément : %1…</numerusform>
+            <numerusform>%n éléments : %1…</numerusform>
+        </translation>
     </message>
 </context>
 </TS>

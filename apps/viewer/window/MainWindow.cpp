@@ -2,6 +2,8 @@
 
 #include "apps/viewer/application/Colours.h"
 #include "apps/viewer/document/Document.h"
+#include "apps/viewer/edits/FeatureRemoval.h"
+#include "apps/viewer/edits/PropertyEdit.h"
 #include "apps/viewer/features/FeatureActions.h"
 #include "apps/viewer/features/FeatureBrowser.h"
 #include "apps/viewer/features/FeatureListModel.h"
@@ -14,9 +16,11 @@
 #include "apps/viewer/log/LogAppender.h"
 #include "apps/viewer/log/LogModel.h"
 #include "apps/viewer/log/LogPanel.h"
+#include "apps/viewer/properties/PropertyPanel.h"
 #include "apps/viewer/recovery/Journal.h"
 #include "apps/viewer/recovery/Recovery.h"
 #include "apps/viewer/selection/SelectionLink.h"
+#include "apps/viewer/table/AttributeTable.h"
 #include "apps/viewer/window/NoticeBar.h"
 #include "apps/viewer/window/StatusProgress.h"
 #include "framework/EditRangeDialog.h"
@@ -24,6 +28,7 @@
 #include <QActionGroup>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDesktopServices>
 #include <QDockWidget>
 #include <QDragEnterEvent>
 #include <QFileInfo>
@@ -213,16 +218,59 @@ void MainWindow::makePanels()
          {static_cast<QWidget*>(features->tree()->parentWidget()), static_cast<QWidget*>(features->list())}) {
         view->addActions(actionsOfFeatures->findChildren<QAction*>());
     }
+    QDockWidget* const tableDock = addEditingPanels();
     findings = new FindingsPanel(*shown);
     QDockWidget* const logDock =
         addPanel(tr("Log"), QStringLiteral("logPanel"), new LogPanel(*log), Qt::BottomDockWidgetArea);
     QDockWidget* const findingsDock =
         addPanel(tr("Findings"), QStringLiteral("findingsPanel"), findings, Qt::BottomDockWidgetArea);
+    tabifyDockWidget(tableDock, findingsDock);
     tabifyDockWidget(findingsDock, logDock);
     resizeDocks({panels.first()}, {360}, Qt::Horizontal);
     resizeDocks({logDock}, {150}, Qt::Vertical);
     connect(features, &FeatureBrowser::menuRequested, actionsOfFeatures, &FeatureActions::popUp);
     connect(findings, &FindingsPanel::featureRequested, this, &MainWindow::goToIdentifier);
+}
+
+/// The panels in which attributes are edited, and the edits that the features themselves get.
+/// \return the panel of the table
+QDockWidget* MainWindow::addEditingPanels()
+{
+    PropertyEdit::addMaker();
+    FeatureRemoval::addMaker();
+    auto* const properties = new PropertyPanel(*shown);
+    auto* const table = new AttributeTable(*shown);
+    addPanel(tr("Properties"), QStringLiteral("properties"), properties, Qt::RightDockWidgetArea);
+    connect(properties, &PropertyPanel::linkActivated, this, &MainWindow::follow);
+    connect(table, &AttributeTable::linkActivated, this, &MainWindow::follow);
+    connect(actionsOfFeatures, &FeatureActions::removalRequested, this, &MainWindow::removeFeatures);
+    return addPanel(tr("Table"), QStringLiteral("table"), table, Qt::BottomDockWidgetArea);
+}
+
+void MainWindow::follow(const QUrl& link)
+{
+    // A document may come from anywhere, and a click on a file could start a program.
+    const bool isOfWeb = QStringList{"http", "https", "ftp", "mailto"}.contains(link.scheme());
+    if (link.toString(QUrl::RemoveFragment).isEmpty()) {
+        goToIdentifier(link.fragment());
+    } else if (!isOfWeb || !QDesktopServices::openUrl(link)) {
+        statusBar()->showMessage(tr("%1 is not opened.").arg(link.toString()), 5000);
+    }
+}
+
+void MainWindow::removeFeatures(const QVector<int>& rows)
+{
+    FeatureRemoval::Features going;
+    for (const int row : rows) {
+        going.push_back(shown->model().getFeature(row));
+    }
+    QString refusal;
+    auto removal = FeatureRemoval::make(*shown, going, refusal);
+    if (removal) {
+        shown->undoStack().push(removal.release());
+    } else if (!refusal.isEmpty()) {
+        statusBar()->showMessage(refusal, 8000);
+    }
 }
 
 QDockWidget* MainWindow::addPanel(const QString& title, const QString& name, QWidget* content,

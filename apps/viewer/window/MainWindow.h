@@ -57,6 +57,9 @@ private:
     QWidget* makeMiddle();
     QWidget* makeView();
     void makePanels();
+    QDockWidget* addEditingPanels();
+    void follow(const QUrl& link);
+    void removeFeatures(const QVector<int>& rows);
     QDockWidget* addPanel(const QString& title, const QString& name, QWidget* content,
                           Qt::DockWidgetArea area);
     void makeMenus();

@@ -1,0 +1,93 @@
+#include "apps/viewer/edits/EditedMember.h"
+
+#include "apps/viewer/edits/GenericAttributes.h"
+#include "gml/AbstractFeatureType.hxx"
+#include "UI/Models/CityGMLModel/CityGMLModel.h"
+#include "UI/Models/CityGMLModel/properties/BoundProperty.h"
+
+#include <QJsonArray>
+#include <typeinfo>
+
+namespace tolvik::viewer {
+
+namespace {
+
+std::optional<citygml::Member> textListOf(gml::AbstractFeatureType& feature, const QString& name)
+{
+    for (const citygml::Member& list : citygml::Member::textLists(feature)) {
+        if (QString::fromStdString(list.name()) == name) {
+            return list;
+        }
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+QJsonObject MemberPlace::toJson() const
+{
+    QJsonArray steps;
+    for (const PropertyStep& step : path) {
+        steps += QJsonArray{step.name, step.occurrence};
+    }
+    return {{"kind", kind}, {"path", steps}};
+}
+
+MemberPlace MemberPlace::fromJson(const QJsonObject& json)
+{
+    MemberPlace place;
+    place.kind = static_cast<Kind>(json["kind"].toInt());
+    for (const QJsonValue step : json["path"].toArray()) {
+        place.path.append({step[0].toString(), step[1].toInt()});
+    }
+    return place;
+}
+
+std::optional<EditedMember> EditedMember::find(const CityGMLModel& model, gml::AbstractFeatureType& feature,
+                                               const MemberPlace& place)
+{
+    EditedMember member;
+    switch (place.kind) {
+    case MemberPlace::Property:
+        member.tree = isOfCatalogue(place.path) ? catalogueTree(feature) : propertyTree(model, feature);
+        member.found = findProperty(*member.tree, place.path);
+        if (member.found == nullptr || typeid(*member.found) == typeid(CoreProperty)) {
+            return std::nullopt;
+        }
+        if (const auto* const bound = dynamic_cast<const BoundProperty*>(member.found)) {
+            member.held = bound->member();
+        }
+        return member;
+    case MemberPlace::TextList:
+        member.held = place.path.isEmpty() ? std::nullopt : textListOf(feature, place.path.first().name);
+        break;
+    case MemberPlace::GenericAttributes:
+        member.held = place.path.isEmpty()
+                          ? attributesOf(feature)
+                          : attributesOf(feature, place.path.last().name, place.path.last().occurrence);
+        break;
+    }
+    return member.held ? std::optional<EditedMember>(member) : std::nullopt;
+}
+
+CapturedState EditedMember::capture() const
+{
+    CapturedState state;
+    if (held) {
+        state.member = held->capture();
+    } else {
+        state.text = found->value().toString();
+    }
+    return state;
+}
+
+void EditedMember::restore(const CapturedState& state)
+{
+    if (held) {
+        held->restore(state.member);
+    } else {
+        found->setValue(state.text);
+    }
+}
+
+} // namespace tolvik::viewer

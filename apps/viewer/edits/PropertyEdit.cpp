@@ -1,0 +1,319 @@
+#include "apps/viewer/edits/PropertyEdit.h"
+
+#include "apps/common/EditedValues.h"
+#include "apps/viewer/document/Document.h"
+#include "apps/viewer/edits/GenericAttributes.h"
+#include "apps/viewer/edits/MemberText.h"
+#include "apps/viewer/features/FeatureTexts.h"
+#include "gen/AbstractGenericAttributeType.hxx"
+#include "gml/AbstractFeatureType.hxx"
+#include "UI/Models/CityGMLModel/properties/BoundProperty.h"
+
+#include <QDataStream>
+#include <QJsonArray>
+#include <QJsonObject>
+
+namespace tolvik::viewer {
+
+namespace {
+
+const QString propertyEditKind = QStringLiteral("property");
+
+/// A value of any type as text, and back.
+QString packed(const QVariant& value)
+{
+    QByteArray bytes;
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    stream.setVersion(QDataStream::Qt_5_15);
+    stream << value;
+    return QString::fromLatin1(bytes.toBase64());
+}
+
+QVariant unpacked(const QString& text)
+{
+    QDataStream stream(QByteArray::fromBase64(text.toLatin1()));
+    stream.setVersion(QDataStream::Qt_5_15);
+    QVariant value;
+    stream >> value;
+    return value;
+}
+
+/// What a feature is called in the history.
+QString titleOf(const gml::AbstractFeatureType& feature)
+{
+    for (const QString& title : {nameOf(feature), idOf(feature)}) {
+        if (!title.isEmpty()) {
+            return title;
+        }
+    }
+    return typeOf(feature);
+}
+
+/// Lists of numbers stand in one text of the document, whose entries blanks divide.
+bool isOneText(const EditedMember& member)
+{
+    return !(member.member() && member.member()->isList());
+}
+
+} // namespace
+
+std::unique_ptr<PropertyEdit> PropertyEdit::make(Document& document, const Features& features, Action action,
+                                                 const MemberPlace& place, const QVariant& value,
+                                                 QString& refusal)
+{
+    std::unique_ptr<PropertyEdit> edit(new PropertyEdit(document, action, place, value));
+    edit->nameEdit(features);
+    refusal = edit->perform(features);
+    return edit->changes.empty() ? nullptr : std::move(edit);
+}
+
+void PropertyEdit::addMaker()
+{
+    RecordedEdit::addMaker(propertyEditKind, [](Document& document, const QJsonObject& record) {
+        FeatureLocator locator(document.model());
+        Features features;
+        for (const QJsonValue each : record["features"].toArray()) {
+            gml::AbstractFeatureType* const feature =
+                locator.find({each[0].toString().toStdString(), each[1].toInt()});
+            if (feature == nullptr) {
+                return std::unique_ptr<RecordedEdit>();
+            }
+            features.push_back(feature);
+        }
+        QString refusal;
+        return std::unique_ptr<RecordedEdit>(make(document, features,
+                                                  static_cast<Action>(record["action"].toInt()),
+                                                  MemberPlace::fromJson(record["place"].toObject()),
+                                                  unpacked(record["value"].toString()), refusal));
+    });
+}
+
+PropertyEdit::PropertyEdit(Document& document, Action action, const MemberPlace& place, const QVariant& value)
+    : document(document), action(action), place(place), value(value)
+{
+}
+
+void PropertyEdit::redo()
+{
+    if (!isDone) {
+        swapStates();
+        isDone = true;
+    }
+}
+
+void PropertyEdit::undo()
+{
+    swapStates();
+    isDone = false;
+}
+
+QString PropertyEdit::kind() const
+{
+    return propertyEditKind;
+}
+
+QJsonObject PropertyEdit::record() const
+{
+    QJsonArray features;
+    for (const Change& change : changes) {
+        features += QJsonArray{QString::fromStdString(change.feature.identifier), change.feature.step};
+    }
+    return {{"features", features}, {"action", action}, {"place", place.toJson()}, {"value", packed(value)}};
+}
+
+/// Does the edit on each feature, or on none.
+/// \return why it is refused, or nothing
+QString PropertyEdit::perform(const Features& features)
+{
+    FeatureLocator locator(document.model());
+    for (gml::AbstractFeatureType* const feature : features) {
+        std::optional<EditedMember> member = EditedMember::find(document.model(), *feature, editedPlace());
+        if (!member || isAlreadyDone(*member)) {
+            continue;
+        }
+        const CapturedState before = member->capture();
+        const QString refusal = performOn(*feature, *member);
+        if (!refusal.isEmpty()) {
+            member->restore(before);
+            swapMembers();
+            changes.clear();
+            return refusal;
+        }
+        changes.push_back({locator.addressOf(*feature), before});
+    }
+    announce();
+    return QString();
+}
+
+/// Puts back what the members said at the other end of the edit.
+void PropertyEdit::swapStates()
+{
+    swapMembers();
+    announce();
+}
+
+void PropertyEdit::swapMembers()
+{
+    FeatureLocator locator(document.model());
+    for (Change& change : changes) {
+        gml::AbstractFeatureType* const feature = locator.find(change.feature);
+        std::optional<EditedMember> member =
+            feature != nullptr ? EditedMember::find(document.model(), *feature, editedPlace()) : std::nullopt;
+        if (member) {
+            const CapturedState now = member->capture();
+            member->restore(change.other);
+            change.other = now;
+        }
+    }
+}
+
+/// Tells everybody which rows have changed.
+void PropertyEdit::announce() const
+{
+    FeatureLocator locator(document.model());
+    for (const Change& change : changes) {
+        document.model().propertyChanged(document.model().index(locator.find(change.feature)), true);
+    }
+}
+
+/// The member that the edit changes. An attribute that is renamed or removed is an entry of the list of them
+/// all.
+MemberPlace PropertyEdit::editedPlace() const
+{
+    if (action != RenameAttribute && action != RemoveAttribute) {
+        return place;
+    }
+    const bool isInSet = place.path.size() > 2;
+    return {MemberPlace::GenericAttributes, isInSet ? place.path.mid(0, 2) : PropertyPath()};
+}
+
+bool PropertyEdit::isAlreadyDone(const EditedMember& member) const
+{
+    switch (action) {
+    case SetValue:
+        return member.isPresent() && hasValue(member);
+    case MakeAbsent:
+        return !member.isPresent();
+    default:
+        return false;
+    }
+}
+
+bool PropertyEdit::hasValue(const EditedMember& member) const
+{
+    // A link is entered as a text.
+    const std::optional<std::string> text = member.member() ? member.member()->text() : std::nullopt;
+    return editedValueOf(*member.property()) == value ||
+           (value.userType() == QMetaType::QString && text == value.toString().toStdString());
+}
+
+/// \return why it is refused, or nothing. The member may have changed then.
+QString PropertyEdit::performOn(gml::AbstractFeatureType& feature, EditedMember& member) const
+{
+    if (const auto character = apps::characterOutsideXml(value)) {
+        return tr("XML has no character U+%1.").arg(QString::number(*character, 16).toUpper(), 4, '0');
+    }
+    switch (action) {
+    case SetValue:
+        return setValue(member);
+    case MakeAbsent:
+        return makeAbsent(member);
+    case AddEntry:
+        return member.member()->add(value.toString().toStdString())
+                   ? QString()
+                   : tr("\"%1\" cannot be an entry of this list.").arg(value.toString());
+    case AddAttribute: {
+        const QVariantList parts = value.toList();
+        const bool isAdded =
+            addAttribute(*member.member(), static_cast<AttributeType>(parts.value(0).toInt()),
+                         parts.value(1).toString(), parts.value(2), parts.value(3).toString());
+        return isAdded ? QString() : tr("The feature can have no such attribute.");
+    }
+    case RenameAttribute:
+    case RemoveAttribute:
+        return changeAttribute(feature);
+    }
+    return QString();
+}
+
+QString PropertyEdit::setValue(EditedMember& member) const
+{
+    CoreProperty& property = *member.property();
+    if (!property.editable()) {
+        return tr("%1 cannot be changed.").arg(property.name());
+    }
+    const QVariantList choices = property.potentialValues();
+    const bool isList = value.userType() == QMetaType::QVariantList;
+    const bool isAllowed = (choices.isEmpty() || choices.contains(value)) &&
+                           (!isList || !isOneText(member) || apps::areWords(value.toList()));
+    if (isAllowed && member.member() && setKept(*member.member(), editedValueOf(property), value)) {
+        return QString();
+    }
+    if (isAllowed) {
+        property.setValue(value);
+    }
+    if (!isAllowed || !apps::isSame(property.value(), value)) {
+        const QString text = isList ? value.toStringList().join(' ') : value.toString();
+        return tr("%1 cannot be \"%2\".").arg(property.name(), text);
+    }
+    return QString();
+}
+
+QString PropertyEdit::makeAbsent(EditedMember& member) const
+{
+    const QString name = place.path.isEmpty() ? QString() : place.path.last().name;
+    if (!member.member() || member.member()->isRequired()) {
+        return tr("%1 cannot be absent.").arg(name);
+    }
+    member.member()->clear();
+    return QString();
+}
+
+/// Renames or removes the generic attribute of the property.
+QString PropertyEdit::changeAttribute(gml::AbstractFeatureType& feature) const
+{
+    const std::optional<EditedMember> shown = EditedMember::find(document.model(), feature, place);
+    const auto* const bound = shown ? dynamic_cast<const BoundProperty*>(shown->property()) : nullptr;
+    gen::AbstractGenericAttributeType* const attribute =
+        bound != nullptr ? attributeAround(bound->member()) : nullptr;
+    if (attribute == nullptr) {
+        return tr("%1 is not a generic attribute.").arg(toString(place.path));
+    }
+    if (action == RenameAttribute) {
+        renameAttribute(*attribute, value.toString());
+    } else {
+        removeAttribute(*attribute);
+    }
+    return QString();
+}
+
+/// Says in the history what is undone.
+void PropertyEdit::nameEdit(const Features& features)
+{
+    const QString what = place.path.isEmpty() ? QString() : place.path.last().name;
+    const QString where = features.size() == 1
+                              ? titleOf(*features.front())
+                              : tr("%n feature(s)", nullptr, static_cast<int>(features.size()));
+    switch (action) {
+    case SetValue:
+        setText(tr("change %1 of %2").arg(what, where));
+        break;
+    case MakeAbsent:
+        setText(tr("make %1 of %2 absent").arg(what, where));
+        break;
+    case AddEntry:
+        setText(tr("add to %1 of %2").arg(what, where));
+        break;
+    case AddAttribute:
+        setText(tr("add attribute %1 to %2").arg(value.toList().value(1).toString(), where));
+        break;
+    case RenameAttribute:
+        setText(tr("rename attribute %1 of %2").arg(what, where));
+        break;
+    case RemoveAttribute:
+        setText(tr("remove attribute %1 of %2").arg(what, where));
+        break;
+    }
+}
+
+} // namespace tolvik::viewer

@@ -1,0 +1,170 @@
+#include "apps/viewer/properties/PropertyNode.h"
+
+#include "apps/viewer/edits/GenericAttributes.h"
+#include "apps/viewer/edits/MemberText.h"
+#include "apps/viewer/properties/AddressText.h"
+#include "framework/AbstractUnit.h"
+#include "UI/Models/CityGMLModel/properties/BoundProperty.h"
+
+#include <algorithm>
+#include <QHash>
+#include <typeinfo>
+
+namespace tolvik::viewer {
+
+namespace {
+
+/// A plain property holds a copy of something; one of another class reads the document.
+bool isBoundProperty(const CoreProperty& property)
+{
+    return typeid(property) != typeid(CoreProperty);
+}
+
+void readProperty(CoreProperty& property, PropertyNode& node)
+{
+    node.isBound = isBoundProperty(property);
+    node.isEditable = node.isBound && property.editable();
+    node.value = editedValueOf(property);
+    node.offered = offeredValueOf(property);
+    node.choices = property.potentialValues();
+    node.isPresent = !node.isBound || node.value.isValid();
+    if (const auto* const bound = dynamic_cast<const BoundProperty*>(&property)) {
+        const citygml::Member member = bound->member();
+        node.isPresent = member.present();
+        node.isGenericAttribute = attributeAround(member) != nullptr;
+    }
+    if (property.unit() != nullptr) {
+        node.unit = property.unit()->name();
+    }
+}
+
+void readChildren(const CoreProperty& property, PropertyNode& node)
+{
+    QHash<QString, int> seen;
+    for (const auto& child : property.properties()) {
+        auto below = std::make_unique<PropertyNode>();
+        below->step = {child->name(), ++seen[child->name()]};
+        below->parent = &node;
+        readProperty(*child, *below);
+        readChildren(*child, *below);
+        node.children.push_back(std::move(below));
+    }
+}
+
+/// Says in the groups of addresses what these are. An address itself has no such group, and gets one.
+void addAddresses(gml::AbstractFeatureType& feature, PropertyNode& root)
+{
+    const QString label = QStringLiteral("Address");
+    PropertyNode* const fields = root.child({QStringLiteral("Fields"), 1});
+    if (fields == nullptr) {
+        return;
+    }
+    if (isAddress(feature)) {
+        auto summary = std::make_unique<PropertyNode>();
+        summary->step = {label, 1};
+        summary->summary = addressesOf(feature).join('\n');
+        summary->parent = fields;
+        fields->children.insert(fields->children.begin(), std::move(summary));
+    } else if (fields->child({label, 1}) != nullptr) {
+        int occurrence = 0;
+        for (const QString& address : addressesOf(feature)) {
+            PropertyNode* const group = fields->child({label, ++occurrence});
+            if (group != nullptr) {
+                group->summary = address;
+            }
+        }
+    }
+}
+
+bool isSameValue(const QVariant& a, const QVariant& b)
+{
+    return a.userType() == b.userType() && a == b;
+}
+
+void mergeNode(PropertyNode& node, const PropertyNode& other)
+{
+    node.isDiffering = node.isDiffering || other.isDiffering || !isSameValue(node.value, other.value) ||
+                       node.summary != other.summary;
+    if (node.isDiffering) {
+        node.value = QVariant();
+        node.summary.clear();
+    }
+    if (node.unit != other.unit) {
+        node.unit.clear();
+    }
+    node.isEditable = node.isEditable && other.isEditable;
+    node.isPresent = node.isPresent || other.isPresent;
+}
+
+} // namespace
+
+PropertyPath PropertyNode::path() const
+{
+    PropertyPath path;
+    for (const PropertyNode* node = this; node->parent != nullptr; node = node->parent) {
+        path.prepend(node->step);
+    }
+    return path;
+}
+
+bool PropertyNode::isAttributeSet() const
+{
+    // The attributes of the feature itself stand in the group of its other properties.
+    const bool isInGroup = parent != nullptr && parent->parent != nullptr;
+    return isInGroup && std::any_of(children.begin(), children.end(),
+                                    [](const auto& each) { return each->isGenericAttribute; });
+}
+
+int PropertyNode::row() const
+{
+    if (parent == nullptr) {
+        return 0;
+    }
+    const auto found = std::find_if(parent->children.begin(), parent->children.end(),
+                                    [this](const auto& each) { return each.get() == this; });
+    return static_cast<int>(found - parent->children.begin());
+}
+
+PropertyNode* PropertyNode::child(const PropertyStep& step) const
+{
+    for (const auto& each : children) {
+        if (each->step == step) {
+            return each.get();
+        }
+    }
+    return nullptr;
+}
+
+PropertyNode* PropertyNode::find(const PropertyPath& path)
+{
+    PropertyNode* node = this;
+    for (const PropertyStep& step : path) {
+        node = node->child(step);
+        if (node == nullptr) {
+            return nullptr;
+        }
+    }
+    return node;
+}
+
+std::unique_ptr<PropertyNode> readProperties(const CityGMLModel& model, gml::AbstractFeatureType& feature)
+{
+    auto root = std::make_unique<PropertyNode>();
+    readChildren(*propertyTree(model, feature), *root);
+    addAddresses(feature, *root);
+    return root;
+}
+
+void mergeProperties(PropertyNode& tree, const PropertyNode& other)
+{
+    auto& children = tree.children;
+    const auto isAlone = [&other](const auto& each) { return other.child(each->step) == nullptr; };
+    children.erase(std::remove_if(children.begin(), children.end(), isAlone), children.end());
+    for (const auto& each : children) {
+        const PropertyNode& same = *other.child(each->step);
+        mergeNode(*each, same);
+        mergeProperties(*each, same);
+    }
+}
+
+} // namespace tolvik::viewer

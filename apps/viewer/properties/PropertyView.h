@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QTreeView>
+
+namespace tolvik::viewer {
+
+/// A tree of properties in which editing always means the value, in whatever column the cursor stands.
+class PropertyView : public QTreeView
+{
+    Q_OBJECT
+
+public:
+    explicit PropertyView(QWidget* parent = nullptr);
+
+    /// Opens the editor of the current property, if it has one.
+    void editCurrent();
+
+signals:
+    /// The current property is to go.
+    void removalRequested();
+
+protected:
+    bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+};
+
+} // namespace tolvik::viewer

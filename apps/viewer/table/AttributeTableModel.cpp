@@ -1,0 +1,305 @@
+#include "apps/viewer/table/AttributeTableModel.h"
+
+#include "apps/viewer/document/Document.h"
+#include "apps/viewer/edits/PropertyEdit.h"
+#include "apps/viewer/properties/ValueRoles.h"
+#include "gml/AbstractFeatureType.hxx"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace tolvik::viewer {
+
+namespace {
+
+enum Rank { NumberRank, TextRank, AbsentRank };
+
+QString withUnit(const QString& value, const QString& unit)
+{
+    return unit.isEmpty() || value.isEmpty() ? value : value + ' ' + unit;
+}
+
+} // namespace
+
+AttributeTableModel::AttributeTableModel(Document& document, QObject* parent)
+    : QAbstractTableModel(parent), document(document), rows(document.model())
+{
+    connect(&work, &SlicedWork::progressed, this, &AttributeTableModel::progressed);
+    connect(&document.model(), &QAbstractItemModel::dataChanged, this, &AttributeTableModel::noteChange);
+}
+
+AttributeTableModel::~AttributeTableModel() = default;
+
+void AttributeTableModel::setType(const std::string& label)
+{
+    work.stop();
+    if (label.empty() && all.isEmpty()) {
+        return;
+    }
+    beginResetModel();
+    all = rowsOf(label);
+    setShown(all);
+    rows.forgetAll();
+    endResetModel();
+    arrange();
+}
+
+void AttributeTableModel::setColumns(const QVector<PropertyPath>& newPaths)
+{
+    work.stop();
+    beginResetModel();
+    paths = newPaths;
+    rows.setColumns(paths);
+    endResetModel();
+    arrange();
+}
+
+void AttributeTableModel::setFilter(const QString& newFilter)
+{
+    filter = newFilter.trimmed();
+    arrange();
+}
+
+QString AttributeTableModel::enter(const QModelIndex& index, const QVariant& value)
+{
+    QString refusal;
+    auto step = PropertyEdit::make(document, {document.model().getFeature(shown[index.row()])},
+                                   PropertyEdit::SetValue, {MemberPlace::Property, paths[index.column()]},
+                                   value, refusal);
+    if (step) {
+        document.undoStack().push(step.release());
+    }
+    return refusal;
+}
+
+const AttributeCell& AttributeTableModel::cell(const QModelIndex& index) const
+{
+    return rows.cell(shown[index.row()], index.column());
+}
+
+QString AttributeTableModel::textOf(const AttributeCell& cell) const
+{
+    return withUnit(text.textOf(cell.value), cell.unit);
+}
+
+int AttributeTableModel::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : shown.size();
+}
+
+int AttributeTableModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : paths.size();
+}
+
+QVariant AttributeTableModel::data(const QModelIndex& index, int role) const
+{
+    if (!index.isValid()) {
+        return QVariant();
+    }
+    const AttributeCell& cell = this->cell(index);
+    switch (role) {
+    case Qt::DisplayRole:
+        return withUnit(text.previewOf(cell.value), cell.unit);
+    case Qt::ToolTipRole:
+        return QStringLiteral("%1\n%2").arg(toString(paths[index.column()]), data(index).toString());
+    case Qt::TextAlignmentRole:
+        return cell.value.userType() == QMetaType::QString || kindOf(cell.offered, {}) == ValueKind::List
+                   ? QVariant()
+                   : QVariant(static_cast<int>(Qt::AlignRight | Qt::AlignVCenter));
+    case Qt::CheckStateRole:
+        return cell.isPresent && kindOf(cell.offered, cell.choices) == ValueKind::Truth
+                   ? QVariant(cell.value.toBool() ? Qt::Checked : Qt::Unchecked)
+                   : QVariant();
+    case ValueRole:
+        return cell.value;
+    case OfferedRole:
+        return cell.offered;
+    case ChoicesRole:
+        return cell.choices;
+    case AbsentRole:
+        return !cell.isPresent;
+    default:
+        return QVariant();
+    }
+}
+
+QVariant AttributeTableModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation == Qt::Vertical) {
+        return role == Qt::DisplayRole ? QVariant(section + 1) : QVariant();
+    }
+    if (section < 0 || section >= paths.size()) {
+        return QVariant();
+    }
+    switch (role) {
+    case Qt::DisplayRole:
+        return titleOf(paths[section]);
+    case Qt::ToolTipRole:
+        return toString(paths[section]);
+    default:
+        return QVariant();
+    }
+}
+
+Qt::ItemFlags AttributeTableModel::flags(const QModelIndex& index) const
+{
+    if (!index.isValid()) {
+        return Qt::NoItemFlags;
+    }
+    const Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
+    return cell(index).isEditable ? flags | Qt::ItemIsEditable : flags;
+}
+
+void AttributeTableModel::sort(int column, Qt::SortOrder order)
+{
+    sortPath = column >= 0 && column < paths.size() ? paths[column] : PropertyPath();
+    sortOrder = order;
+    arrange();
+}
+
+/// The rows of the features of a type.
+QVector<int> AttributeTableModel::rowsOf(const std::string& label) const
+{
+    QVector<int> found;
+    const int count = label.empty() ? 0 : document.model().rowCount();
+    for (int row = 0; row < count; ++row) {
+        if (document.model().getFeature(row)->typeLabel == label) {
+            found.append(row);
+        }
+    }
+    return found;
+}
+
+/// Begins to filter and to sort.
+void AttributeTableModel::arrange()
+{
+    keys.clear();
+    if (sortPath.isEmpty() && !isFiltered()) {
+        work.stop();
+        showRows(all);
+        return;
+    }
+    work.start(
+        all.size(), [this](int step) { readRow(all[step]); }, [this] { showArranged(); });
+}
+
+void AttributeTableModel::readRow(int row)
+{
+    const QVector<AttributeCell> cells = rows.cellsOf(row);
+    const bool isWanted = !isFiltered() || std::any_of(cells.begin(), cells.end(), [this](const auto& cell) {
+        return textOf(cell).contains(filter, Qt::CaseInsensitive);
+    });
+    if (isWanted) {
+        keys.append(keyOf(row, cells.value(paths.indexOf(sortPath))));
+    }
+}
+
+void AttributeTableModel::showArranged()
+{
+    const auto isBefore = [](const Key& a, const Key& b) {
+        return a.number != b.number ? a.number < b.number : a.text < b.text;
+    };
+    const bool isAscending = sortOrder == Qt::AscendingOrder;
+    std::stable_sort(keys.begin(), keys.end(), [&](const Key& a, const Key& b) {
+        return a.rank != b.rank ? a.rank < b.rank : isAscending ? isBefore(a, b) : isBefore(b, a);
+    });
+    QVector<int> wanted;
+    wanted.reserve(keys.size());
+    for (const Key& key : std::as_const(keys)) {
+        wanted.append(key.row);
+    }
+    keys = QVector<Key>();
+    showRows(std::move(wanted));
+}
+
+/// Shows rows in another order, or others. Where they are the same, cursor and selection stay with them.
+void AttributeTableModel::showRows(QVector<int> wanted)
+{
+    if (wanted == shown) {
+        return;
+    }
+    if (wanted.size() != shown.size()) {
+        beginResetModel();
+        setShown(std::move(wanted));
+        endResetModel();
+        return;
+    }
+    emit layoutAboutToBeChanged();
+    const QModelIndexList former = persistentIndexList();
+    QVector<int> formerRows;
+    for (const QModelIndex& index : former) {
+        formerRows.append(shown[index.row()]);
+    }
+    setShown(std::move(wanted));
+    for (int i = 0; i < former.size(); ++i) {
+        const auto place = places.constFind(formerRows[i]);
+        changePersistentIndex(former[i], place != places.constEnd() ? createIndex(*place, former[i].column())
+                                                                    : QModelIndex());
+    }
+    emit layoutChanged();
+}
+
+void AttributeTableModel::setShown(QVector<int> wanted)
+{
+    shown = std::move(wanted);
+    places.clear();
+    places.reserve(shown.size());
+    for (int place = 0; place < shown.size(); ++place) {
+        places.insert(shown[place], place);
+    }
+}
+
+void AttributeTableModel::noteChange(const QModelIndex& first, const QModelIndex& last,
+                                     const QVector<int>& roles)
+{
+    if (!roles.contains(Qt::UserRole)) {
+        return;
+    }
+    for (int row = first.row(); row <= last.row(); ++row) {
+        rows.forget(row);
+        const auto place = places.constFind(row);
+        if (place != places.constEnd() && !paths.isEmpty()) {
+            emit dataChanged(index(*place, 0), index(*place, paths.size() - 1));
+        }
+    }
+}
+
+AttributeTableModel::Key AttributeTableModel::keyOf(int row, const AttributeCell& cell) const
+{
+    Key key;
+    key.row = row;
+    switch (kindOf(cell.value, {})) {
+    case ValueKind::None:
+        key.rank = AbsentRank;
+        break;
+    case ValueKind::Whole:
+    case ValueKind::Real:
+    case ValueKind::Truth:
+        key.number = cell.value.toDouble();
+        // What is no number has no place among them.
+        key.rank = std::isnan(key.number) ? AbsentRank : NumberRank;
+        key.number = std::isnan(key.number) ? 0.0 : key.number;
+        break;
+    case ValueKind::Date:
+    case ValueKind::DateTime:
+        key.rank = NumberRank;
+        key.number = static_cast<double>(cell.value.toDateTime().toMSecsSinceEpoch());
+        break;
+    default:
+        key.rank = TextRank;
+        key.text = text.textOf(cell.value).toCaseFolded();
+    }
+    return key;
+}
+
+/// The name of the attribute, with that of its group where another column has the same.
+QString AttributeTableModel::titleOf(const PropertyPath& path) const
+{
+    const auto hasName = [&path](const PropertyPath& other) { return other.last().name == path.last().name; };
+    return std::count_if(paths.begin(), paths.end(), hasName) < 2 ? path.last().name
+                                                                  : toString(path.mid(path.size() - 2));
+}
+
+} // namespace tolvik::viewer

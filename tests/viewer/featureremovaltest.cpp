@@ -1,0 +1,132 @@
+#include "apps/viewer/edits/FeatureRemoval.h"
+#include "support/Documents.h"
+#include "support/PanelFixture.h"
+#include "support/TestClass.h"
+
+#include <QAbstractItemModelTester>
+#include <QJsonDocument>
+#include <QtTest>
+
+using namespace testsupport;
+using namespace tolvik::viewer;
+
+namespace {
+
+const QByteArray part = "<bldg:consistsOfBuildingPart><bldg:BuildingPart gml:id='part'><bldg:boundedBy>"
+                        "<bldg:WallSurface gml:id='wall'/></bldg:boundedBy></bldg:BuildingPart>"
+                        "</bldg:consistsOfBuildingPart>";
+
+QByteArray town()
+{
+    return documentText(
+        buildingMember("", "a") + "<!--behind a-->" + buildingMember(part, "b") +
+        buildingMember("<bldg:class>2</bldg:class>", "") +
+        buildingMember(part.simplified().replace("'part'", "'q'").replace("'wall'", "'w'"), ""));
+}
+
+QStringList idsOf(tolvik::viewer::Document& document)
+{
+    QStringList ids;
+    for (int row = 0; row < document.model().rowCount(); ++row) {
+        const auto& id = document.model().getFeature(row)->id();
+        ids += id.present() ? QString::fromStdString(id.get()) : "-";
+    }
+    ids.sort();
+    return ids;
+}
+
+} // namespace
+
+/// Features that leave the document and come back.
+class FeatureRemovalTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    static bool remove(PanelFixture& fixture, const FeatureRemoval::Features& features)
+    {
+        QString refusal;
+        auto removal = FeatureRemoval::make(fixture.document(), features, refusal);
+        if (removal) {
+            fixture.document().undoStack().push(removal.release());
+        }
+        return refusal.isEmpty();
+    }
+
+private slots:
+    void aFeatureGoesWithWhatIsInside()
+    {
+        PanelFixture fixture(town());
+        QAbstractItemModelTester tester(&fixture.document().model());
+        QAbstractItemModelTester treeTester(&fixture.document().tree());
+        const QByteArray before = fixture.saved();
+        const QStringList ids = idsOf(fixture.document());
+        gml::AbstractFeatureType* const building = &fixture.feature("b");
+        QSignalSpy removed(&fixture.document().model(), &QAbstractItemModel::rowsRemoved);
+        QVERIFY(remove(fixture, {building}));
+        QCOMPARE(removed.count(), 3);
+        QVERIFY(!fixture.saved().contains("BuildingPart gml:id=\"part\""));
+        QVERIFY(!fixture.saved().contains("gml:id=\"b\""));
+        QVERIFY(fixture.saved().contains("<!--behind a-->"));
+        QVERIFY(fixture.document().undoStack().undoText().contains("Building"));
+        fixture.document().undoStack().undo();
+        QCOMPARE(fixture.saved(), before);
+        QCOMPARE(&fixture.feature("b"), building);
+        QCOMPARE(idsOf(fixture.document()), ids);
+        const QModelIndex index =
+            fixture.document().tree().mapFromSource(fixture.document().model().index(building));
+        QVERIFY(index.isValid());
+        QCOMPARE(fixture.document().tree().rowCount(index), 1);
+        fixture.document().undoStack().redo();
+        QVERIFY(!fixture.saved().contains("gml:id=\"b\""));
+        fixture.document().undoStack().undo();
+        QCOMPARE(fixture.saved(), before);
+    }
+
+    void severalGoInOneStep()
+    {
+        PanelFixture fixture(town());
+        const QByteArray before = fixture.saved();
+        FeatureRemoval::Features all;
+        for (int row = 1; row < fixture.document().model().rowCount(); ++row) {
+            all.push_back(fixture.document().model().getFeature(row));
+        }
+        std::reverse(all.begin(), all.end());
+        all.push_back(all.front());
+        QVERIFY(remove(fixture, all));
+        QCOMPARE(fixture.document().model().rowCount(), 1);
+        QVERIFY(!fixture.saved().contains("Building"));
+        fixture.document().undoStack().undo();
+        QCOMPARE(fixture.saved(), before);
+        fixture.document().undoStack().redo();
+        QVERIFY(!fixture.saved().contains("Building"));
+        fixture.document().undoStack().undo();
+        QCOMPARE(fixture.saved(), before);
+    }
+
+    void theDocumentItselfStays()
+    {
+        PanelFixture fixture(town());
+        QVERIFY(!remove(fixture, {fixture.document().model().getFeature(0)}));
+        QCOMPARE(fixture.document().undoStack().count(), 0);
+    }
+
+    void aRemovalIsRecordedAndMadeAgain()
+    {
+        FeatureRemoval::addMaker();
+        PanelFixture fixture(town());
+        QVERIFY(remove(fixture, {fixture.document().model().getFeature(5), &fixture.feature("wall")}));
+        const auto* const edit = dynamic_cast<const RecordedEdit*>(fixture.document().undoStack().command(0));
+        PanelFixture other(town());
+        const QByteArray before = other.saved();
+        auto made = RecordedEdit::make(edit->kind(), other.document(), edit->record());
+        QVERIFY(made != nullptr);
+        other.document().undoStack().push(made.release());
+        QCOMPARE(other.saved(), fixture.saved());
+        other.document().undoStack().undo();
+        QCOMPARE(other.saved(), before);
+    }
+};
+
+TEST_CLASS(FeatureRemovalTest, Widgets)
+#include "featureremovaltest.moc"
