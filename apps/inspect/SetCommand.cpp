@@ -1,30 +1,19 @@
 #include "SetCommand.h"
 
-#include "apps/common/EditedValues.h"
 #include "apps/common/PropertyPath.h"
+#include "apps/common/PropertyText.h"
 #include "framework/CoreProperty.h"
 #include "gml/AbstractFeatureType.hxx"
 #include "SaveDocument.h"
 #include "UI/Models/CityGMLModel/CityGMLModel.h"
 #include "UI/Models/CityGMLModel/properties/GmlCorePropertyCreator.h"
 
-#include <algorithm>
 #include <ostream>
-#include <QDateTime>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QStringList>
-#include <stdexcept>
-#include <typeinfo>
 
 namespace tolvik::inspect {
 namespace {
 
-/// The edit cannot be done; what() says why.
-struct EditError : std::runtime_error
-{
-    explicit EditError(const QString& reason) : std::runtime_error(reason.toStdString()) {}
-};
+using apps::EditError;
 
 gml::AbstractFeatureType* findFeature(const CityGMLModel& model, const std::string& id)
 {
@@ -36,97 +25,6 @@ gml::AbstractFeatureType* findFeature(const CityGMLModel& model, const std::stri
     return feature;
 }
 
-/// The entries of a list: those of a JSON array, or the text as the only one. An entry is a text, a number or
-/// a truth value.
-/// \param fits becomes false if one is something else
-QVariantList listFromText(const QString& text, bool& fits)
-{
-    const QJsonDocument document = QJsonDocument::fromJson(text.toUtf8());
-    if (!document.isArray()) {
-        return {text};
-    }
-    const QJsonArray array = document.array();
-    fits = std::none_of(array.begin(), array.end(), [](const QJsonValue& entry) {
-        return entry.isNull() || entry.isArray() || entry.isObject();
-    });
-    return array.toVariantList();
-}
-
-/// A text as a value of the kind that the property has. Invalid if it is none.
-QVariant valueFromText(const QString& text, const QVariant& example)
-{
-    bool fits = true;
-    QVariant value;
-    switch (static_cast<QMetaType::Type>(example.userType())) {
-    case QMetaType::Double:
-        value = text.toDouble(&fits);
-        break;
-    case QMetaType::Int:
-    case QMetaType::LongLong:
-        value = text.toLongLong(&fits);
-        break;
-    case QMetaType::ULongLong:
-        value = text.toULongLong(&fits);
-        break;
-    case QMetaType::Bool:
-        fits = text == QLatin1String("true") || text == QLatin1String("false");
-        value = text == QLatin1String("true");
-        break;
-    // Qt reads no further than a date goes, so that it is compared with the whole text.
-    case QMetaType::QDate:
-        value = QDate::fromString(text, Qt::ISODate);
-        fits = value.toDate().isValid() && value.toDate().toString(Qt::ISODate) == text;
-        break;
-    case QMetaType::QDateTime:
-        value = QDateTime::fromString(text, Qt::ISODate);
-        fits = value.toDateTime().isValid() && value.toDateTime().toString(Qt::ISODate) == text;
-        break;
-    case QMetaType::QVariantList:
-        value = listFromText(text, fits);
-        break;
-    default:
-        value = text;
-    }
-    return fits ? value : QVariant();
-}
-
-/// \throws EditError if the value is or has a text that no XML document can hold
-void verifyCharacters(const QString& property, const QVariant& value)
-{
-    if (const auto character = apps::characterOutsideXml(value)) {
-        const QString code = QString::number(*character, 16).toUpper();
-        throw EditError(QStringLiteral("%1 cannot hold the character U+%2, as XML has no such character")
-                            .arg(property, code.rightJustified(4, '0')));
-    }
-}
-
-/// Writes the value into the document.
-/// \throws EditError if the document would not hold the value then
-void edit(CoreProperty& property, const QString& text)
-{
-    if (typeid(property) == typeid(CoreProperty)) {
-        throw EditError(QStringLiteral("%1 cannot be edited").arg(property.name()));
-    }
-    verifyCharacters(property.name(), text);
-    const QVariant current = property.value();
-    const QVariantList literals = property.potentialValues();
-    const QVariant value = literals.isEmpty()
-                               ? valueFromText(text, current.isValid() ? current : property.defaultValue())
-                               : QVariant(text);
-    // A list of numbers is one text of the document. It has a unit, or it is absent, where a list of texts
-    // would have no property.
-    const bool isOneText = property.unit() != nullptr || current.toList().isEmpty();
-    if (!value.isValid() || (!literals.isEmpty() && !literals.contains(value)) ||
-        (value.userType() == QMetaType::QVariantList && isOneText && !apps::areWords(value.toList()))) {
-        throw EditError(QStringLiteral("%1 cannot be \"%2\"").arg(property.name(), text));
-    }
-    verifyCharacters(property.name(), value);
-    property.setValue(value);
-    if (!apps::isSame(property.value(), value)) {
-        throw EditError(QStringLiteral("%1 cannot be set to \"%2\"").arg(property.name(), text));
-    }
-}
-
 /// Edits the value that a path leads to, of an existing attribute or else of one that is made.
 void edit(const CityGMLModel& model, gml::AbstractFeatureType* feature, const QString& path,
           const QString& value)
@@ -136,7 +34,7 @@ void edit(const CityGMLModel& model, gml::AbstractFeatureType* feature, const QS
             GmlCorePropertyCreator::createProperty(feature, existingOnly);
         model.addPropertiesFromProviders(model.index(feature), *root);
         if (CoreProperty* const property = apps::propertyAt(*root, path)) {
-            edit(*property, value);
+            apps::setFromText(*property, value);
             return;
         }
     }

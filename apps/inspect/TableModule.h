@@ -38,6 +38,19 @@ struct TableOptions
     bool append = false;
 };
 
+/// What `tolvik-inspect apply` does, in the words of the user.
+struct ApplyOptions
+{
+    QString table;
+    QString sql;      ///< empty for all tables of the source
+    QString idColumn; ///< empty for the usual one
+    QString out;      ///< one of the two is given
+    QString outDir;   ///< see out
+    QString absent;   ///< empty where no cell removes an attribute
+    bool create = false;
+    bool skipBad = false;
+};
+
 /// The options contradict each other or the target.
 struct TableUsageError : std::runtime_error
 {
@@ -55,6 +68,11 @@ public:
     /// \return the program's exit code: 0, or 1 where something is missing from the tables
     /// \throws TableUsageError before anything is done
     virtual int writeTables(const TableOptions& options, const TableDocuments& documents) = 0;
+
+    /// Sets attributes from tables. Nothing is written where a cell cannot be set, unless that is asked for.
+    /// \return the program's exit code: 0, or 1 where something could not be done
+    /// \throws TableUsageError before anything is done
+    virtual int applyTables(const ApplyOptions& options, const TableDocuments& documents) = 0;
 
     /// The module of the program, loaded when first asked for.
     /// \throws std::runtime_error where it is not there

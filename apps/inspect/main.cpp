@@ -74,6 +74,14 @@ FILE is a CityGML 2.0 document; `-` reads one from standard input.
                          one that is there. Maps get a geometry, a CSV with --geometry; --3d takes
                          the surfaces with their heights. --all adds "Other content"; --append adds
                          rows to tables of a database
+  apply TABLE FILE... (--out OUT | --out-dir DIR) [--id-column COLUMN] [--sql QUERY] [--create]
+        [--absent WORD] [--skip-bad] [--recursive]
+                         set attributes from a table that GDAL reads, with a row a feature and columns
+                         as `table` writes them: gml:id, or COLUMN, names the feature, and `file` its
+                         document. Empty cells leave an attribute alone, and WORD removes it. --create
+                         makes generic attributes of columns that a feature has not, with the unit of
+                         "NAME [unit]". Where a cell cannot be set nothing is written, or with
+                         --skip-bad all others are
   --help                 show this text
   --version              show the version
 
@@ -301,6 +309,29 @@ int table(const QStringList& given)
     }
 }
 
+int apply(const QStringList& given)
+{
+    const Arguments arguments(
+        given, {"TABLE", "FILE..."},
+        {"out=", "out-dir=", "id-column=", "sql=", "absent=", "create", "skip-bad", "recursive"});
+    ApplyOptions options;
+    options.table = arguments.at("TABLE");
+    options.sql = arguments.value("sql");
+    options.idColumn = arguments.value("id-column");
+    options.out = arguments.value("out");
+    options.outDir = arguments.value("out-dir");
+    options.absent = arguments.value("absent");
+    options.create = arguments.has("create");
+    options.skipBad = arguments.has("skip-bad");
+    const DocumentFiles files(arguments.all().mid(1), arguments.has("recursive"), std::cerr);
+    try {
+        const int code = TableModule::load().applyTables(options, tableDocuments(files));
+        return files.areComplete() ? code : failure;
+    } catch (const TableUsageError& error) {
+        throw UsageError(error.what());
+    }
+}
+
 struct Command
 {
     const char* name;
@@ -309,7 +340,7 @@ struct Command
 
 const Command commands[] = {
     {"rows", rows},   {"tree", tree},     {"properties", properties}, {"save", save},   {"set", set},
-    {"check", check}, {"repair", repair}, {"picture", picture},       {"table", table},
+    {"check", check}, {"repair", repair}, {"picture", picture},       {"table", table}, {"apply", apply},
 };
 
 int run(const QStringList& arguments)

@@ -1,3 +1,4 @@
+#include "ApplyCommand.h"
 #include "TableCommand.h"
 #include "TableModule.h"
 
@@ -10,6 +11,12 @@ public:
                     const tolvik::inspect::TableDocuments& documents) override
     {
         return tolvik::inspect::runTable(options, documents);
+    }
+
+    int applyTables(const tolvik::inspect::ApplyOptions& options,
+                    const tolvik::inspect::TableDocuments& documents) override
+    {
+        return tolvik::inspect::runApply(options, documents);
     }
 };
 

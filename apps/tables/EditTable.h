@@ -1,0 +1,66 @@
+#pragma once
+
+#include "apps/tables/CellType.h"
+#include "apps/tables/ColumnPath.h"
+
+#include <optional>
+#include <QString>
+#include <QStringList>
+#include <QVector>
+#include <vector>
+
+namespace tolvik::tables {
+
+/// Where a table of new values is read from.
+struct EditSource
+{
+    QString path; ///< what OGR opens: a file, a folder of CSV files, a database
+    QString idColumn = QStringLiteral("gml:id"); ///< column that names the feature
+    QString query; ///< SQL that makes the table; empty for all tables of the source
+};
+
+/// New values for the attributes of features.
+struct EditTable
+{
+    /// What the cells of a column say.
+    enum class Role {
+        Value,  ///< the value of a property
+        Name,   ///< the first name of the feature
+        Parent, ///< what the table may tell, and cannot change
+        Type,   ///< the same
+    };
+
+    struct Column
+    {
+        QString name; ///< as it stands in the table
+        Role role = Role::Value;
+        ColumnPath path;
+        QString unit;                 ///< of all values; empty where the table tells none
+        int unitColumn = -1;          ///< index of the column that has the units; -1 for none
+        std::optional<CellType> type; ///< where the source has types
+    };
+
+    struct Row
+    {
+        QString id;
+        QString file; ///< empty where the table names none
+        qint64 line = 0;
+        QVector<QString> cells; ///< in the order of the columns; an empty one says nothing
+    };
+
+    /// Reads all tables that a source has for features.
+    /// \param remarks gets what was left out, a line each
+    /// \throws TableError where it cannot be read, or none of its tables has the column of identifiers
+    static std::vector<EditTable> read(const EditSource& source, QStringList& remarks);
+
+    /// The type that all cells of a column fit, where the source has no types.
+    CellType typeOf(int column) const;
+
+    QString name;
+    /// How people count the rows of the source: as lines of a text or spreadsheet, or as rows.
+    QString lineWord;
+    QVector<Column> columns;
+    std::vector<Row> rows;
+};
+
+} // namespace tolvik::tables

@@ -1,0 +1,250 @@
+#include "support/Documents.h"
+#include "support/Files.h"
+#include "support/Processes.h"
+#include "support/TestClass.h"
+#include "support/TestPaths.h"
+
+#include <memory>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace testsupport;
+
+namespace {
+
+QByteArray house(const QByteArray& id, const QByteArray& height)
+{
+    return buildingMember("<gen:stringAttribute name='owner'><gen:value>Ada</gen:value></gen:stringAttribute>"
+                          "<bldg:function codeSpace='c'>1000</bldg:function>"
+                          "<bldg:yearOfConstruction>1900</bldg:yearOfConstruction>"
+                          "<bldg:measuredHeight uom='m'>" +
+                              height + "</bldg:measuredHeight>",
+                          id);
+}
+
+} // namespace
+
+/// `tolvik-inspect apply`.
+class ApplyCommandTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    QString path(const QString& name) const { return directory->filePath(name); }
+    QByteArray shown(const QString& name) const { return path(name).toUtf8(); }
+
+    /// Applies a table to a document of two houses.
+    ProcessResult apply(const QByteArray& table, const QStringList& options = {}) const
+    {
+        if (!writeFile(path("t.csv"), table)) {
+            return {-1, {}, {}};
+        }
+        return inspect(QStringList{"apply", path("t.csv"), path("a.gml"), "--out", path("out.gml")} +
+                       options);
+    }
+
+    /// The document that was written, with one of its texts taken back to what the input has.
+    QByteArray written(const QByteArray& changed, const QByteArray& former) const
+    {
+        return contentOf(path("out.gml")).replace(changed, former);
+    }
+
+    /// What a save writes without an edit.
+    QByteArray saved(const QString& name) const
+    {
+        return inspect({"save", path(name), path("saved.gml")}).code == 0 ? contentOf(path("saved.gml"))
+                                                                          : QByteArray();
+    }
+
+    std::unique_ptr<QTemporaryDir> directory;
+
+private slots:
+    void init()
+    {
+        directory = std::make_unique<QTemporaryDir>();
+        QVERIFY(directory->isValid());
+        QVERIFY(writeFile(path("a.gml"), documentText(house("one", "12.50") + house("two", "7"))));
+        QVERIFY(writeFile(path("b.gml"), documentText(house("three", "3"))));
+    }
+
+    void aCellChangesTheAttributeThatItNames()
+    {
+        const ProcessResult result = apply("gml:id,Fields/MeasuredHeight,gen:owner\ntwo,8.25,\n");
+        QCOMPARE(result.err, QByteArray());
+        QCOMPARE(result.code, 0);
+        QVERIFY(contentOf(path("out.gml")).contains(">8.25<"));
+        QCOMPARE(written(">8.25<", ">7<"), saved("a.gml"));
+    }
+
+    void whatIsShownAlreadyChangesNothing()
+    {
+        const ProcessResult result =
+            apply("gml:id,Fields/MeasuredHeight,Fields/YearOfConstruction,Fields/Function,"
+                  "gen:owner,type\n"
+                  "one,12.5,1900,\"[\"\"1000\"\"]\",Ada,Building\ntwo,,,,,\n");
+        QCOMPARE(result.err, QByteArray());
+        QCOMPARE(result.code, 0);
+        QCOMPARE(contentOf(path("out.gml")), contentOf(path("a.gml")));
+    }
+
+    void anExportedTableChangesNothing_data()
+    {
+        QTest::addColumn<QString>("document");
+        QTest::addColumn<QString>("target");
+        for (const char* const target : {"t", "t.gpkg", "t.xlsx"}) {
+            QTest::newRow(target) << examples() + "/district.gml" << target;
+        }
+        QTest::newRow("energy") << examples() + "/energy.gml"
+                                << "t.gpkg";
+        QTest::newRow("ladmfr") << examples() + "/ladmfr.gml"
+                                << "t.xlsx";
+    }
+
+    void anExportedTableChangesNothing()
+    {
+        QFETCH(QString, document);
+        QFETCH(QString, target);
+        QCOMPARE(inspect({"table", document, "--out", path(target)}).code, 0);
+        const ProcessResult result = inspect({"apply", path(target), document, "--out", path("out.gml")});
+        QVERIFY2(result.code == 0, result.err);
+        QVERIFY(contentOf(path("out.gml")) == contentOf(document));
+    }
+
+    void nothingIsWrittenWhereACellIsWrong_data()
+    {
+        QTest::addColumn<QByteArray>("table");
+        QTest::addColumn<QByteArray>("reason");
+        QTest::newRow("unknown feature") << QByteArray("gml:id,gen:owner\ntwo,Bo\nnone,Bo\n")
+                                         << QByteArray("t: line 3: none: no document has such a feature\n");
+        QTest::newRow("unknown attribute")
+            << QByteArray("gml:id,gen:owner,gen:tenant\none,Bo,\ntwo,Bo,Cy\n")
+            << QByteArray("t: line 3: two: gen:tenant: the feature has no such "
+                          "attribute\n");
+        QTest::newRow("no number") << QByteArray("gml:id,gen:owner,Fields/MeasuredHeight\none,Bo,tall\n")
+                                   << QByteArray(
+                                          "t: line 2: one: Fields/MeasuredHeight: MeasuredHeight cannot be "
+                                          "\"tall\"\n");
+        QTest::newRow("other unit")
+            << QByteArray("gml:id,gen:owner,Fields/MeasuredHeight [ft]\none,Bo,3\n")
+            << QByteArray("t: line 2: one: Fields/MeasuredHeight [ft]: the unit is \"m\", and "
+                          "not \"ft\"\n");
+        QTest::newRow("unit of the row")
+            << QByteArray("gml:id,gen:owner,Fields/MeasuredHeight,"
+                          "Fields/MeasuredHeight/@uom\none,Bo,3,ft\n")
+            << QByteArray("t: line 2: one: Fields/MeasuredHeight: the unit is \"m\"");
+        QTest::newRow("type") << QByteArray("gml:id,gen:owner,type\none,Bo,Bridge\n")
+                              << QByteArray("t: line 2: one: type: it is \"Building\"");
+    }
+
+    void nothingIsWrittenWhereACellIsWrong()
+    {
+        QFETCH(QByteArray, table);
+        QFETCH(QByteArray, reason);
+        const ProcessResult result = apply(table);
+        QCOMPARE(result.code, 1);
+        QVERIFY2(result.err.contains("tolvik-inspect: " + reason), result.err);
+        QVERIFY(!QFile::exists(path("out.gml")));
+        // All else is written on demand, and what is wrong leaves its attribute as it was.
+        QCOMPARE(apply(table, {"--skip-bad"}).code, 1);
+        QVERIFY(contentOf(path("out.gml")).contains(">Bo<"));
+        QVERIFY(written(">Bo<", ">Ada<") == saved("a.gml"));
+    }
+
+    void aWordTakesAttributesOut()
+    {
+        const ProcessResult result =
+            apply("gml:id,Fields/MeasuredHeight,gen:owner,Fields/RoofType\none,NULL,NULL,NULL\n",
+                  {"--absent", "NULL"});
+        QCOMPARE(result.err, QByteArray());
+        QCOMPARE(result.code, 0);
+        const QByteArray text = contentOf(path("out.gml"));
+        QCOMPARE(text.count("measuredHeight>"), 1);
+        QCOMPARE(text.count("stringAttribute>"), 1);
+        QVERIFY(text.contains(">7<"));
+    }
+
+    void unknownColumnsBecomeGenericAttributesOnDemand()
+    {
+        const ProcessResult result = apply("gml:id,gen:demand [kWh],floors,gen:note,gen:seen,gen:share\n"
+                                           "one,12.5,3,a b,2020-02-03,0.5\ntwo,7,,,,\n",
+                                           {"--create"});
+        QCOMPARE(result.err, QByteArray());
+        QCOMPARE(result.code, 0);
+        QCOMPARE(inspect({"table", path("out.gml"), "--type", "Building", "--columns",
+                          "gen:demand,gen:floors,gen:note,gen:seen,gen:share", "--out", path("b")})
+                     .code,
+                 0);
+        const QByteArray columns = contentOf(path("b/columns.csv"));
+        QVERIFY2(columns.contains(
+                     "Building,gen:demand,real,kWh\nBuilding,gen:floors,whole,\nBuilding,gen:note,text,\n"
+                     "Building,gen:seen,date,\nBuilding,gen:share,real,\n"),
+                 columns);
+        const QByteArray table = contentOf(path("b/Building.csv"));
+        QVERIFY2(table.contains(",12.5,3,a b,2020-02-03,0.5\n") && table.contains(",7,,,,\n"), table);
+    }
+
+    void theNameIsTheFirstOne()
+    {
+        QCOMPARE(apply("gml:id,name\none,Lantern House\n").code, 0);
+        QVERIFY(contentOf(path("out.gml")).contains("<gml:name>Lantern House</gml:name>"));
+    }
+
+    void severalDocumentsAreWrittenToAFolder()
+    {
+        QVERIFY(writeFile(path("t.csv"), "gml:id,gen:owner\none,Bo\nthree,Cy\n"));
+        const ProcessResult result =
+            inspect({"apply", path("t.csv"), path("a.gml"), path("b.gml"), "--out-dir", path("out")});
+        QCOMPARE(result.err, QByteArray());
+        QCOMPARE(result.code, 0);
+        QVERIFY(contentOf(path("out/a.gml")).contains(">Bo<"));
+        QVERIFY(contentOf(path("out/b.gml")).contains(">Cy<"));
+    }
+
+    void aFeatureOfSeveralDocumentsNeedsTheFile()
+    {
+        QVERIFY(QDir(directory->path()).mkdir("other"));
+        QVERIFY(writeFile(path("other/c.gml"), documentText(house("one", "1"))));
+        QVERIFY(writeFile(path("t.csv"), "gml:id,gen:owner\none,Bo\n"));
+        const QStringList command{"apply",     path("t.csv"), path("a.gml"), path("other/c.gml"),
+                                  "--out-dir", path("out")};
+        ProcessResult result = inspect(command);
+        QCOMPARE(result.code, 1);
+        QVERIFY2(result.err.contains("line 2: one: the feature is in " + shown("a.gml") + " and in " +
+                                     shown("other/c.gml")),
+                 result.err);
+        QVERIFY(!QFile::exists(path("out/a.gml")));
+        QVERIFY(writeFile(path("t.csv"), "gml:id,file,gen:owner\none,elsewhere/c.gml,Bo\n"));
+        result = inspect(command);
+        QCOMPARE(result.err, QByteArray());
+        QCOMPARE(contentOf(path("out/a.gml")), contentOf(path("a.gml")));
+        QVERIFY(contentOf(path("out/c.gml")).contains(">Bo<"));
+    }
+
+    void aQueryMakesATable()
+    {
+        QCOMPARE(inspect({"table", path("a.gml"), "--out", path("t.gpkg")}).code, 0);
+        const ProcessResult result =
+            inspect({"apply", path("t.gpkg"), path("a.gml"), "--out", path("out.gml"), "--sql",
+                     "SELECT \"gml:id\" AS key, 'from SQL' AS \"gen:owner\" FROM Building WHERE "
+                     "\"Fields/MeasuredHeight\" < 10",
+                     "--id-column", "key"});
+        QCOMPARE(result.err, QByteArray());
+        QCOMPARE(written("from SQL", "Ada"), saved("a.gml"));
+        QVERIFY(contentOf(path("out.gml")).contains("from SQL"));
+    }
+
+    void whatIsNoTableIsTold()
+    {
+        QCOMPARE(inspect({"apply", path("none.csv"), path("a.gml"), "--out", path("out.gml")}).code, 1);
+        const ProcessResult result = apply("name,height\nx,1\n");
+        QCOMPARE(result.code, 1);
+        QVERIFY2(result.err.contains("has no table with a column gml:id"), result.err);
+        QCOMPARE(inspect({"apply", path("t.csv"), path("a.gml")}).code, 2);
+        QCOMPARE(inspect({"apply", path("t.csv"), path("a.gml"), path("b.gml"), "--out", path("o")}).code, 2);
+    }
+};
+
+TEST_CLASS(ApplyCommandTest, None)
+#include "applycommandtest.moc"
