@@ -101,7 +101,9 @@ FeatureBrowser::FeatureBrowser(Document& document, QWidget* parent)
     flatList->header()->setSortIndicator(-1, Qt::AscendingOrder);
     flatList->setSortingEnabled(true);
     for (QTreeView* const view : {wholeTree, filteredTree}) {
-        view->setColumnWidth(0, 240);
+        view->header()->setStretchLastSection(false);
+        view->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+        view->setColumnWidth(1, 120);
     }
     flatList->setColumnWidth(0, 150);
     flatList->setColumnWidth(1, 110);

@@ -226,7 +226,7 @@ void MainWindow::makePanels()
         addPanel(tr("Findings"), QStringLiteral("findingsPanel"), findings, Qt::BottomDockWidgetArea);
     tabifyDockWidget(tableDock, findingsDock);
     tabifyDockWidget(findingsDock, logDock);
-    resizeDocks({panels.first()}, {360}, Qt::Horizontal);
+    resizeDocks({panels.first()}, {400}, Qt::Horizontal);
     resizeDocks({logDock}, {150}, Qt::Vertical);
     connect(features, &FeatureBrowser::menuRequested, actionsOfFeatures, &FeatureActions::popUp);
     connect(findings, &FindingsPanel::featureRequested, this, &MainWindow::goToIdentifier);
