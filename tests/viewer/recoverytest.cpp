@@ -4,6 +4,7 @@
 #include "apps/viewer/files/FileCommands.h"
 #include "apps/viewer/recovery/Journal.h"
 #include "support/Files.h"
+#include "support/PanelFixture.h"
 #include "support/TestClass.h"
 #include "support/TestPaths.h"
 #include "viewer/OpenedWindow.h"
@@ -86,6 +87,12 @@ private slots:
         opened.open(qEnvironmentVariable(victim));
         rename(opened.document(), 1, "One");
         rename(opened.document(), 2, "Two");
+        QTreeView* const properties = opened.view("propertyTree");
+        opened.select({"annex"});
+        QTRY_VERIFY(cellAt(*properties, "Fields/MeasuredHeight").isValid());
+        typeInto(*properties, cellAt(*properties, "Fields/MeasuredHeight"), "5.25");
+        opened.select({"walk"});
+        opened.action("removeFeature")->trigger();
         rename(opened.document(), 3, "Three");
         opened.document().undoStack().undo();
         rename(opened.document(), 4, "Four");
@@ -102,7 +109,7 @@ private slots:
         QVERIFY(kill());
         OpenedWindow opened(QString{});
         offer(opened);
-        QVERIFY2(notice(opened).contains("3 unsaved"), qPrintable(notice(opened)));
+        QVERIFY2(notice(opened).contains("5 unsaved"), qPrintable(notice(opened)));
         recover(opened);
         QTRY_COMPARE(name(opened, 1), QString("One"));
         QCOMPARE(name(opened, 2), QString("Two"));
@@ -114,8 +121,11 @@ private slots:
         QCOMPARE(name(opened, 5), QString("Five"));
         // The edits are in the journal of this window, and no longer in that of the killed one.
         QTRY_COMPARE(journals().size(), 1);
+        QCOMPARE(opened.row("walk"), -1);
         opened.action("save")->trigger();
         QVERIFY(contentOf(file()).contains("Five"));
+        QVERIFY(contentOf(file()).contains(">5.25</bldg:measuredHeight>"));
+        QVERIFY(!contentOf(file()).contains("Heritage walk"));
         QCOMPARE(journals(), QStringList());
     }
 
