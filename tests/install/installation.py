@@ -59,8 +59,23 @@ def install():
 
 
 def program():
-    rows = output(os.path.join(PREFIX, "bin/tolvik-inspect"), "rows", EXAMPLE)
-    expect("lantern-house" in rows, "the installed program shows no rows")
+    """The terminal tool, and a man page that knows all its commands and options."""
+    tool = os.path.join(PREFIX, "bin/tolvik-inspect")
+    expect("lantern-house" in output(tool, "rows", EXAMPLE), "the installed program shows no rows")
+    with open(os.path.join(PREFIX, "share/man/man1/tolvik-inspect.1"), encoding="utf-8") as file:
+        page = file.read().replace("\\-", "-")
+    told = output(tool, "--help")
+    for word in re.findall(r"^  (\w+) FILE", told, re.M) + re.findall(r"--[a-z-]+", told):
+        expect(re.search(r"(^|\s)%s\b" % re.escape(word), page), "the man page does not tell of " + word)
+
+
+def viewer():
+    """The desktop program, which finds the plug-in of its installation."""
+    picture = os.path.join(WORK, "viewer.png")
+    run(os.path.join(PREFIX, "bin/tolvik-viewer"), EXAMPLE, "--picture", picture, timeout=60, env=dict(os.environ, HOME=WORK))
+    expect(os.path.exists(picture), "the installed viewer shows no window")
+    for path in ("applications/tolvik-viewer.desktop", "icons/hicolor/scalable/apps/tolvik-viewer.svg"):
+        expect(os.path.exists(os.path.join(PREFIX, "share", path)), "there is no " + path)
 
 
 def hand_written():
@@ -181,5 +196,43 @@ def pkgconfig():
     run(host, EXAMPLE)
 
 
+# What lintian finds that is as it is: no licence was chosen.
+ALLOWED_TAGS = ("copyright-without-copyright-notice", "no-copyright-file")
+
+
+def packages():
+    """Packages as Debian splits them, which work when they are unpacked."""
+    folder = os.path.join(WORK, "packages")
+    shutil.rmtree(folder, ignore_errors=True)
+    run("cpack", "-G", "DEB", "--config", os.path.join(BUILD, "CPackConfig.cmake"), "-B", folder, stdout=subprocess.DEVNULL)
+    files = {name.partition("_")[0]: os.path.join(folder, name) for name in os.listdir(folder) if name.endswith(".deb")}
+    wanted = {
+        "libtolvik0.2": r"/usr/lib/libCityGMLModel\.so\.0\.2\b",
+        "tolvik-plugin": r"/usr/lib/tolvik/plugins/CityGMLModelPlugin\.so",
+        "tolvik": r"/usr/share/man/man1/tolvik-inspect\.1\.gz",
+        "libtolvik-dev": r"/usr/include/tolvik/binding/bldg/BuildingType\.hxx",
+        "tolvik-doc": r"/usr/share/doc/tolvik-doc/docs/hosts\.md",
+    }
+    expect(files.keys() == wanted.keys(), "the packages are " + ", ".join(sorted(files)))
+    root = os.path.join(folder, "root")
+    contents = {}
+    for name, path in files.items():
+        for file in re.findall(r" \.(/\S*[^/\s])(?: -> .*)?$", output("dpkg-deb", "-c", path), re.M):
+            expect(file not in contents, "%s is in two packages" % file)
+            contents[file] = name
+        run("dpkg-deb", "-x", path, root)
+    for name, pattern in wanted.items():
+        expect(any(re.fullmatch(pattern + ".*", file) for file in contents if contents[file] == name),
+               "%s has no %s" % (name, pattern))
+    expect("lantern-house" in output(os.path.join(root, "usr/bin/tolvik-inspect"), "rows", EXAMPLE),
+           "the packed program shows no rows")
+    if shutil.which("lintian"):
+        found = output("sh", "-c", 'lintian --tag-display-limit 0 --fail-on none "$@"', "sh", *files.values())
+        print(found)
+        faults = [line for line in found.split("\n") if line.startswith("E:") and not any(tag in line for tag in ALLOWED_TAGS)]
+        expect(not faults, "\n".join(faults))
+
+
 if __name__ == "__main__":
-    {test.__name__: test for test in (install, program, headers, each_header, widgets, qml, python, pkgconfig)}[sys.argv[1]]()
+    tests = (install, program, viewer, headers, each_header, widgets, qml, python, pkgconfig, packages)
+    {test.__name__: test for test in tests}[sys.argv[1]]()

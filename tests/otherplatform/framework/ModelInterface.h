@@ -1,0 +1,11 @@
+#pragma once
+
+namespace tolvik {
+
+class ModelInterface
+{
+public:
+    virtual ~ModelInterface() = default;
+};
+
+} // namespace tolvik
