@@ -64,7 +64,7 @@ MainWindow::MainWindow(QWidget* parent)
     makeMenus();
     makeToolBar();
     connectDocument();
-    resize(1280, 800);
+    resize(1440, 900);
     restoreLayout();
     updateTitle();
 }
@@ -226,7 +226,8 @@ void MainWindow::makePanels()
         addPanel(tr("Findings"), QStringLiteral("findingsPanel"), findings, Qt::BottomDockWidgetArea);
     tabifyDockWidget(tableDock, findingsDock);
     tabifyDockWidget(findingsDock, logDock);
-    resizeDocks({panels.first()}, {400}, Qt::Horizontal);
+    resizeDocks({panels.first(), findChild<QDockWidget*>(QStringLiteral("propertiesDock"))}, {360, 420},
+                Qt::Horizontal);
     resizeDocks({logDock}, {150}, Qt::Vertical);
     connect(features, &FeatureBrowser::menuRequested, actionsOfFeatures, &FeatureActions::popUp);
     connect(findings, &FindingsPanel::featureRequested, this, &MainWindow::goToIdentifier);
