@@ -17,6 +17,11 @@ namespace {
 // Several screens of rows.
 constexpr int mostRowsAtHand = 1000;
 
+QString unitOf(const CoreProperty& property)
+{
+    return property.unit() != nullptr ? property.unit()->name() : QString();
+}
+
 AttributeCell cellOf(CoreProperty& property)
 {
     const bool isBound = typeid(property) != typeid(CoreProperty);
@@ -28,9 +33,7 @@ AttributeCell cellOf(CoreProperty& property)
     cell.isEditable = isBound && property.editable();
     const auto* const bound = dynamic_cast<const BoundProperty*>(&property);
     cell.isPresent = bound != nullptr ? bound->present() : cell.value.isValid();
-    if (property.unit() != nullptr) {
-        cell.unit = property.unit()->name();
-    }
+    cell.unit = unitOf(property);
     return cell;
 }
 
@@ -93,6 +96,23 @@ QVector<AttributeCell> AttributeRows::cellsOf(int row) const
     for (int column = 0; column < columns.size(); ++column) {
         if (CoreProperty* const property = findProperty(*tree, columns[column])) {
             cells[column] = cellOf(*property);
+        }
+    }
+    return cells;
+}
+
+QVector<AttributeCell> AttributeRows::valuesOf(int row, int firstColumn, int lastColumn) const
+{
+    QVector<AttributeCell> cells(columns.size());
+    gml::AbstractFeatureType* const feature = model.getFeature(row);
+    if (feature == nullptr || firstColumn < 0 || lastColumn >= columns.size()) {
+        return cells;
+    }
+    const Fondo::RefPtr<CoreProperty> tree = treeOf(*feature);
+    for (int column = firstColumn; column <= lastColumn; ++column) {
+        if (CoreProperty* const property = findProperty(*tree, columns[column])) {
+            cells[column].value = editedValueOf(*property);
+            cells[column].unit = unitOf(*property);
         }
     }
     return cells;

@@ -35,8 +35,9 @@ public:
 
     /// The cell of a row of the model. It is valid until the next call.
     const AttributeCell& cell(int row, int column);
-    /// The same for a feature that is passed by once: nothing stays at hand.
-    QVector<AttributeCell> cellsOf(int row) const;
+    /// The value and the unit of cells of a row that is passed by once: nothing stays at hand. Of the other
+    /// cells nothing is told.
+    QVector<AttributeCell> valuesOf(int row, int firstColumn, int lastColumn) const;
 
     /// Adds the paths that lead to attributes of the feature, where they are new.
     /// \param[in,out] paths in the order of the property trees
@@ -45,6 +46,7 @@ public:
                              QVector<bool>& isUsed);
 
 private:
+    QVector<AttributeCell> cellsOf(int row) const;
     Fondo::RefPtr<CoreProperty> treeOf(gml::AbstractFeatureType& feature) const;
 
     const CityGMLModel& model;

@@ -126,6 +126,8 @@ void AttributeTable::makeTable()
     view->setTabKeyNavigation(false);
     view->horizontalHeader()->setSectionsMovable(true);
     view->horizontalHeader()->setHighlightSections(false);
+    // Widths are those of the rows that are seen first: to ask for more takes long.
+    view->horizontalHeader()->setResizeContentsPrecision(0);
     view->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     view->verticalHeader()->setDefaultSectionSize(view->fontMetrics().height() + 8);
     setFocusProxy(view);
@@ -297,7 +299,7 @@ void AttributeTable::copyCells(bool withTitles)
     QMap<int, int> columns;
     const QHeaderView& header = *view->horizontalHeader();
     for (const CellRun& run : selectedCells()) {
-        const QVector<AttributeCell> cells = model->cellsOf(run.row);
+        const QVector<AttributeCell> cells = model->valuesOf(run.row, run.first, run.last);
         for (int column = run.first; column <= run.last; ++column) {
             columns[header.visualIndex(column)] = column;
             texts[run.row][column] = quoted(model->textOf(cells[column]));
@@ -347,8 +349,8 @@ void AttributeTable::figureSoon()
 
 void AttributeTable::figure(const CellRun& run)
 {
-    const QVector<AttributeCell> cells = model->cellsOf(run.row);
-    for (int column = run.first; column <= run.last && column < cells.size(); ++column) {
+    const QVector<AttributeCell> cells = model->valuesOf(run.row, run.first, run.last);
+    for (int column = run.first; column <= run.last; ++column) {
         const ValueKind kind = kindOf(cells[column].value, {});
         if (kind == ValueKind::Whole || kind == ValueKind::Real) {
             figures.add(cells[column].value.toDouble(), cells[column].unit);

@@ -13,6 +13,8 @@ namespace tolvik::viewer {
 
 namespace {
 
+constexpr int featuresToAsk = 50;
+
 enum Rank { NumberRank, TextRank, AbsentRank };
 
 QString withUnit(const QString& value, const QString& unit)
@@ -41,6 +43,7 @@ void AttributeTableModel::setType(const std::string& label)
     all = rowsOf(label);
     setShown(all);
     rows.forgetAll();
+    editable.clear();
     endResetModel();
     arrange();
 }
@@ -51,6 +54,7 @@ void AttributeTableModel::setColumns(const QVector<PropertyPath>& newPaths)
     beginResetModel();
     paths = newPaths;
     rows.setColumns(paths);
+    editable.clear();
     endResetModel();
     arrange();
 }
@@ -149,7 +153,28 @@ Qt::ItemFlags AttributeTableModel::flags(const QModelIndex& index) const
         return Qt::NoItemFlags;
     }
     const Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
-    return cell(index).isEditable ? flags | Qt::ItemIsEditable : flags;
+    return isEditable(index.column()) ? flags | Qt::ItemIsEditable : flags;
+}
+
+/// Whether a feature among the first ones has an attribute in the column that can be edited. A cell without
+/// an attribute has no editor.
+bool AttributeTableModel::isEditable(int column) const
+{
+    const auto known = editable.constFind(column);
+    if (known != editable.constEnd()) {
+        return *known;
+    }
+    bool isThere = false;
+    bool isOne = false;
+    for (int i = 0; i < std::min(all.size(), featuresToAsk) && !isOne; ++i) {
+        const AttributeCell& cell = rows.cell(all[i], column);
+        isThere = isThere || cell.isThere;
+        isOne = cell.isEditable;
+    }
+    // Where none of them can have it, others do, and an edit finds out.
+    isOne = isOne || !isThere;
+    editable.insert(column, isOne);
+    return isOne;
 }
 
 void AttributeTableModel::sort(int column, Qt::SortOrder order)
@@ -187,12 +212,14 @@ void AttributeTableModel::arrange()
 
 void AttributeTableModel::readRow(int row)
 {
-    const QVector<AttributeCell> cells = rows.cellsOf(row);
+    const int sortColumn = paths.indexOf(sortPath);
+    const QVector<AttributeCell> cells =
+        isFiltered() ? rows.valuesOf(row, 0, paths.size() - 1) : rows.valuesOf(row, sortColumn, sortColumn);
     const bool isWanted = !isFiltered() || std::any_of(cells.begin(), cells.end(), [this](const auto& cell) {
         return textOf(cell).contains(filter, Qt::CaseInsensitive);
     });
     if (isWanted) {
-        keys.append(keyOf(row, cells.value(paths.indexOf(sortPath))));
+        keys.append(keyOf(row, cells.value(sortColumn)));
     }
 }
 

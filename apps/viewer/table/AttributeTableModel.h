@@ -48,8 +48,11 @@ public:
     const AttributeCell& cell(const QModelIndex& index) const;
     /// The whole text of a cell, with its unit.
     QString textOf(const AttributeCell& cell) const;
-    /// The cells of a row, read anew.
-    QVector<AttributeCell> cellsOf(int row) const { return rows.cellsOf(shown[row]); }
+    /// The values of cells of a row that is passed by once, see AttributeRows::valuesOf().
+    QVector<AttributeCell> valuesOf(int row, int firstColumn, int lastColumn) const
+    {
+        return rows.valuesOf(shown[row], firstColumn, lastColumn);
+    }
 
     bool isBusy() const { return work.isRunning(); }
 
@@ -75,6 +78,7 @@ private:
 
     QVector<int> rowsOf(const std::string& label) const;
     void arrange();
+    bool isEditable(int column) const;
     void readRow(int row);
     void showArranged();
     void showRows(QVector<int> wanted);
@@ -87,6 +91,9 @@ private:
     Document& document;
     QVector<PropertyPath> paths;
     mutable AttributeRows rows;
+    /// Of each column, whether it can be edited, as far as its first features tell; views ask for the flags
+    /// of all cells of a column.
+    mutable QHash<int, bool> editable;
     ValueText text;
 
     QVector<int> all;       ///< rows of the document's model
