@@ -134,9 +134,9 @@ def each_header():
             compile_headers(name + "/AllTypes.h")
 
 
-def build_host(name):
+def build_host(name, folder="examples"):
     build = os.path.join(WORK, name)
-    run("cmake", "-G", "Ninja", "-S", os.path.join(SOURCE, "examples", name), "-B", build,
+    run("cmake", "-G", "Ninja", "-S", os.path.join(SOURCE, folder, name), "-B", build,
         "-D", "CMAKE_PREFIX_PATH=" + PREFIX, "-D", "CMAKE_BUILD_TYPE=Release", stdout=subprocess.DEVNULL)
     run("cmake", "--build", build)
     return build
@@ -196,6 +196,16 @@ def pkgconfig():
     run(host, EXAMPLE)
 
 
+def bindings():
+    """A program with a second binding: neither takes operations of the other's containers for its own."""
+    build = build_host("secondbinding", "tests/install")
+    run(os.path.join(build, "secondbinding"), EXAMPLE)
+    for library in (os.path.join(PREFIX, "lib/libCityGMLBinding.so"), os.path.join(build, "libownbinding.so")):
+        exported = output("nm", "-D", "-C", "--defined-only", library)
+        containers = re.findall(r"^\S+ \w (?:\w+ )*xsd::cxx::tree::(?:one|optional|sequence)<.*", exported, re.M)
+        expect(not containers, library + " exports " + "\n".join(containers))
+
+
 # What lintian finds that is as it is: no licence was chosen.
 ALLOWED_TAGS = ("copyright-without-copyright-notice", "no-copyright-file")
 
@@ -234,5 +244,5 @@ def packages():
 
 
 if __name__ == "__main__":
-    tests = (install, program, viewer, headers, each_header, widgets, qml, python, pkgconfig, packages)
+    tests = (install, program, viewer, headers, each_header, widgets, qml, python, pkgconfig, bindings, packages)
     {test.__name__: test for test in tests}[sys.argv[1]]()
