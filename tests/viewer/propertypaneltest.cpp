@@ -1,8 +1,10 @@
 #include "apps/viewer/properties/PropertyPanel.h"
 #include "apps/viewer/properties/ListEditor.h"
 #include "support/Documents.h"
+#include "support/Files.h"
 #include "support/PanelFixture.h"
 #include "support/TestClass.h"
+#include "support/TestPaths.h"
 
 #include <QInputDialog>
 #include <QLabel>
@@ -164,6 +166,131 @@ private slots:
         QCOMPARE(panel.saved(), before);
         panel.stack().redo();
         QVERIFY(panel.saved().contains(written));
+    }
+
+    void whatStandsWithAValueStays_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QByteArray>("written");
+        const auto add = [](const char* name, const QByteArray& content, const char* path, const char* typed,
+                            const QByteArray& written) {
+            QTest::newRow(name) << content << path << typed << written;
+        };
+        add("code space", "<bldg:class codeSpace=\"x\">1000</bldg:class>", "Fields/Class", "1010",
+            "<bldg:class codeSpace=\"x\">1010</bldg:class>");
+        add("zone", "<bldg:yearOfConstruction>1904+01:00</bldg:yearOfConstruction>",
+            "Fields/YearOfConstruction", "1905", ">1905+01:00</bldg:yearOfConstruction>");
+        add("more than 32 bits", "<bldg:storeysAboveGround>3</bldg:storeysAboveGround>",
+            "Fields/StoreysAboveGround", "9007199254740993", ">9007199254740993</bldg:storeysAboveGround>");
+        add("spelling of a link",
+            "<gen:uriAttribute name=\"a\"><gen:value>https://town.example/a%20b?c=%C3%BC</gen:value>"
+            "</gen:uriAttribute>",
+            "Fields/a", "https://town.example/a%20b?c=%C3%BC&d", "a%20b?c=%C3%BC&amp;d</gen:value>");
+    }
+
+    void whatStandsWithAValueStays()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(QString, path);
+        QFETCH(QString, typed);
+        QFETCH(QByteArray, written);
+        Panel panel(documentWithBuilding(content));
+        const QByteArray before = panel.saved();
+        panel.type(path, typed);
+        QCOMPARE(panel.message(), QString());
+        QVERIFY2(panel.saved().contains(written), panel.saved());
+        panel.undo();
+        QCOMPARE(panel.saved(), before);
+    }
+
+    void entriesOfAListKeepTheirCodeSpaces()
+    {
+        Panel panel(documentWithBuilding("<bldg:function codeSpace=\"a\">1</bldg:function>"
+                                         "<bldg:function codeSpace=\"b\">2</bldg:function>"
+                                         "<bldg:function codeSpace=\"c\">3</bldg:function>"));
+        const QByteArray before = panel.saved();
+        auto* const list = qobject_cast<ListEditor*>(openEditor(panel.view(), panel.cell("Fields/Function")));
+        QVERIFY(list != nullptr);
+        auto* const table = list->findChild<QTableWidget*>();
+        table->item(1, 0)->setText("9");
+        table->setCurrentCell(2, 0);
+        list->addEntry();
+        table->item(3, 0)->setText("4");
+        table->setCurrentCell(0, 0);
+        list->removeEntry();
+        QTest::mouseClick(list->findChild<QToolButton*>("finish"), Qt::LeftButton);
+        QTest::qWait(10);
+        QCOMPARE(panel.text("Fields/Function"), "9; 3; 4");
+        QVERIFY2(panel.saved().contains(">3</bldg:function>"), panel.saved());
+        panel.undo();
+        QCOMPARE(panel.saved(), before);
+    }
+
+    void aPositionIsEdited()
+    {
+        Panel panel(
+            documentWithBuilding("<gml:boundedBy><gml:Envelope><gml:lowerCorner>1 2 3</gml:lowerCorner>"
+                                 "<gml:upperCorner>4 5 6</gml:upperCorner></gml:Envelope></gml:boundedBy>"));
+        auto* const list =
+            qobject_cast<ListEditor*>(openEditor(panel.view(), panel.cell("Fields/Envelope/LowerCorner")));
+        QVERIFY(list != nullptr);
+        list->findChild<QTableWidget*>()->item(0, 0)->setText("0.5");
+        QTest::mouseClick(list->findChild<QToolButton*>("finish"), Qt::LeftButton);
+        QTest::qWait(10);
+        QVERIFY2(panel.saved().contains(">0.5 2 3</gml:lowerCorner>"), panel.saved());
+    }
+
+    void aMomentKeepsItsZone()
+    {
+        Panel panel(contentOf(examples() + "/ladmfr.gml")
+                        .replace("2029-06-03T00:00:00</ladmfr:timeSpec>",
+                                 "2029-06-03T00:00:00+02:00</ladmfr:timeSpec>"),
+                    {"right-ownership"});
+        const QByteArray before = panel.saved();
+        auto* const moment =
+            qobject_cast<QDateTimeEdit*>(openEditor(panel.view(), panel.cell("Properties/Foncier/timeSpec")));
+        QVERIFY(moment != nullptr);
+        moment->setDateTime(QDateTime(QDate(2030, 1, 2), QTime(3, 4, 5)));
+        QTest::keyClick(moment, Qt::Key_Return);
+        QTest::qWait(10);
+        QVERIFY(panel.saved().contains(">2030-01-02T03:04:05+02:00</ladmfr:timeSpec>"));
+        panel.undo();
+        QCOMPARE(panel.saved(), before);
+    }
+
+    void aDurationIsEditedAsAText()
+    {
+        Panel panel(contentOf(examples() + "/energy.gml"), {});
+        QModelIndexList found;
+        for (int row = 0; found.isEmpty() && row < panel.fixture.document().model().rowCount(); ++row) {
+            panel.fixture.document().goTo(row);
+            QTest::qWait(1);
+            found = panel.view().model()->match(panel.view().model()->index(0, 0), Qt::DisplayRole,
+                                                "duration", 1, Qt::MatchExactly | Qt::MatchRecursive);
+        }
+        QCOMPARE(found.size(), 1);
+        const QModelIndex value = found[0].sibling(found[0].row(), 1);
+        QCOMPARE(value.data().toString(), "P1Y1M15D");
+        typeInto(panel.view(), value, "P2Y");
+        QCOMPARE(panel.message(), QString());
+        QVERIFY(panel.saved().contains(">P2Y</gml:duration>"));
+        typeInto(panel.view(), value, "two years");
+        QVERIFY(!panel.message().isEmpty());
+    }
+
+    void aMemberThatTheSchemaNeedsStays()
+    {
+        Panel panel(documentWithBuilding("<gml:boundedBy><gml:Envelope srsName='x'/></gml:boundedBy>"
+                                         "<x:note>1</x:note>"));
+        const QByteArray before = panel.saved();
+        panel.press("Other content/x:note", Qt::Key_Delete);
+        QCOMPARE(panel.saved(), before);
+        QVERIFY(!panel.message().isEmpty());
+        panel.press("Fields/Envelope/SrsName", Qt::Key_Delete);
+        QVERIFY(!panel.saved().contains("srsName"));
+        QVERIFY(panel.message().isEmpty());
     }
 
     void aLiteralIsChosen()

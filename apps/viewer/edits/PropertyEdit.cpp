@@ -5,6 +5,7 @@
 #include "apps/viewer/edits/GenericAttributes.h"
 #include "apps/viewer/edits/MemberText.h"
 #include "apps/viewer/features/FeatureTexts.h"
+#include "framework/OperationStatus.h"
 #include "gen/AbstractGenericAttributeType.hxx"
 #include "gml/AbstractFeatureType.hxx"
 #include "UI/Models/CityGMLModel/properties/BoundProperty.h"
@@ -126,7 +127,9 @@ QJsonObject PropertyEdit::record() const
 QString PropertyEdit::perform(const Features& features)
 {
     FeatureLocator locator(document.model());
+    OperationStatus status(tr("Editing"), static_cast<long long>(features.size()), true);
     for (gml::AbstractFeatureType* const feature : features) {
+        status.addStep(1);
         std::optional<EditedMember> member = EditedMember::find(document.model(), *feature, editedPlace());
         if (!member || isAlreadyDone(*member)) {
             continue;
@@ -155,7 +158,9 @@ void PropertyEdit::swapStates()
 void PropertyEdit::swapMembers()
 {
     FeatureLocator locator(document.model());
+    OperationStatus status(tr("Editing"), static_cast<long long>(changes.size()), true);
     for (Change& change : changes) {
+        status.addStep(1);
         gml::AbstractFeatureType* const feature = locator.find(change.feature);
         std::optional<EditedMember> member =
             feature != nullptr ? EditedMember::find(document.model(), *feature, editedPlace()) : std::nullopt;
@@ -171,7 +176,9 @@ void PropertyEdit::swapMembers()
 void PropertyEdit::announce() const
 {
     FeatureLocator locator(document.model());
+    OperationStatus status(tr("Showing Edits"), static_cast<long long>(changes.size()), true);
     for (const Change& change : changes) {
+        status.addStep(1);
         document.model().propertyChanged(document.model().index(locator.find(change.feature)), true);
     }
 }

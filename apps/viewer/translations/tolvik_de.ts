@@ -1061,6 +1061,14 @@ height&gt;3, function=1000 für Attribute. Eingabe führt zum nächsten Treffer.
         <source>remove attribute %1 of %2</source>
         <translation>Attribut %1 von %2 entfernen</translation>
     </message>
+    <message>
+        <source>Editing</source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Showing Edits</source>
+        <translation>Änderungen zeigen</translation>
+    </message>
 </context>
 <context>
     <name>tolvik::viewer::PropertyPanel</name>

@@ -1061,6 +1061,14 @@ height&gt;3, function=1000 pour les attributs. Entrée mène au résultat suivan
         <source>remove attribute %1 of %2</source>
         <translation>supprimer l’attribut %1 de %2</translation>
     </message>
+    <message>
+        <source>Editing</source>
+        <translation>Modification</translation>
+    </message>
+    <message>
+        <source>Showing Edits</source>
+        <translation>Affichage des modifications</translation>
+    </message>
 </context>
 <context>
     <name>tolvik::viewer::PropertyPanel</name>
