@@ -96,6 +96,7 @@ CityScene::CityScene()
     osg::StateSet* const state = top->getOrCreateStateSet();
     table.bind(*state);
     state->addUniform(new osg::Uniform("picture", int(pictureUnit)));
+    state->addUniform(new osg::Uniform("isBounded", false));
     // Faces are moved back a little, so that edges and lines upon them are seen.
     state->setAttributeAndModes(new osg::PolygonOffset(1, 1));
     state->setAttributeAndModes(new osg::Depth(osg::Depth::LESS));

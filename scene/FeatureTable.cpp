@@ -19,8 +19,6 @@ namespace {
 
 /// Shown where every level of detail is to be left out.
 constexpr int noLod = 6;
-/// In texels: buffers grow by doubling, so that coming features are not a new buffer each.
-constexpr int smallestBuffer = 1024;
 
 template <typename... Types>
 bool isOneOf(const Feature& feature)
@@ -31,28 +29,39 @@ bool isOneOf(const Feature& feature)
 std::uint32_t packed(const QColor& colour)
 {
     return static_cast<std::uint32_t>(colour.red()) | static_cast<std::uint32_t>(colour.green()) << 8 |
-           static_cast<std::uint32_t>(colour.blue()) << 16 | 0xff000000;
+           static_cast<std::uint32_t>(colour.blue()) << 16;
 }
 
-osg::ref_ptr<osg::TextureBuffer> makeBuffer(osg::Image* image, GLint format)
+constexpr std::uint32_t colourBits = 0xffffff;
+/// The highest byte of a colour tells how many features are around its feature.
+constexpr int levelShift = 24;
+constexpr std::uint32_t deepestLevel = 255;
+
+/// A texture that is no picture but a table: texels are looked up by their numbers.
+osg::ref_ptr<osg::Texture2D> makeTable(osg::Image* image, GLint internalFormat, GLenum format)
 {
-    osg::ref_ptr<osg::TextureBuffer> buffer = new osg::TextureBuffer;
-    buffer->setImage(image);
-    buffer->setInternalFormat(format);
-    buffer->setUnRefImageDataAfterApply(false);
-    return buffer;
+    osg::ref_ptr<osg::Texture2D> table = new osg::Texture2D(image);
+    table->setInternalFormat(internalFormat);
+    table->setSourceFormat(format);
+    table->setSourceType(GL_UNSIGNED_BYTE);
+    table->setFilter(osg::Texture::MIN_FILTER, osg::Texture::NEAREST);
+    table->setFilter(osg::Texture::MAG_FILTER, osg::Texture::NEAREST);
+    table->setResizeNonPowerOfTwoHint(false);
+    table->setUnRefImageDataAfterApply(false);
+    return table;
 }
 
-/// Copies values into an image that is at least as wide as they are many.
+/// Copies values into the rows of an image, which grows by doubling, so that coming features are not a new
+/// texture each.
 template <typename Value>
-void copyTo(osg::Image& image, const std::vector<Value>& values, GLenum pixelFormat, GLenum type)
+void copyTo(osg::Image& image, const std::vector<Value>& values, GLenum format)
 {
-    int width = std::max(smallestBuffer, image.s());
-    while (width < static_cast<int>(values.size())) {
-        width *= 2;
+    int rows = std::max(1, image.t());
+    while (static_cast<std::size_t>(rows) * tableWidth < values.size()) {
+        rows *= 2;
     }
-    if (width != image.s()) {
-        image.allocateImage(width, 1, 1, pixelFormat, type, 1);
+    if (rows != image.t()) {
+        image.allocateImage(tableWidth, rows, 1, format, GL_UNSIGNED_BYTE, 1);
     }
     if (!values.empty()) {
         std::copy(values.begin(), values.end(), reinterpret_cast<Value*>(image.data()));
@@ -64,11 +73,10 @@ void copyTo(osg::Image& image, const std::vector<Value>& values, GLenum pixelFor
 
 FeatureTable::FeatureTable()
 {
-    update();
-    copyTo(*stateImage, states, GL_RED_INTEGER_EXT, GL_UNSIGNED_BYTE);
-    copyTo(*colourImage, colours, GL_RGBA, GL_UNSIGNED_BYTE);
-    stateBuffer = makeBuffer(stateImage, GL_R8UI);
-    colourBuffer = makeBuffer(colourImage, GL_RGBA8);
+    copyTo(*stateImage, states, GL_RED_INTEGER_EXT);
+    copyTo(*colourImage, colours, GL_RGBA);
+    stateTable = makeTable(stateImage, GL_R8UI, GL_RED_INTEGER_EXT);
+    colourTable = makeTable(colourImage, GL_RGBA8, GL_RGBA);
 }
 
 Slot FeatureTable::add(const Feature& feature)
@@ -82,7 +90,8 @@ Slot FeatureTable::add(const Feature& feature)
     units.push_back(parent != noSlot && isBoundary(feature) ? units[parent] : slot);
     lods.push_back(0);
     states.push_back(0);
-    colours.push_back(packed(TypeColours::of(feature)));
+    const std::uint32_t level = parent != noSlot ? (colours[parent] >> levelShift) + 1 : 0;
+    colours.push_back(packed(TypeColours::of(feature)) | std::min(level, deepestLevel) << levelShift);
     slotByFeature[&feature] = slot;
     areLodsOld = areStatesOld = areColoursOld = true;
     return slot;
@@ -96,9 +105,6 @@ void FeatureTable::remove(Slot slot)
     setHidden(slot, true);
     selection.erase(std::remove(selection.begin(), selection.end(), slot), selection.end());
     setBit(slot, SelectedBit, false);
-    if (hovered == slot) {
-        hovered = noSlot;
-    }
     areLodsOld = true;
 }
 
@@ -112,7 +118,6 @@ void FeatureTable::clear()
     states.clear();
     colours.clear();
     selection.clear();
-    hovered = noSlot;
 }
 
 Slot FeatureTable::slotOf(const Feature* feature) const
@@ -228,17 +233,6 @@ void FeatureTable::setSelection(const std::vector<Slot>& wanted)
     }
 }
 
-void FeatureTable::setHovered(Slot slot)
-{
-    if (hovered != noSlot) {
-        setBit(hovered, HoveredBit, false);
-    }
-    hovered = slot;
-    if (hovered != noSlot) {
-        setBit(hovered, HoveredBit, true);
-    }
-}
-
 void FeatureTable::inheritValues(std::vector<QVariant>& values) const
 {
     for (Slot slot = 0; slot < features.size() && slot < values.size(); ++slot) {
@@ -251,7 +245,7 @@ void FeatureTable::inheritValues(std::vector<QVariant>& values) const
 
 void FeatureTable::setColour(Slot slot, const QColor& colour)
 {
-    colours[slot] = packed(colour);
+    colours[slot] = packed(colour) | (colours[slot] & ~colourBits);
     areColoursOld = true;
 }
 
@@ -267,18 +261,18 @@ void FeatureTable::update()
         updateShownLods();
     }
     if (areStatesOld) {
-        copyTo(*stateImage, states, GL_RED_INTEGER_EXT, GL_UNSIGNED_BYTE);
+        copyTo(*stateImage, states, GL_RED_INTEGER_EXT);
     }
     if (areColoursOld) {
-        copyTo(*colourImage, colours, GL_RGBA, GL_UNSIGNED_BYTE);
+        copyTo(*colourImage, colours, GL_RGBA);
     }
     areLodsOld = areStatesOld = areColoursOld = false;
 }
 
 void FeatureTable::bind(osg::StateSet& state) const
 {
-    state.setTextureAttribute(stateUnit, stateBuffer);
-    state.setTextureAttribute(colourUnit, colourBuffer);
+    state.setTextureAttribute(stateUnit, stateTable);
+    state.setTextureAttribute(colourUnit, colourTable);
     state.addUniform(new osg::Uniform("stateOf", stateUnit));
     state.addUniform(new osg::Uniform("colourOf", colourUnit));
 }

@@ -4,7 +4,7 @@
 
 #include <osg/Image>
 #include <osg/StateSet>
-#include <osg/TextureBuffer>
+#include <osg/Texture2D>
 #include <QColor>
 #include <QVariant>
 #include <unordered_map>
@@ -77,8 +77,6 @@ public:
     /// Selects these features, and those below them, and no others.
     void setSelection(const std::vector<Slot>& which);
     bool isSelected(Slot slot) const { return bit(slot, SelectedBit); }
-    /// The feature that the pointer is on; noSlot for none.
-    void setHovered(Slot slot);
 
     /// Gives features without a value that of the nearest feature around them that has one. The outermost
     /// features, the document itself, pass nothing on.
@@ -91,13 +89,13 @@ public:
     /// are shown, states and colours.
     void update();
 
-    /// Makes the buffers known to the shaders of what is drawn under the state.
+    /// Makes the textures known to the shaders of what is drawn under the state.
     void bind(osg::StateSet& state) const;
 
 private:
-    enum Bit : std::uint8_t { HiddenBit = 1, SelectedBit = 2, HoveredBit = 4 };
+    enum Bit : std::uint8_t { HiddenBit = 1, SelectedBit = 2 };
     /// A shown level of detail plus 1 stands behind the bits.
-    static constexpr int lodShift = 3;
+    static constexpr int lodShift = 2;
 
     static bool isBoundary(const Feature& feature);
     void setBit(Slot slot, Bit bit, bool isSet);
@@ -117,15 +115,14 @@ private:
     std::vector<std::uint32_t> colours;
     std::vector<Slot> selection;
     LodChoice choice;
-    Slot hovered = noSlot;
     bool areLodsOld = false;
     bool areStatesOld = false;
     bool areColoursOld = false;
 
     osg::ref_ptr<osg::Image> stateImage = new osg::Image;
     osg::ref_ptr<osg::Image> colourImage = new osg::Image;
-    osg::ref_ptr<osg::TextureBuffer> stateBuffer;
-    osg::ref_ptr<osg::TextureBuffer> colourBuffer;
+    osg::ref_ptr<osg::Texture2D> stateTable;
+    osg::ref_ptr<osg::Texture2D> colourTable;
 };
 
 } // namespace tolvik::scene

@@ -378,6 +378,8 @@ osg::ref_ptr<osg::StateSet> Looks::stateOf(std::uint32_t look)
         picture->setResizeNonPowerOfTwoHint(false);
         state->setTextureAttribute(pictureUnit, picture);
         state->addUniform(new osg::Uniform("look", int(TextureLook)));
+        // Nothing is painted beside such a picture.
+        state->addUniform(new osg::Uniform("isBounded", texture.wrapMode == "none"));
     }
     return state;
 }

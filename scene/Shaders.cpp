@@ -9,27 +9,32 @@ namespace tolvik::scene {
 namespace {
 
 /// Both programs place a vertex alike, so that both cover the same pixels.
+static_assert(tableWidth == 2048, "the shader cuts a slot into row and column");
 const char* const placeVertex = R"(#version 150 compatibility
-uniform usamplerBuffer stateOf;
+uniform usampler2D stateOf;
+uniform sampler2D colourOf;
 uniform vec4 section;
 in uint feature;
 
 uint slotOf() { return feature >> 3u; }
-uint stateOfFeature() { return texelFetch(stateOf, int(slotOf())).r; }
+ivec2 placeInTable() { return ivec2(slotOf() & 2047u, slotOf() >> 11u); }
+vec4 colourOfFeature() { return texelFetch(colourOf, placeInTable(), 0); }
+uint stateOfFeature() { return texelFetch(stateOf, placeInTable(), 0).r; }
 
 void placeVertex(uint state)
 {
     uint lod = feature & 7u;
-    bool isShown = (state & 1u) == 0u && (lod == 0u || lod == state >> 3u);
+    bool isShown = (state & 1u) == 0u && (lod == 0u || lod == state >> 2u);
     vec4 eye = gl_ModelViewMatrix * gl_Vertex;
     gl_ClipDistance[0] = dot(eye, section);
     // All vertices of what is not shown come to lie at one place out of sight.
     gl_Position = isShown ? gl_ProjectionMatrix * eye : vec4(2.0, 2.0, 2.0, 1.0);
+    // Of surfaces upon each other, that of the innermost feature is seen.
+    gl_Position.z -= colourOfFeature().a * 255.0 * 1e-5 * gl_Position.w;
 }
 )";
 
 const char* const viewVertex = R"(
-uniform samplerBuffer colourOf;
 uniform int look;
 uniform bool isByFeature;
 in vec2 place;
@@ -53,7 +58,7 @@ void main()
     placeVertex(state);
     stateOfFragment = state;
     placeInPicture = place;
-    colour = look == 1 && !isByFeature ? materialColour : vec4(texelFetch(colourOf, int(slotOf())).rgb, 1.0);
+    colour = look == 1 && !isByFeature ? materialColour : vec4(colourOfFeature().rgb, 1.0);
     if (look <= 2) {
         colour.rgb *= lightOn(normalize(gl_NormalMatrix * normal.xyz), vec3(gl_ModelViewMatrix * gl_Vertex));
     } else if (look == 3) {
@@ -62,31 +67,37 @@ void main()
 }
 )";
 
-const char* const viewFragment = R"(#version 150 compatibility
+/// Whether a fragment has a part of a picture.
+const char* const findPicture = R"(#version 150 compatibility
 uniform int look;
-uniform bool isByFeature;
-uniform vec4 selection;
+uniform bool isBounded;
 uniform sampler2D picture;
 in vec2 placeInPicture;
+
+bool isInPicture()
+{
+    bool isOutside = any(lessThan(placeInPicture, vec2(0.0))) || any(greaterThan(placeInPicture, vec2(1.0)));
+    return look == 2 && !(isBounded && isOutside);
+}
+)";
+
+const char* const viewFragment = R"(
+uniform bool isByFeature;
+uniform vec4 selection;
 flat in vec4 colour;
 flat in uint stateOfFragment;
 
 void main()
 {
     vec4 shown = colour;
-    if (look == 2) {
+    if (isInPicture()) {
         vec4 texel = texture(picture, placeInPicture);
         if (texel.a < 0.5) {
             discard;
         }
         shown.rgb = isByFeature ? shown.rgb : texel.rgb;
     }
-    if ((stateOfFragment & 2u) != 0u) {
-        shown = selection;
-    } else if ((stateOfFragment & 4u) != 0u) {
-        shown.rgb = mix(shown.rgb, vec3(1.0), 0.35);
-    }
-    gl_FragColor = shown;
+    gl_FragColor = (stateOfFragment & 2u) != 0u ? selection : shown;
 }
 )";
 
@@ -104,16 +115,13 @@ void main()
 }
 )";
 
-const char* const identifierFragment = R"(#version 150 compatibility
-uniform int look;
-uniform sampler2D picture;
-in vec2 placeInPicture;
+const char* const identifierFragment = R"(
 flat in uint identifier;
 
 void main()
 {
     // One can look through the clear parts of a texture.
-    if (look == 2 && texture(picture, placeInPicture).a < 0.5) {
+    if (isInPicture() && texture(picture, placeInPicture).a < 0.5) {
         discard;
     }
     gl_FragColor = vec4(identifier & 255u, identifier >> 8u & 255u, identifier >> 16u & 255u,
@@ -125,7 +133,7 @@ osg::ref_ptr<osg::Program> makeProgram(const char* vertex, const char* fragment)
 {
     osg::ref_ptr<osg::Program> program = new osg::Program;
     program->addShader(new osg::Shader(osg::Shader::VERTEX, std::string(placeVertex) + vertex));
-    program->addShader(new osg::Shader(osg::Shader::FRAGMENT, fragment));
+    program->addShader(new osg::Shader(osg::Shader::FRAGMENT, std::string(findPicture) + fragment));
     program->addBindAttribLocation("place", PlaceAttribute);
     program->addBindAttribLocation("normal", NormalAttribute);
     program->addBindAttribLocation("feature", FeatureAttribute);

@@ -5,9 +5,12 @@
 
 namespace tolvik::scene {
 
-/// Texture units: of the picture of a surface, and of the buffers with the state and the colour of each
+/// Texture units: of the picture of a surface, and of the tables with the state and the colour of each
 /// feature.
 enum TextureUnit : int { pictureUnit = 0, stateUnit = 1, colourUnit = 2 };
+
+/// Of these tables: the number of features in a row.
+constexpr int tableWidth = 2048;
 
 /// Values of the uniform `look`: where a fragment's colour comes from. Faces have that of their feature, of
 /// their material or of their texture; edges a dark one, lines and points that of their feature without

@@ -6,7 +6,6 @@
 #include "apps/viewer/edits/PropertyEdit.h"
 #include "apps/viewer/features/FeatureActions.h"
 #include "apps/viewer/features/FeatureBrowser.h"
-#include "apps/viewer/features/FeatureListModel.h"
 #include "apps/viewer/features/FeatureReferences.h"
 #include "apps/viewer/features/FeatureRows.h"
 #include "apps/viewer/features/FeatureTexts.h"
@@ -21,6 +20,7 @@
 #include "apps/viewer/recovery/Recovery.h"
 #include "apps/viewer/selection/SelectionLink.h"
 #include "apps/viewer/table/AttributeTable.h"
+#include "apps/viewer/view/ViewPanel.h"
 #include "apps/viewer/window/NoticeBar.h"
 #include "apps/viewer/window/StatusProgress.h"
 #include "framework/EditRangeDialog.h"
@@ -194,21 +194,18 @@ QWidget* MainWindow::makeMiddle()
     return middle;
 }
 
-/// What stands in the middle of the window.
+/// The city, with the keys and the menu of its features.
 QWidget* MainWindow::makeView()
 {
-    auto* const view = new QTreeView;
-    auto* const rows = new FeatureListModel(shown->model(), view);
-    view->setObjectName(QStringLiteral("view"));
-    view->setAccessibleName(tr("Features of the document"));
-    view->setRootIsDecorated(false);
-    view->setUniformRowHeights(true);
-    view->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    view->setModel(rows);
-    auto* const selection = new RowSelectionModel(rows, view);
-    view->setSelectionModel(selection);
-    new SelectionLink(*selection, *rows, shown->selection(), view);
-    return view;
+    city = new ViewPanel(*shown);
+    city->setObjectName(QStringLiteral("view"));
+    city->addActions(actionsOfFeatures->findChildren<QAction*>());
+    connect(city, &ViewPanel::menuRequested, actionsOfFeatures, &FeatureActions::popUp);
+    connect(city, &ViewPanel::told, this,
+            [this](const QString& text) { statusBar()->showMessage(text, 5000); });
+    connect(city, &ViewPanel::noticed, this,
+            [this](const QString& text) { log->add(LogModel::Warning, text); });
+    return city;
 }
 
 void MainWindow::makePanels()
@@ -293,6 +290,9 @@ void MainWindow::makeMenus()
     actionsOfFeatures->addTo(*featureMenu);
     menuBar()->addMenu(featureMenu);
     menuBar()->addMenu(makeViewMenu());
+    if (city->view() != nullptr) {
+        city->addTo(*menuBar()->addMenu(tr("&City")));
+    }
     menuBar()->addMenu(makeHelpMenu());
 }
 

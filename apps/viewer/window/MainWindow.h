@@ -20,9 +20,10 @@ class NoticeBar;
 class Recovery;
 class ReferrerSearch;
 class StatusProgress;
+class ViewPanel;
 
-/// One window with one document: the features at its left, their properties at its right, the log and the
-/// findings below.
+/// One window with one document: the city in its middle, the features at its left, their properties at its
+/// right, the log and the findings below.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -34,6 +35,7 @@ public:
     Document& document() { return *shown; }
     FeatureBrowser& browser() { return *features; }
     FileCommands& files() { return *fileCommands; }
+    ViewPanel& view() { return *city; }
 
     /// Reads a document beside the window, and shows it when it is there.
     void open(const QString& path);
@@ -90,6 +92,7 @@ private:
     Journal* journal;
     ReferrerSearch* referrers;
     FindingsPanel* findings = nullptr;
+    ViewPanel* city = nullptr;
     std::unique_ptr<FileCommands> fileCommands;
     QVector<QDockWidget*> panels;
     QAction* saveAction = nullptr;

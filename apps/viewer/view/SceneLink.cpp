@@ -1,0 +1,258 @@
+#include "apps/viewer/view/SceneLink.h"
+
+#include "apps/common/PropertyPath.h"
+#include "apps/viewer/document/Document.h"
+#include "apps/viewer/features/FeatureRows.h"
+#include "framework/CoreProperty.h"
+#include "scene/TypeColours.h"
+
+namespace tolvik::viewer {
+
+using scene::Feature;
+using scene::noSlot;
+using scene::Slot;
+
+namespace {
+
+/// Of a slice of work, in milliseconds: short enough that nobody sees the window stand still.
+constexpr int sliceLength = 12;
+/// Between two looks whether other threads are ready, in milliseconds.
+constexpr int waitingLength = 10;
+/// Between two pictures while features are added, in milliseconds.
+constexpr int pictureInterval = 400;
+
+} // namespace
+
+SceneLink::SceneLink(Document& document, QObject* parent)
+    : QObject(parent), document(document), city(std::make_unique<scene::CityScene>())
+{
+    CityGMLModel& model = document.model();
+    connect(&model, &QAbstractItemModel::modelAboutToBeReset, this, &SceneLink::clear);
+    connect(&model, &QAbstractItemModel::modelReset, this, &SceneLink::begin);
+    connect(&model, &QAbstractItemModel::rowsInserted, this,
+            [this](const QModelIndex&, int first, int last) { addRows(first, last); });
+    connect(&model, &QAbstractItemModel::rowsAboutToBeRemoved, this,
+            [this](const QModelIndex&, int first, int last) { removeRows(first, last); });
+    connect(&model, &QAbstractItemModel::dataChanged, this, &SceneLink::noteEdit);
+    connect(&model, qOverload<const QList<QModelIndex>&>(&Model::visibilityChanged), this,
+            &SceneLink::showVisibility);
+    connect(&model, qOverload<const QModelIndex&>(&Model::visibilityChanged), this,
+            [this](const QModelIndex& index) { showVisibility({index}); });
+    connect(&model, &CityGMLModel::representationAboutToBeChanged, this, &SceneLink::rebuild);
+    connect(&document.selection(), &QItemSelectionModel::selectionChanged, this, &SceneLink::showSelection);
+    connect(&work, &QTimer::timeout, this, &SceneLink::workOn);
+    edits.setSingleShot(true);
+    connect(&edits, &QTimer::timeout, this, &SceneLink::takeEdits);
+    begin();
+}
+
+SceneLink::~SceneLink() = default;
+
+void SceneLink::clear()
+{
+    work.stop();
+    edits.stop();
+    edited.clear();
+    city->clear();
+    emit changed();
+}
+
+void SceneLink::begin()
+{
+    std::vector<const Feature*> features;
+    const int count = document.model().rowCount();
+    features.reserve(static_cast<std::size_t>(count));
+    for (int row = 0; row < count; ++row) {
+        features.push_back(document.model().getFeature(row));
+    }
+    city->begin(std::move(features), document.fileName());
+    emit begun();
+    sinceChange.invalidate();
+    if (count > 0) {
+        work.start(0);
+    }
+}
+
+void SceneLink::workOn()
+{
+    const bool isMore = city->addSome(sliceLength);
+    const bool isNew = city->takeFinished();
+    // A picture of a city takes a while itself: the first tiles are shown at once, the others by and by.
+    if (isNew && (!sinceChange.isValid() || sinceChange.elapsed() > pictureInterval)) {
+        takeState();
+        sinceChange.start();
+        emit changed();
+    }
+    emit progressed(city->progress());
+    if (!isMore && !city->isBusy()) {
+        goOn();
+    } else {
+        work.setInterval(isMore ? 0 : waitingLength);
+    }
+}
+
+/// What is done when all features are there.
+void SceneLink::goOn()
+{
+    work.stop();
+    takeState();
+    if (!attribute.isEmpty()) {
+        readColours();
+    }
+    emit changed();
+    emit finished();
+}
+
+void SceneLink::finish()
+{
+    if (isBusy()) {
+        city->addAll();
+        goOn();
+    }
+}
+
+/// Takes over what is hidden and selected in the document.
+void SceneLink::takeState()
+{
+    const CityGMLModel& model = document.model();
+    for (Slot slot = 0; slot < city->features().size(); ++slot) {
+        const int row = rowOf(slot);
+        city->features().setHidden(slot, row < 0 || !model.isVisible(model.index(row, 0)));
+    }
+    city->features().setSelection(selectedFeatures());
+}
+
+int SceneLink::rowOf(Slot slot) const
+{
+    return document.model().getRow(const_cast<Feature*>(city->features().featureOf(slot)));
+}
+
+Slot SceneLink::slotOfRow(int row) const
+{
+    return city->features().slotOf(document.model().getFeature(row));
+}
+
+std::vector<Slot> SceneLink::selectedFeatures() const
+{
+    std::vector<Slot> selected;
+    for (const int row : selectedRows(document.selection())) {
+        const Slot slot = slotOfRow(row);
+        if (slot != noSlot) {
+            selected.push_back(slot);
+        }
+    }
+    return selected;
+}
+
+void SceneLink::showVisibility(const QList<QModelIndex>& indexes)
+{
+    const CityGMLModel& model = document.model();
+    for (const QModelIndex& index : indexes) {
+        const Slot slot = slotOfRow(index.row());
+        if (slot != noSlot) {
+            city->features().setHidden(slot, !model.isVisible(index));
+        }
+    }
+    emit changed();
+}
+
+void SceneLink::showSelection()
+{
+    city->features().setSelection(selectedFeatures());
+    emit changed();
+}
+
+void SceneLink::addRows(int first, int last)
+{
+    for (int row = first; row <= last; ++row) {
+        city->add(*document.model().getFeature(row));
+    }
+    work.start(waitingLength);
+}
+
+void SceneLink::removeRows(int first, int last)
+{
+    for (int row = first; row <= last; ++row) {
+        const Feature* const feature = document.model().getFeature(row);
+        edited.remove(feature);
+        city->remove(*feature);
+    }
+    emit changed();
+}
+
+void SceneLink::rebuild(const Feature* feature)
+{
+    CityGMLModel& model = document.model();
+    city->rebuild(*feature);
+    model.show(model.index(feature));
+    work.start(waitingLength);
+    emit changed();
+}
+
+/// An edit of a property may concern the geometry as well as the colour.
+void SceneLink::noteEdit(const QModelIndex& first, const QModelIndex& last, const QVector<int>& roles)
+{
+    if (!roles.contains(Qt::UserRole)) {
+        return;
+    }
+    for (int row = first.row(); row <= last.row(); ++row) {
+        edited.insert(document.model().getFeature(row));
+    }
+    edits.start(0);
+}
+
+void SceneLink::takeEdits()
+{
+    for (const Feature* const feature : qAsConst(edited)) {
+        city->rebuild(*feature);
+    }
+    edited.clear();
+    if (!attribute.isEmpty()) {
+        readColours();
+    }
+    work.start(waitingLength);
+    emit changed();
+}
+
+void SceneLink::colourBy(const QString& path)
+{
+    attribute = path;
+    if (path.isEmpty()) {
+        scene::FeatureTable& features = city->features();
+        for (Slot slot = 0; slot < features.size(); ++slot) {
+            if (features.featureOf(slot) != nullptr) {
+                features.setColour(slot, scene::TypeColours::of(*features.featureOf(slot)));
+            }
+        }
+        attributeColours = scene::AttributeColours();
+        emit coloursChanged();
+    } else if (!isBusy()) {
+        readColours();
+    }
+    emit changed();
+}
+
+void SceneLink::readColours()
+{
+    scene::FeatureTable& features = city->features();
+    std::vector<QVariant> values(features.size());
+    for (Slot slot = 0; slot < features.size(); ++slot) {
+        values[slot] = valueOf(rowOf(slot));
+    }
+    features.inheritValues(values);
+    attributeColours = scene::AttributeColours(values);
+    for (Slot slot = 0; slot < features.size(); ++slot) {
+        features.setColour(slot, attributeColours.colourOf(values[slot]));
+    }
+    emit coloursChanged();
+}
+
+QVariant SceneLink::valueOf(int row) const
+{
+    const CityGMLModel& model = document.model();
+    const CoreProperty* const root = row >= 0 ? model.getProperty(model.index(row, 0)) : nullptr;
+    CoreProperty* const property = root != nullptr ? apps::propertyAt(*root, attribute) : nullptr;
+    return property != nullptr ? property->value() : QVariant();
+}
+
+} // namespace tolvik::viewer

@@ -1,0 +1,90 @@
+#include "scene/SceneFixture.h"
+
+#include <QSet>
+
+namespace testsupport {
+
+using namespace tolvik::scene;
+
+SceneFixture::SceneFixture(const QString& path)
+    : model(nullptr, nullptr), context(std::make_unique<OffscreenContext>()),
+      renderer(std::make_unique<Renderer>(scene))
+{
+    model.load(path);
+    std::vector<const Feature*> features;
+    for (int row = 0; row < model.rowCount(); ++row) {
+        features.push_back(model.getFeature(row));
+    }
+    if (!context->error().isEmpty()) {
+        qFatal("no context: %s", qPrintable(context->error()));
+    }
+    if (!renderer->unfitness().isEmpty()) {
+        qFatal("unfit: %s", qPrintable(renderer->unfitness()));
+    }
+    scene.begin(features, path);
+    scene.addAll();
+    camera.fit(scene.bounds(), static_cast<double>(width) / height);
+}
+
+SceneFixture::~SceneFixture()
+{
+    renderer->release();
+    renderer.reset();
+}
+
+QImage SceneFixture::picture()
+{
+    return renderer->picture(camera, QSize(width, height), options);
+}
+
+Slot SceneFixture::slotAt(const QPoint& pixel)
+{
+    return renderer->pick(camera, QSize(width, height), pixel, options).slot;
+}
+
+Slot SceneFixture::slotOf(const char* id) const
+{
+    return scene.features().slotOf(model.getFeature(std::string(id)));
+}
+
+void SceneFixture::setAllHidden(bool areHidden)
+{
+    for (Slot slot = 0; slot < features().size(); ++slot) {
+        features().setHidden(slot, areHidden);
+    }
+}
+
+QVector<QPoint> SceneFixture::grid(int columns, int rows) const
+{
+    QVector<QPoint> pixels;
+    for (int row = 0; row < rows; ++row) {
+        for (int column = 0; column < columns; ++column) {
+            pixels << QPoint((2 * column + 1) * width / (2 * columns), (2 * row + 1) * height / (2 * rows));
+        }
+    }
+    return pixels;
+}
+
+int differences(const QImage& a, const QImage& b)
+{
+    int count = a.size() == b.size() ? 0 : a.width() * a.height();
+    for (int y = 0; y < a.height() && a.size() == b.size(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            count += a.pixel(x, y) != b.pixel(x, y) ? 1 : 0;
+        }
+    }
+    return count;
+}
+
+int coloursIn(const QImage& image)
+{
+    QSet<QRgb> colours;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            colours.insert(image.pixel(x, y));
+        }
+    }
+    return colours.size();
+}
+
+} // namespace testsupport

@@ -1,0 +1,430 @@
+#include "apps/viewer/view/CityView.h"
+
+#include "apps/common/DocumentReading.h"
+#include "apps/common/PropertyPath.h"
+#include "apps/viewer/document/Document.h"
+#include "apps/viewer/view/SceneLink.h"
+#include "apps/viewer/view/ViewOverlay.h"
+#include "apps/viewer/view/ViewPanel.h"
+#include "framework/CoreProperty.h"
+#include "gml/AbstractFeatureType.hxx"
+#include "support/Files.h"
+#include "support/TestClass.h"
+#include "support/TestPaths.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QSet>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace testsupport;
+using namespace tolvik;
+using namespace tolvik::viewer;
+using scene::noSlot;
+
+namespace {
+
+int differences(const QImage& a, const QImage& b)
+{
+    int count = a.size() == b.size() ? 0 : a.width() * a.height();
+    for (int y = 0; y < a.height() && a.size() == b.size(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            count += a.pixel(x, y) != b.pixel(x, y) ? 1 : 0;
+        }
+    }
+    return count;
+}
+
+bool isBackground(const QImage& image)
+{
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixel(x, y) != image.pixel(0, 0)) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
+} // namespace
+
+/// The view of a document on a display. Mouse positions are those of the widget, pictures are in pixels.
+class CityViewTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void theDocumentIsSeen();
+    void aClickSelectsWhatIsSeenThere();
+    void controlAddsAndTakesAway();
+    void aFrameSelectsAllThatIsSeenInIt();
+    void aDoubleClickFits();
+    void theSelectionOfTheDocumentIsSeen();
+    void uncheckingInTheTreeHides();
+    void hideAllLeavesTheBackground();
+    void aResetShowsTheSamePicture();
+    void removedFeaturesLeaveNothing();
+    void reloadsShowTheSamePicture();
+    void aFailedLoadLeavesNothingStale();
+    void anotherDocumentTakesThePlace();
+    void levelsOfDetailAreChosen();
+    void coloursFollowAnAttributeAndItsEdits();
+    void twoClicksMeasure();
+    void keysTurnAndMove();
+    void theWheelZoomsToThePointer();
+    void picturesHaveTheSizeThatIsAsked();
+
+private:
+    void open(const QString& path);
+    QImage picture();
+    /// A place where a feature is seen, far enough from the edges of its picture.
+    QPoint placeOfSomething(int* row = nullptr);
+    QModelIndex treeIndex(int row);
+
+    std::unique_ptr<Document> document;
+    std::unique_ptr<ViewPanel> panel;
+    CityView* view = nullptr;
+};
+
+TEST_CLASS(CityViewTest, Widgets)
+
+void CityViewTest::init()
+{
+    document = std::make_unique<Document>();
+    panel = std::make_unique<ViewPanel>(*document);
+    panel->resize(700, 500);
+    panel->show();
+    QVERIFY(QTest::qWaitForWindowExposed(panel.get()));
+    view = panel->view();
+    QVERIFY(view != nullptr);
+    QVERIFY2(view->error().isEmpty(), qPrintable(view->error()));
+    open(examples() + "/district.gml");
+}
+
+void CityViewTest::cleanup()
+{
+    panel.reset();
+    document.reset();
+}
+
+void CityViewTest::open(const QString& path)
+{
+    apps::DocumentReading reading(path);
+    reading.read();
+    QVERIFY2(reading.document() != nullptr, qPrintable(reading.error()));
+    document->open(reading);
+    panel->link()->finish();
+    view->fitAll();
+}
+
+QImage CityViewTest::picture()
+{
+    return view->grabFramebuffer();
+}
+
+QPoint CityViewTest::placeOfSomething(int* row)
+{
+    for (int y = 20; y < view->height(); y += 7) {
+        for (int x = 20; x < view->width(); x += 7) {
+            const scene::Slot slot = view->hitAt(QPoint(x, y)).slot;
+            if (slot != noSlot && view->hitAt(QPoint(x + 3, y + 3)).slot == slot) {
+                if (row != nullptr) {
+                    *row = panel->link()->rowOf(slot);
+                }
+                return QPoint(x, y);
+            }
+        }
+    }
+    return QPoint();
+}
+
+QModelIndex CityViewTest::treeIndex(int row)
+{
+    return document->tree().mapFromSource(document->model().index(row, 0));
+}
+
+void CityViewTest::theDocumentIsSeen()
+{
+    QVERIFY(!isBackground(picture()));
+    QCOMPARE(picture().size(), view->size() * view->devicePixelRatioF());
+}
+
+void CityViewTest::aClickSelectsWhatIsSeenThere()
+{
+    int row = -1;
+    const QPoint place = placeOfSomething(&row);
+    QVERIFY(row >= 0);
+    QTest::mouseClick(view, Qt::LeftButton, Qt::NoModifier, place);
+    QCOMPARE(document->selection().currentIndex().row(), row);
+    QVERIFY(document->selection().isRowSelected(row, QModelIndex()));
+    const QPointF pixel = (QPointF(place) + QPointF(0.5, 0.5)) * view->devicePixelRatioF();
+    QCOMPARE(QColor(picture().pixel(pixel.toPoint())), view->options().selection);
+
+    QTest::mouseClick(view, Qt::LeftButton, Qt::NoModifier, QPoint(2, 2));
+    QVERIFY(!document->selection().hasSelection());
+}
+
+void CityViewTest::controlAddsAndTakesAway()
+{
+    const QPoint place = placeOfSomething();
+    document->goTo(0);
+    QTest::mouseClick(view, Qt::LeftButton, Qt::ControlModifier, place);
+    QCOMPARE(document->selection().selectedRows().size(), 2);
+    QTest::mouseClick(view, Qt::LeftButton, Qt::ControlModifier, place);
+    QCOMPARE(document->selection().selectedRows().size(), 1);
+    QTest::mouseClick(view, Qt::LeftButton, Qt::ControlModifier, QPoint(2, 2));
+    QCOMPARE(document->selection().selectedRows().size(), 1);
+}
+
+void CityViewTest::aFrameSelectsAllThatIsSeenInIt()
+{
+    QSet<int> seen;
+    for (int y = 0; y < view->height(); y += 5) {
+        for (int x = 0; x < view->width(); x += 5) {
+            const scene::Slot slot = view->hitAt(QPoint(x, y)).slot;
+            if (slot != noSlot) {
+                seen.insert(panel->link()->rowOf(slot));
+            }
+        }
+    }
+    QVERIFY(seen.size() > 3);
+    QTest::mousePress(view, Qt::LeftButton, Qt::ShiftModifier, QPoint(1, 1));
+    // Qt Test does not say which button is held.
+    QMouseEvent move(QEvent::MouseMove, view->rect().bottomRight(), Qt::NoButton, Qt::LeftButton,
+                     Qt::ShiftModifier);
+    QCoreApplication::sendEvent(view, &move);
+    QTest::mouseRelease(view, Qt::LeftButton, Qt::ShiftModifier, view->rect().bottomRight());
+    for (const int row : seen) {
+        QVERIFY(document->selection().isRowSelected(row, QModelIndex()));
+    }
+}
+
+void CityViewTest::aDoubleClickFits()
+{
+    int row = -1;
+    const QPoint place = placeOfSomething(&row);
+    QTest::mouseDClick(view, Qt::LeftButton, Qt::NoModifier, place);
+    document->goTo(row);
+    const QImage image = picture();
+    int selected = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            selected += QColor(image.pixel(x, y)) == view->options().selection ? 1 : 0;
+        }
+    }
+    QVERIFY2(selected >= 0.02 * image.width() * image.height(), qPrintable(QString::number(selected)));
+}
+
+void CityViewTest::theSelectionOfTheDocumentIsSeen()
+{
+    const QImage before = picture();
+    // The document itself: everything below it is selected with it.
+    document->goTo(0);
+    const QImage all = picture();
+    QVERIFY(differences(before, all) > 1000);
+    QSet<QRgb> colours;
+    for (int y = 0; y < all.height(); ++y) {
+        for (int x = 0; x < all.width(); ++x) {
+            colours.insert(all.pixel(x, y));
+        }
+    }
+    QCOMPARE(colours, QSet<QRgb>({view->options().selection.rgb(), view->options().background.rgb()}));
+    document->selection().clearSelection();
+    QCOMPARE(differences(before, picture()), 0);
+}
+
+void CityViewTest::uncheckingInTheTreeHides()
+{
+    const QImage before = picture();
+    int row = -1;
+    const QPoint place = placeOfSomething(&row);
+    QVERIFY(document->tree().setData(treeIndex(row), Qt::Unchecked, Qt::CheckStateRole));
+    QVERIFY(differences(before, picture()) > 20);
+    const scene::Slot now = view->hitAt(place).slot;
+    QVERIFY(now == noSlot || panel->link()->rowOf(now) != row);
+    QVERIFY(document->tree().setData(treeIndex(row), Qt::Checked, Qt::CheckStateRole));
+    QCOMPARE(differences(before, picture()), 0);
+}
+
+void CityViewTest::hideAllLeavesTheBackground()
+{
+    const QImage before = picture();
+    document->model().hideAll();
+    QVERIFY(isBackground(picture()));
+    document->model().showAll();
+    QCOMPARE(differences(before, picture()), 0);
+}
+
+void CityViewTest::aResetShowsTheSamePicture()
+{
+    const QImage before = picture();
+    for (int row = 0; row < document->model().rowCount(); ++row) {
+        document->model().reset(document->model().index(row, 0));
+        QVERIFY(document->model().isVisible(document->model().index(row, 0)));
+    }
+    panel->link()->finish();
+    QCOMPARE(differences(before, picture()), 0);
+}
+
+void CityViewTest::removedFeaturesLeaveNothing()
+{
+    CityGMLModel& model = document->model();
+    while (model.rowCount() > 0) {
+        model.removeFeature(model.getFeature(model.rowCount() - 1));
+    }
+    QVERIFY(isBackground(picture()));
+}
+
+void CityViewTest::reloadsShowTheSamePicture()
+{
+    const QImage before = picture();
+    open(examples() + "/district.gml");
+    QCOMPARE(differences(before, picture()), 0);
+    document->model().dataSetChanged();
+    panel->link()->finish();
+    QCOMPARE(differences(before, picture()), 0);
+}
+
+void CityViewTest::aFailedLoadLeavesNothingStale()
+{
+    const QImage before = picture();
+    const QTemporaryDir folder;
+    QVERIFY(writeFile(folder.filePath("broken.gml"), "<core:CityModel"));
+    document->model().load(folder.filePath("broken.gml"));
+    panel->link()->finish();
+    // The former document is there again.
+    QCOMPARE(differences(before, picture()), 0);
+    document->model().load(folder.filePath("missing.gml"));
+    panel->link()->finish();
+    QCOMPARE(document->model().rowCount(), 0);
+    QVERIFY(isBackground(picture()));
+}
+
+void CityViewTest::anotherDocumentTakesThePlace()
+{
+    document->goTo(1);
+    open(examples() + "/component.gml");
+    QVERIFY(isBackground(picture()));
+    open(examples() + "/utility.gml");
+    QVERIFY(!isBackground(picture()));
+}
+
+void CityViewTest::levelsOfDetailAreChosen()
+{
+    auto* const lods = panel->findChild<QComboBox*>("lod");
+    const QImage highest = picture();
+    QSet<QByteArray> pictures;
+    for (int index = 0; index < lods->count(); ++index) {
+        lods->setCurrentIndex(index);
+        const QImage image = picture();
+        pictures.insert(QByteArray(reinterpret_cast<const char*>(image.constBits()),
+                                   static_cast<int>(image.sizeInBytes())));
+    }
+    QVERIFY2(pictures.size() >= 5, qPrintable(QString::number(pictures.size())));
+    lods->setCurrentIndex(0);
+    QCOMPARE(differences(highest, picture()), 0);
+}
+
+void CityViewTest::coloursFollowAnAttributeAndItsEdits()
+{
+    const QImage before = picture();
+    auto* const attributes = panel->findChild<QComboBox*>("colourBy");
+    const QString path = "Fields/MeasuredHeight";
+    const int index = attributes->findData(path);
+    QVERIFY(index > 0);
+    attributes->setCurrentIndex(index);
+    emit attributes->activated(index);
+    QVERIFY(differences(before, picture()) > 1000);
+    QVERIFY(panel->link()->colours().legend().size() >= 2);
+
+    // The lowest becomes the highest.
+    CityGMLModel& model = document->model();
+    CoreProperty* edited = nullptr;
+    int rowOfEdited = -1;
+    for (int row = 0; row < model.rowCount(); ++row) {
+        CoreProperty* const property = apps::propertyAt(*model.getProperty(model.index(row, 0)), path);
+        if (property != nullptr && (edited == nullptr || property->value() < edited->value())) {
+            edited = property;
+            rowOfEdited = row;
+        }
+    }
+    QVERIFY(edited != nullptr);
+    const QVariant former = edited->value();
+    edited->setValue(former.toDouble() + 1000);
+    const QImage coloured = picture();
+    model.propertyChanged(model.index(rowOfEdited, 0), false);
+    QTRY_VERIFY(differences(coloured, picture()) > 100);
+    edited->setValue(former);
+    model.propertyChanged(model.index(rowOfEdited, 0), false);
+    QTRY_COMPARE(differences(coloured, picture()), 0);
+
+    attributes->setCurrentIndex(0);
+    emit attributes->activated(0);
+    QCOMPARE(differences(before, picture()), 0);
+}
+
+void CityViewTest::twoClicksMeasure()
+{
+    QSignalSpy measured(panel->overlay(), &ViewOverlay::measured);
+    panel->findChild<QAction*>("measure")->trigger();
+    const QPoint place = placeOfSomething();
+    QTest::mouseClick(view, Qt::LeftButton, Qt::NoModifier, place);
+    QVERIFY(panel->overlay()->measure().isEmpty());
+    QTest::mouseClick(view, Qt::LeftButton, Qt::NoModifier, place);
+    QCOMPARE(measured.count(), 1);
+    QVERIFY2(panel->overlay()->measure().contains("0.00") || panel->overlay()->measure().contains("0,00"),
+             qPrintable(panel->overlay()->measure()));
+    QVERIFY(!document->selection().hasSelection());
+    panel->findChild<QAction*>("measure")->trigger();
+    QVERIFY(panel->overlay()->measure().isEmpty());
+}
+
+void CityViewTest::keysTurnAndMove()
+{
+    const QImage before = picture();
+    QTest::keyClick(view, Qt::Key_Left);
+    QVERIFY(differences(before, picture()) > 0);
+    QTest::keyClick(view, Qt::Key_Right);
+    QTest::keyClick(view, Qt::Key_Up, Qt::ShiftModifier);
+    QVERIFY(differences(before, picture()) > 0);
+    for (const char* const name : {"lookFromTop", "lookFromFront", "lookFromSide", "lookOblique"}) {
+        const QImage former = picture();
+        panel->findChild<QAction*>(name)->trigger();
+        QVERIFY2(differences(former, picture()) > 0, name);
+        QVERIFY2(!isBackground(picture()), name);
+    }
+    const QImage perspective = picture();
+    panel->findChild<QAction*>("parallel")->trigger();
+    QVERIFY(differences(perspective, picture()) > 0);
+}
+
+void CityViewTest::theWheelZoomsToThePointer()
+{
+    panel->findChild<QAction*>("parallel")->trigger();
+    view->look(scene::Camera::Direction::Top);
+    int row = -1;
+    const QPoint place = placeOfSomething(&row);
+    QWheelEvent wheel(place, view->mapToGlobal(place), QPoint(), QPoint(0, 360), Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    const double height = view->camera().height();
+    QCoreApplication::sendEvent(view, &wheel);
+    QVERIFY(view->camera().height() < height);
+    const scene::Slot slot = view->hitAt(place).slot;
+    QVERIFY(slot != noSlot);
+    QCOMPARE(panel->link()->rowOf(slot), row);
+}
+
+void CityViewTest::picturesHaveTheSizeThatIsAsked()
+{
+    const QImage image = view->picture(QSize(333, 222), false);
+    QCOMPARE(image.size(), QSize(333, 222));
+    QVERIFY(!isBackground(image));
+    QCOMPARE(view->picture(QSize(100, 100), true).pixelColor(0, 0).alpha(), 0);
+    QVERIFY(view->picture(QSize(1000000, 10), false).isNull());
+}
+
+#include "cityviewtest.moc"
