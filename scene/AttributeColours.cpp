@@ -19,11 +19,6 @@ constexpr int categoryCount = sizeof(categoryColours) / sizeof(*categoryColours)
 constexpr QRgb otherColour = 0x5c5c66;
 constexpr QRgb missingColour = 0xb4b4b4;
 
-QString translated(const char* text)
-{
-    return QCoreApplication::translate("tolvik::scene::AttributeColours", text);
-}
-
 bool isNumber(const QVariant& value)
 {
     switch (static_cast<QMetaType::Type>(value.userType())) {
@@ -75,7 +70,8 @@ AttributeColours::AttributeColours(const std::vector<QVariant>& values)
     } else {
         makeCategories(values);
     }
-    entries.push_back({QColor(missingColour), translated("no value"), 0});
+    entries.push_back({QColor(missingColour),
+                       QCoreApplication::translate("tolvik::scene::AttributeColours", "no value"), 0});
     countValues(values);
 }
 
@@ -130,7 +126,8 @@ void AttributeColours::makeCategories(const std::vector<QVariant>& values)
             names << name;
         }
     }
-    entries.push_back({QColor(otherColour), translated("other values"), 0});
+    entries.push_back({QColor(otherColour),
+                       QCoreApplication::translate("tolvik::scene::AttributeColours", "other values"), 0});
 }
 
 std::size_t AttributeColours::classOf(double value) const

@@ -423,8 +423,9 @@ osg::BoundingBoxd CityScene::bounds() const
     return box;
 }
 
-osg::BoundingBoxd CityScene::boundsOf(const std::vector<Slot>& which) const
+osg::BoundingBoxd CityScene::boundsOf(const std::vector<Slot>& which)
 {
+    table.update();
     osg::BoundingBoxd box;
     const std::unordered_set<Slot> wanted(which.begin(), which.end());
     std::unordered_set<std::size_t> numbers;

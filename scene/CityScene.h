@@ -88,7 +88,7 @@ public:
     /// Around all that is drawn of visible features, relative to the origin; invalid where there is nothing.
     osg::BoundingBoxd bounds() const;
     /// Around what is drawn of some features, hidden or not.
-    osg::BoundingBoxd boundsOf(const std::vector<Slot>& which) const;
+    osg::BoundingBoxd boundsOf(const std::vector<Slot>& which);
 
     /// What is drawn.
     osg::Group* root() const { return top; }

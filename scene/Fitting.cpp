@@ -23,8 +23,8 @@ int pixelsOf(const std::vector<Slot>& features, const Camera& camera, const QSiz
 
 } // namespace
 
-Camera fittedTo(const std::vector<Slot>& features, const Camera& camera, const QSize& size,
-                const CityScene& scene, Renderer& renderer, const DrawOptions& options)
+Camera fittedTo(const std::vector<Slot>& features, const Camera& camera, const QSize& size, CityScene& scene,
+                Renderer& renderer, const DrawOptions& options)
 {
     const std::vector<Slot> all = scene.features().withBelow(features);
     const osg::BoundingBoxd box = scene.boundsOf(all);
@@ -36,7 +36,8 @@ Camera fittedTo(const std::vector<Slot>& features, const Camera& camera, const Q
     Camera best = camera;
     best.fit(box, aspect);
     int most = pixelsOf(all, best, trial, renderer, options);
-    for (const double pitch : {0.6, 0.15, 1.5}) {
+    // A ground surface is seen from below alone.
+    for (const double pitch : {0.6, 0.15, 1.5, -0.6, -0.15}) {
         for (int step = 0; step < 8 && most < enough * trial.width() * trial.height(); ++step) {
             Camera turned = camera;
             turned.setAngles(camera.yaw() + step * 0.7854, pitch);

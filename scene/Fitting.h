@@ -10,7 +10,7 @@ namespace tolvik::scene {
 /// them from there, else from that of several from which most is seen.
 /// \param camera where it is looked from
 /// \return the camera as it is where nothing is drawn of the features
-Camera fittedTo(const std::vector<Slot>& features, const Camera& camera, const QSize& size,
-                const CityScene& scene, Renderer& renderer, const DrawOptions& options);
+Camera fittedTo(const std::vector<Slot>& features, const Camera& camera, const QSize& size, CityScene& scene,
+                Renderer& renderer, const DrawOptions& options);
 
 } // namespace tolvik::scene

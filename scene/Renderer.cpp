@@ -122,8 +122,9 @@ osg::ref_ptr<osgUtil::SceneView> Renderer::makeView(osg::Program* program)
     root->getOrCreateStateSet()->addUniform(new osg::Uniform("section", osg::Vec4()));
     root->getOrCreateStateSet()->addUniform(new osg::Uniform("isByFeature", false));
     osg::ref_ptr<osgUtil::SceneView> view = new osgUtil::SceneView;
-    view->setState(state);
     view->setDefaults(osgUtil::SceneView::NO_SCENEVIEW_LIGHT);
+    // Behind the defaults, to which a state of the view's own belongs.
+    view->setState(state);
     view->setSceneData(root);
     view->setComputeNearFarMode(osg::CullSettings::DO_NOT_COMPUTE_NEAR_FAR);
     view->setCullingMode(osg::CullSettings::VIEW_FRUSTUM_SIDES_CULLING);
@@ -169,8 +170,7 @@ void Renderer::prepare(osgUtil::SceneView& view, const Camera& camera, const QSi
 void Renderer::run(osgUtil::SceneView& view)
 {
     scene.features().update();
-    // The host draws in the same context, and may have changed what the state believes to be set.
-    state->dirtyAllModes();
+    // The host binds and draws in the same context. Modes it leaves alone.
     state->dirtyAllAttributes();
     state->dirtyAllVertexArrays();
     state->setLastAppliedProgramObject(nullptr);

@@ -29,8 +29,9 @@ void placeVertex(uint state)
     gl_ClipDistance[0] = dot(eye, section);
     // All vertices of what is not shown come to lie at one place out of sight.
     gl_Position = isShown ? gl_ProjectionMatrix * eye : vec4(2.0, 2.0, 2.0, 1.0);
-    // Of surfaces upon each other, that of the innermost feature is seen.
-    gl_Position.z -= colourOfFeature().a * 255.0 * 1e-5 * gl_Position.w;
+    // Of surfaces upon each other, that of a selected feature is seen, or else that of the innermost one.
+    float level = colourOfFeature().a * 255.0 + ((state & 2u) != 0u ? 4.0 : 0.0);
+    gl_Position.z -= level * 1e-5 * gl_Position.w;
 }
 )";
 

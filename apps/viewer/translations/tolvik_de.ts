@@ -199,6 +199,17 @@
     </message>
 </context>
 <context>
+    <name>tolvik::scene::AttributeColours</name>
+    <message>
+        <source>no value</source>
+        <translation>kein Wert</translation>
+    </message>
+    <message>
+        <source>other values</source>
+        <translation>andere Werte</translation>
+    </message>
+</context>
+<context>
     <name>tolvik::viewer::AttributeDialog</name>
     <message>
         <source>&amp;Value:</source>
@@ -316,6 +327,13 @@
     <message>
         <source>: sum %1, mean %2, smallest %3, largest %4</source>
         <translation>: Summe %1, Mittel %2, kleinste %3, größte %4</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::CityView</name>
+    <message>
+        <source>City in three dimensions</source>
+        <translation>Stadt in drei Dimensionen</translation>
     </message>
 </context>
 <context>
@@ -815,10 +833,6 @@ height&gt;3, function=1000 für Attribute. Eingabe führt zum nächsten Treffer.
         </translation>
     </message>
     <message>
-        <source>Features of the document</source>
-        <translation>Objekte des Dokuments</translation>
-    </message>
-    <message>
         <source>Features</source>
         <translation>Objekte</translation>
     </message>
@@ -992,12 +1006,35 @@ height&gt;3, function=1000 für Attribute. Eingabe führt zum nächsten Treffer.
         <source>%1 is not opened.</source>
         <translation>%1 wird nicht geöffnet.</translation>
     </message>
+    <message>
+        <source>&amp;City</source>
+        <translation>S&amp;tadt</translation>
+    </message>
 </context>
 <context>
     <name>tolvik::viewer::NoticeBar</name>
     <message>
         <source>Close this message</source>
         <translation>Diese Meldung schließen</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::PictureDialog</name>
+    <message>
+        <source>Leave the background out</source>
+        <translation>Hintergrund weglassen</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation>Bild speichern</translation>
+    </message>
+    <message>
+        <source>&amp;Width in pixels</source>
+        <translation>&amp;Breite in Bildpunkten</translation>
+    </message>
+    <message>
+        <source>&amp;Height in pixels</source>
+        <translation>&amp;Höhe in Bildpunkten</translation>
     </message>
 </context>
 <context>
@@ -1256,6 +1293,202 @@ height&gt;3, function=1000 für Attribute. Eingabe führt zum nächsten Treffer.
             <numerusform>%n Eintrag: %1…</numerusform>
             <numerusform>%n Einträge: %1…</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::ViewOverlay</name>
+    <message>
+        <source>Distance %L1, on the ground %L2, height %L3</source>
+        <extracomment>A measured line: its length, its length on the ground, and how far it leads up or down</extracomment>
+        <translation>Abstand %L1, am Boden %L2, Höhe %L3</translation>
+    </message>
+    <message>
+        <source>%1 (%L2)</source>
+        <extracomment>An entry of the legend: a value, and the number of features that have it</extracomment>
+        <translation>%1 (%L2)</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::ViewPanel</name>
+    <message>
+        <source>The city cannot be drawn: there is no OpenGL here. Everything else can be used.</source>
+        <translation>Die Stadt kann nicht gezeichnet werden: Hier gibt es kein OpenGL. Alles andere ist benutzbar.</translation>
+    </message>
+    <message>
+        <source>The city cannot be drawn: %1.</source>
+        <translation>Die Stadt kann nicht gezeichnet werden: %1.</translation>
+    </message>
+    <message>
+        <source>Building the view: %1 %</source>
+        <translation>Die Ansicht wird aufgebaut: %1 %</translation>
+    </message>
+    <message>
+        <source>%L1 triangles</source>
+        <translation>%L1 Dreiecke</translation>
+    </message>
+    <message>
+        <source>Zoom to &amp;All</source>
+        <translation>&amp;Alles zeigen</translation>
+    </message>
+    <message>
+        <source>A</source>
+        <translation>A</translation>
+    </message>
+    <message>
+        <source>&amp;Zoom to Selected</source>
+        <translation>Auswahl &amp;zeigen</translation>
+    </message>
+    <message>
+        <source>F</source>
+        <translation>F</translation>
+    </message>
+    <message>
+        <source>&amp;Reset Representation</source>
+        <translation>Darstellung &amp;neu aufbauen</translation>
+    </message>
+    <message>
+        <source>From &amp;Above and the Side</source>
+        <translation>Von &amp;schräg oben</translation>
+    </message>
+    <message>
+        <source>0</source>
+        <translation>0</translation>
+    </message>
+    <message>
+        <source>From the &amp;Top</source>
+        <translation>Von &amp;oben</translation>
+    </message>
+    <message>
+        <source>7</source>
+        <translation>7</translation>
+    </message>
+    <message>
+        <source>From the Sout&amp;h</source>
+        <translation>Von Sü&amp;den</translation>
+    </message>
+    <message>
+        <source>1</source>
+        <translation>1</translation>
+    </message>
+    <message>
+        <source>From the &amp;East</source>
+        <translation>Von Os&amp;ten</translation>
+    </message>
+    <message>
+        <source>3</source>
+        <translation>3</translation>
+    </message>
+    <message>
+        <source>&amp;Parallel Lines Stay Parallel</source>
+        <translation>&amp;Parallelprojektion</translation>
+    </message>
+    <message>
+        <source>5</source>
+        <translation>5</translation>
+    </message>
+    <message>
+        <source>E&amp;dges</source>
+        <translation>&amp;Kanten</translation>
+    </message>
+    <message>
+        <source>E</source>
+        <translation>E</translation>
+    </message>
+    <message>
+        <source>&amp;Measure</source>
+        <translation>&amp;Messen</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <translation>M</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Picture</source>
+        <translation>Bild &amp;kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Save Picture...</source>
+        <translation>Bild s&amp;peichern...</translation>
+    </message>
+    <message>
+        <source>Level of detail</source>
+        <translation>Detaillierungsgrad</translation>
+    </message>
+    <message>
+        <source>Highest detail</source>
+        <translation>Höchster Detailgrad</translation>
+    </message>
+    <message>
+        <source>Lowest detail</source>
+        <translation>Niedrigster Detailgrad</translation>
+    </message>
+    <message>
+        <source>LOD %1</source>
+        <translation>LOD %1</translation>
+    </message>
+    <message>
+        <source>Materials and textures</source>
+        <translation>Materialien und Texturen</translation>
+    </message>
+    <message>
+        <source>Attribute that gives the colours</source>
+        <translation>Attribut, das die Farben bestimmt</translation>
+    </message>
+    <message>
+        <source>Colours of the types</source>
+        <translation>Farben der Typen</translation>
+    </message>
+    <message>
+        <source>Plane that cuts the city open</source>
+        <translation>Ebene, die die Stadt aufschneidet</translation>
+    </message>
+    <message>
+        <source>No section</source>
+        <translation>Kein Schnitt</translation>
+    </message>
+    <message>
+        <source>From above</source>
+        <translation>Von oben</translation>
+    </message>
+    <message>
+        <source>From the east</source>
+        <translation>Von Osten</translation>
+    </message>
+    <message>
+        <source>From the north</source>
+        <translation>Von Norden</translation>
+    </message>
+    <message>
+        <source>Pictures of surfaces are missing: %1</source>
+        <translation>Bilder von Oberflächen fehlen: %1</translation>
+    </message>
+    <message>
+        <source>No appearance</source>
+        <translation>Ohne Erscheinung</translation>
+    </message>
+    <message>
+        <source>Appearance without a name</source>
+        <translation>Erscheinung ohne Namen</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation>Bild speichern</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png)</source>
+        <translation>Bilder (*.png)</translation>
+    </message>
+    <message>
+        <source>A picture of that size cannot be drawn.</source>
+        <translation>Ein Bild dieser Größe kann nicht gezeichnet werden.</translation>
+    </message>
+    <message>
+        <source>The picture is saved as %1.</source>
+        <translation>Das Bild ist als %1 gespeichert.</translation>
+    </message>
+    <message>
+        <source>The picture could not be written to %1.</source>
+        <translation>Das Bild konnte nicht nach %1 geschrieben werden.</translation>
     </message>
 </context>
 </TS>

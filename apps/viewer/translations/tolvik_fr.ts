@@ -199,6 +199,17 @@
     </message>
 </context>
 <context>
+    <name>tolvik::scene::AttributeColours</name>
+    <message>
+        <source>no value</source>
+        <translation>sans valeur</translation>
+    </message>
+    <message>
+        <source>other values</source>
+        <translation>autres valeurs</translation>
+    </message>
+</context>
+<context>
     <name>tolvik::viewer::AttributeDialog</name>
     <message>
         <source>&amp;Value:</source>
@@ -316,6 +327,13 @@
     <message>
         <source>: sum %1, mean %2, smallest %3, largest %4</source>
         <translation> : somme %1, moyenne %2, minimum %3, maximum %4</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::CityView</name>
+    <message>
+        <source>City in three dimensions</source>
+        <translation>Ville en trois dimensions</translation>
     </message>
 </context>
 <context>
@@ -815,10 +833,6 @@ height&gt;3, function=1000 pour les attributs. Entrée mène au résultat suivan
         </translation>
     </message>
     <message>
-        <source>Features of the document</source>
-        <translation>Objets du document</translation>
-    </message>
-    <message>
         <source>Features</source>
         <translation>Objets</translation>
     </message>
@@ -992,12 +1006,35 @@ height&gt;3, function=1000 pour les attributs. Entrée mène au résultat suivan
         <source>%1 is not opened.</source>
         <translation>%1 n’est pas ouvert.</translation>
     </message>
+    <message>
+        <source>&amp;City</source>
+        <translation>&amp;Ville</translation>
+    </message>
 </context>
 <context>
     <name>tolvik::viewer::NoticeBar</name>
     <message>
         <source>Close this message</source>
         <translation>Fermer ce message</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::PictureDialog</name>
+    <message>
+        <source>Leave the background out</source>
+        <translation>Sans arrière-plan</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation>Enregistrer l’image</translation>
+    </message>
+    <message>
+        <source>&amp;Width in pixels</source>
+        <translation>&amp;Largeur en pixels</translation>
+    </message>
+    <message>
+        <source>&amp;Height in pixels</source>
+        <translation>&amp;Hauteur en pixels</translation>
     </message>
 </context>
 <context>
@@ -1256,6 +1293,202 @@ height&gt;3, function=1000 pour les attributs. Entrée mène au résultat suivan
             <numerusform>%n élément : %1…</numerusform>
             <numerusform>%n éléments : %1…</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::ViewOverlay</name>
+    <message>
+        <source>Distance %L1, on the ground %L2, height %L3</source>
+        <extracomment>A measured line: its length, its length on the ground, and how far it leads up or down</extracomment>
+        <translation>Distance %L1, au sol %L2, hauteur %L3</translation>
+    </message>
+    <message>
+        <source>%1 (%L2)</source>
+        <extracomment>An entry of the legend: a value, and the number of features that have it</extracomment>
+        <translation>%1 (%L2)</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::ViewPanel</name>
+    <message>
+        <source>The city cannot be drawn: there is no OpenGL here. Everything else can be used.</source>
+        <translation>La ville ne peut pas être dessinée : OpenGL est absent ici. Tout le reste est utilisable.</translation>
+    </message>
+    <message>
+        <source>The city cannot be drawn: %1.</source>
+        <translation>La ville ne peut pas être dessinée : %1.</translation>
+    </message>
+    <message>
+        <source>Building the view: %1 %</source>
+        <translation>Construction de la vue : %1 %</translation>
+    </message>
+    <message>
+        <source>%L1 triangles</source>
+        <translation>%L1 triangles</translation>
+    </message>
+    <message>
+        <source>Zoom to &amp;All</source>
+        <translation>&amp;Tout afficher</translation>
+    </message>
+    <message>
+        <source>A</source>
+        <translation>A</translation>
+    </message>
+    <message>
+        <source>&amp;Zoom to Selected</source>
+        <translation>&amp;Cadrer la sélection</translation>
+    </message>
+    <message>
+        <source>F</source>
+        <translation>F</translation>
+    </message>
+    <message>
+        <source>&amp;Reset Representation</source>
+        <translation>&amp;Reconstruire la représentation</translation>
+    </message>
+    <message>
+        <source>From &amp;Above and the Side</source>
+        <translation>&amp;De biais</translation>
+    </message>
+    <message>
+        <source>0</source>
+        <translation>0</translation>
+    </message>
+    <message>
+        <source>From the &amp;Top</source>
+        <translation>De des&amp;sus</translation>
+    </message>
+    <message>
+        <source>7</source>
+        <translation>7</translation>
+    </message>
+    <message>
+        <source>From the Sout&amp;h</source>
+        <translation>Depuis le s&amp;ud</translation>
+    </message>
+    <message>
+        <source>1</source>
+        <translation>1</translation>
+    </message>
+    <message>
+        <source>From the &amp;East</source>
+        <translation>Depuis l’&amp;est</translation>
+    </message>
+    <message>
+        <source>3</source>
+        <translation>3</translation>
+    </message>
+    <message>
+        <source>&amp;Parallel Lines Stay Parallel</source>
+        <translation>&amp;Projection parallèle</translation>
+    </message>
+    <message>
+        <source>5</source>
+        <translation>5</translation>
+    </message>
+    <message>
+        <source>E&amp;dges</source>
+        <translation>&amp;Arêtes</translation>
+    </message>
+    <message>
+        <source>E</source>
+        <translation>E</translation>
+    </message>
+    <message>
+        <source>&amp;Measure</source>
+        <translation>&amp;Mesurer</translation>
+    </message>
+    <message>
+        <source>M</source>
+        <translation>M</translation>
+    </message>
+    <message>
+        <source>&amp;Copy Picture</source>
+        <translation>&amp;Copier l’image</translation>
+    </message>
+    <message>
+        <source>&amp;Save Picture...</source>
+        <translation>Enre&amp;gistrer l’image...</translation>
+    </message>
+    <message>
+        <source>Level of detail</source>
+        <translation>Niveau de détail</translation>
+    </message>
+    <message>
+        <source>Highest detail</source>
+        <translation>Détail le plus élevé</translation>
+    </message>
+    <message>
+        <source>Lowest detail</source>
+        <translation>Détail le plus faible</translation>
+    </message>
+    <message>
+        <source>LOD %1</source>
+        <translation>LOD %1</translation>
+    </message>
+    <message>
+        <source>Materials and textures</source>
+        <translation>Matériaux et textures</translation>
+    </message>
+    <message>
+        <source>Attribute that gives the colours</source>
+        <translation>Attribut qui donne les couleurs</translation>
+    </message>
+    <message>
+        <source>Colours of the types</source>
+        <translation>Couleurs des types</translation>
+    </message>
+    <message>
+        <source>Plane that cuts the city open</source>
+        <translation>Plan qui coupe la ville</translation>
+    </message>
+    <message>
+        <source>No section</source>
+        <translation>Pas de coupe</translation>
+    </message>
+    <message>
+        <source>From above</source>
+        <translation>Par le haut</translation>
+    </message>
+    <message>
+        <source>From the east</source>
+        <translation>Par l’est</translation>
+    </message>
+    <message>
+        <source>From the north</source>
+        <translation>Par le nord</translation>
+    </message>
+    <message>
+        <source>Pictures of surfaces are missing: %1</source>
+        <translation>Des images de surfaces manquent : %1</translation>
+    </message>
+    <message>
+        <source>No appearance</source>
+        <translation>Sans apparence</translation>
+    </message>
+    <message>
+        <source>Appearance without a name</source>
+        <translation>Apparence sans nom</translation>
+    </message>
+    <message>
+        <source>Save Picture</source>
+        <translation>Enregistrer l’image</translation>
+    </message>
+    <message>
+        <source>Pictures (*.png)</source>
+        <translation>Images (*.png)</translation>
+    </message>
+    <message>
+        <source>A picture of that size cannot be drawn.</source>
+        <translation>Une image de cette taille ne peut pas être dessinée.</translation>
+    </message>
+    <message>
+        <source>The picture is saved as %1.</source>
+        <translation>L’image est enregistrée sous %1.</translation>
+    </message>
+    <message>
+        <source>The picture could not be written to %1.</source>
+        <translation>L’image n’a pas pu être écrite dans %1.</translation>
     </message>
 </context>
 </TS>
