@@ -288,7 +288,9 @@ void CityScene::send(Pending pending)
     for (const Slot slot : pending.members) {
         tileOf[slot] = tile;
     }
-    tiles.push_back({std::move(pending.members), nullptr, 0, 0});
+    // Of surfaces upon each other the first is seen: the order must not depend on which tile is ready first.
+    tiles.push_back({std::move(pending.members), new osg::MatrixTransform, 0, 0});
+    top->addChild(tiles.back().node);
     workers.add(tile, std::move(pending.batch), lookArrays);
 }
 
@@ -312,12 +314,7 @@ bool CityScene::takeFinished()
 
 void CityScene::show(Tile& tile, TileMesh mesh)
 {
-    if (tile.node != nullptr) {
-        tile.node->removeChildren(0, tile.node->getNumChildren());
-    } else {
-        tile.node = new osg::MatrixTransform;
-        top->addChild(tile.node);
-    }
+    tile.node->removeChildren(0, tile.node->getNumChildren());
     const Position offset = difference(mesh.origin, sceneOrigin);
     tile.node->setMatrix(osg::Matrixd::translate(offset[0], offset[1], offset[2]));
     for (const TileDrawable& drawable : mesh.drawables) {
@@ -413,7 +410,7 @@ osg::BoundingBoxd CityScene::bounds() const
 {
     osg::BoundingBoxd box;
     for (const Tile& tile : tiles) {
-        for (unsigned i = 0; tile.node != nullptr && i < tile.node->getNumChildren(); ++i) {
+        for (unsigned i = 0; i < tile.node->getNumChildren(); ++i) {
             const osg::BoundingBox part = tile.node->getChild(i)->asGeometry()->getBoundingBox();
             const osg::Vec3d offset = tile.node->getMatrix().getTrans();
             box.expandBy(osg::Vec3d(part._min) + offset);
@@ -435,7 +432,7 @@ osg::BoundingBoxd CityScene::boundsOf(const std::vector<Slot>& which)
     numbers.erase(noTile);
     for (const std::size_t number : numbers) {
         const Tile& tile = tiles[number];
-        for (unsigned i = 0; tile.node != nullptr && i < tile.node->getNumChildren(); ++i) {
+        for (unsigned i = 0; i < tile.node->getNumChildren(); ++i) {
             const osg::Geometry& geometry = *tile.node->getChild(i)->asGeometry();
             const auto& positions = static_cast<const osg::Vec3Array&>(*geometry.getVertexArray());
             const auto& tags =

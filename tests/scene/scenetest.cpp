@@ -20,12 +20,15 @@ namespace {
 /// The same document further away: everything but the shapes of implicit geometries.
 QByteArray shifted(const QByteArray& xml, double x, double y)
 {
+    const QString text = QString::fromUtf8(xml);
+    // The shape of an implicit geometry stays, as it is placed by its reference point; one whose shape stands
+    // elsewhere and is moved there stays as a whole.
     static const QRegularExpression shape(
-        "<(\\w+:)relativeGMLGeometry(\\s[^>]*[^/])?>.*?</\\1relativeGMLGeometry>",
+        "<(\\w+:relativeGMLGeometry)(?:\\s[^>]*[^/])?>.*?</\\1>|"
+        "<(\\w+:ImplicitGeometry)>(?:(?!</\\2>).)*relativeGMLGeometry xlink:href.*?</\\2>",
         QRegularExpression::DotMatchesEverythingOption);
     static const QRegularExpression list(
         "(<gml:(pos|posList|coordinates|lowerCorner|upperCorner)\\b[^>]*>)([^<]*)<");
-    const QString text = QString::fromUtf8(xml);
     const auto shiftLists = [&](const QString& part) {
         QString result;
         int at = 0;
@@ -42,8 +45,8 @@ QByteArray shifted(const QByteArray& xml, double x, double y)
             for (int i = 0; hasCommas && i + 1 < numbers.size(); ++i) {
                 numbers[i] += (i + 1) % dimension == 0 ? QString() : QStringLiteral(",");
             }
-            const QString text = numbers.join(' ').replace(QLatin1String(", "), QLatin1String(","));
-            result += part.mid(at, match.capturedStart() - at) + match.captured(1) + text + '<';
+            const QString shiftedList = numbers.join(' ').replace(QLatin1String(", "), QLatin1String(","));
+            result += part.mid(at, match.capturedStart() - at) + match.captured(1) + shiftedList + '<';
             at = match.capturedEnd();
         }
         return result + part.mid(at);

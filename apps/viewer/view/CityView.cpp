@@ -1,7 +1,7 @@
 #include "apps/viewer/view/CityView.h"
 
 #include "apps/viewer/document/Document.h"
-#include "apps/viewer/selection/SelectionLink.h"
+#include "apps/viewer/selection/RowSelectionModel.h"
 #include "apps/viewer/view/SceneLink.h"
 #include "scene/Fitting.h"
 
@@ -331,7 +331,7 @@ void CityView::select(const std::set<Slot>& features, bool adds)
                 QItemSelectionRange(model.index(row, 0), model.index(row, model.columnCount() - 1)));
         }
     }
-    replaceSelection(document.selection(), selected);
+    document.selection().replace(selected);
 }
 
 void CityView::wheelEvent(QWheelEvent* event)

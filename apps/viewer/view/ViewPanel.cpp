@@ -8,6 +8,7 @@
 #include "apps/viewer/view/SceneLink.h"
 #include "apps/viewer/view/ViewOverlay.h"
 
+#include <initializer_list>
 #include <QAction>
 #include <QClipboard>
 #include <QComboBox>
@@ -156,6 +157,11 @@ void ViewPanel::makeTools()
     makeThemeTool(*bar);
     makeColourTool(*bar);
     makeSectionTool(*bar);
+    section->setToolTip(sectionAxis->toolTip());
+    for (QWidget* const tool :
+         std::initializer_list<QWidget*>{lods, themes, attributes, sectionAxis, section}) {
+        tool->setAccessibleName(tool->toolTip());
+    }
     coordinates = new QLabel;
     coordinates->setObjectName(QStringLiteral("coordinateSystem"));
     coordinates->setMargin(4);
