@@ -2,10 +2,12 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdio>
 #include <filesystem>
 #include <ostream>
 #include <QFile>
 #include <QFileInfo>
+#include <stdexcept>
 #include <system_error>
 
 namespace tolvik::inspect {
@@ -52,18 +54,51 @@ bool find(const fs::path& directory, QStringList& found, std::ostream& err)
     return done && !failure;
 }
 
+/// \throws std::runtime_error
+QStringList linesOf(const QString& path)
+{
+    QFile file(path);
+    const bool isOpen =
+        path == QLatin1String("-") ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
+    if (!isOpen) {
+        throw std::runtime_error(path.toStdString() +
+                                 " could not be read: " + file.errorString().toStdString());
+    }
+    QStringList lines;
+    for (QByteArray line = file.readLine(); !line.isEmpty(); line = file.readLine()) {
+        if (line.endsWith('\n')) {
+            line.chop(1);
+        }
+        if (!line.isEmpty()) {
+            lines += QFile::decodeName(line);
+        }
+    }
+    return lines;
+}
+
 } // namespace
 
-DocumentFiles::DocumentFiles(const QStringList& arguments, bool recursive, std::ostream& err)
-    : several(arguments.size() > 1)
+DocumentFiles::DocumentFiles(const QStringList& arguments, const QString& list, bool recursive,
+                             std::ostream& err)
+    : several(arguments.size() > 1 || !list.isNull())
 {
     for (const QString& argument : arguments) {
-        if (recursive && QFileInfo(argument).isDir()) {
-            several = true;
-            addDirectory(argument, err);
-        } else {
-            files += argument;
+        add(argument, recursive, err);
+    }
+    if (!list.isNull()) {
+        for (const QString& argument : linesOf(list)) {
+            add(argument, recursive, err);
         }
+    }
+}
+
+void DocumentFiles::add(const QString& argument, bool recursive, std::ostream& err)
+{
+    if (recursive && QFileInfo(argument).isDir()) {
+        several = true;
+        addDirectory(argument, err);
+    } else {
+        files += argument;
     }
 }
 

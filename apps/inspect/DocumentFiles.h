@@ -14,8 +14,10 @@ class DocumentFiles
 {
 public:
     /// \param arguments paths of files and, with \a recursive, of directories; `-` is standard input
+    /// \param list      path of a file with one more argument a line; `-` is standard input, a null one none
     /// \param err       takes one line for each directory that cannot be read or has no documents
-    DocumentFiles(const QStringList& arguments, bool recursive, std::ostream& err);
+    /// \throws std::runtime_error if the list cannot be read
+    DocumentFiles(const QStringList& arguments, const QString& list, bool recursive, std::ostream& err);
 
     /// In the order of the arguments, those of a directory in the order of their names.
     const QStringList& paths() const { return files; }
@@ -25,6 +27,7 @@ public:
     bool areSeveral() const { return several; }
 
 private:
+    void add(const QString& argument, bool recursive, std::ostream& err);
     void addDirectory(const QString& directory, std::ostream& err);
 
     QStringList files;

@@ -17,6 +17,9 @@ namespace {
 tables::TableTarget targetOf(const TableOptions& options)
 {
     tables::TableTarget target;
+    if (options.out.isEmpty()) {
+        return target;
+    }
     target.path = options.out;
     const tables::TableFormat* const told = tables::formatOf(options.out);
     target.format = options.format.isEmpty() ? told : tables::formatNamed(options.format);
@@ -85,6 +88,21 @@ int runTable(const TableOptions& options, const TableDocuments& documents)
         return 1;
     }
     return code;
+}
+
+int runColumns(const QString& out, const TableDocuments& files)
+{
+    try {
+        tables::TableCatalogue merged;
+        for (const QString& file : files.files) {
+            merged.merge(file);
+        }
+        tables::TableCatalogue::save(out, merged.layouts(QStringList()));
+    } catch (const tables::TableError& error) {
+        *files.err << "tolvik-inspect: " << error.what() << '\n';
+        return 1;
+    }
+    return 0;
 }
 
 } // namespace tolvik::inspect

@@ -9,4 +9,8 @@ namespace tolvik::inspect {
 /// \throws TableUsageError
 int runTable(const TableOptions& options, const TableDocuments& documents);
 
+/// Joins files of columns, see TableModule::joinColumns().
+/// \return the program's exit code
+int runColumns(const QString& out, const TableDocuments& files);
+
 } // namespace tolvik::inspect

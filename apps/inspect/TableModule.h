@@ -30,7 +30,7 @@ struct TableOptions
     QStringList types;
     QStringList columns;
     QString columnsFrom;
-    QString out;
+    QString out;    ///< empty where the columns are wanted alone
     QString format; ///< empty where the target tells it
     bool all = false;
     bool hasHeights = false;
@@ -68,6 +68,10 @@ public:
     /// \return the program's exit code: 0, or 1 where something is missing from the tables
     /// \throws TableUsageError before anything is done
     virtual int writeTables(const TableOptions& options, const TableDocuments& documents) = 0;
+
+    /// Writes a file of the columns that tables of several parts need, each with a file of its own columns.
+    /// \return the program's exit code: 0, or 1 where a file could not be read or written
+    virtual int joinColumns(const QString& out, const TableDocuments& files) = 0;
 
     /// Sets attributes from tables. Nothing is written where a cell cannot be set, unless that is asked for.
     /// \return the program's exit code: 0, or 1 where something could not be done

@@ -41,11 +41,11 @@ const char usage[] =
 
 FILE is a CityGML 2.0 document; `-` reads one from standard input.
 
-  rows FILE... [--json] [--recursive]
+  rows FILE... [--json]
                          list the features: number, type, gml:id and name, with tabs between them
-  tree FILE... [--json] [--all] [--recursive]
+  tree FILE... [--json] [--all]
                          show the features as a tree; --all keeps appearances
-  properties FILE... (--id ID | --row N | --every) [--absent] [--json] [--recursive]
+  properties FILE... (--id ID | --row N | --every) [--absent] [--json]
                          show the attributes of the features, and as "Other content" what else
                          the document says of them; --absent adds the attributes that they
                          could have and have not
@@ -54,7 +54,7 @@ FILE is a CityGML 2.0 document; `-` reads one from standard input.
                          `properties` shows, with `/` between them; `[2]` behind a label
                          takes the second of equal ones
   save FILE OUT          load FILE and save it as OUT
-  check FILE... [--json] [--recursive]
+  check FILE... [--json]
                          tell all that is wrong, in lines of FILE:LINE:COLUMN: PATH: REASON or, in
                          JSON, one object a line
   repair FILE OUT        save FILE as OUT with a free name for each gml:id that stands twice, with
@@ -65,17 +65,18 @@ FILE is a CityGML 2.0 document; `-` reads one from standard input.
                          highest of each; --colour-by takes a PATH as `set` does, and a colour for
                          each value; no display is needed
   table FILE... --out TARGET [--format FORMAT] [--type TYPE,...] [--columns PATH,...]
-        [--columns-from FILE] [--all] [--geometry] [--3d] [--append] [--recursive]
+        [--columns-from FILE] [--all] [--geometry] [--3d] [--append]
                          write the attributes as tables: a table a type of features, a row a
                          feature. TARGET is a file *.gpkg or *.xlsx, a database PG:..., a folder for
                          a file a table, or with one --type a file *.csv, *.geojson, *.geojsonl or
                          *.fgb. A column is a PATH as `set` takes it, or gen:NAME for a generic
                          attribute; --columns-from keeps the columns in a file, and uses those of
-                         one that is there. Maps get a geometry, a CSV with --geometry; --3d takes
+                         one that is there; without --out it writes such a file alone. Maps get a geometry, a CSV with --geometry; --3d takes
                          the surfaces with their heights. --all adds "Other content"; --append adds
                          rows to tables of a database
+  columns OUT FILE...    join such files of the parts of a city to one for the whole
   apply TABLE FILE... (--out OUT | --out-dir DIR) [--id-column COLUMN] [--sql QUERY] [--create]
-        [--absent WORD] [--skip-bad] [--recursive]
+        [--absent WORD] [--skip-bad]
                          set attributes from a table that GDAL reads, with a row a feature and columns
                          as `table` writes them: gml:id, or COLUMN, names the feature, and `file` its
                          document. Empty cells leave an attribute alone, and WORD removes it. --create
@@ -85,6 +86,7 @@ FILE is a CityGML 2.0 document; `-` reads one from standard input.
   --help                 show this text
   --version              show the version
 
+With --files-from LIST each line of the file LIST, or of standard input for `-`, is one more FILE.
 With --recursive a FILE may be a directory: it stands for the *.gml, *.xml and *.citygml in it and
 below. With several files each output names its file, in a line in front or, in JSON, as `file`; one
 that cannot be loaded is told, and the others are shown.
@@ -104,7 +106,7 @@ struct UsageError : std::runtime_error
 class Arguments
 {
 public:
-    /// \param names   the last may end in `...`, for one or more
+    /// \param names   the last may end in `...`, for one or more documents, which documents() answers
     /// \param options what may be given; those that take a value end in `=`
     Arguments(const QStringList& given, const QStringList& names, const QStringList& options)
         : positionalNames(names)
@@ -114,12 +116,17 @@ public:
             parser.addOption(takesValue ? QCommandLineOption(option.chopped(1), QString(), option)
                                         : QCommandLineOption(option));
         }
+        if (names.last().endsWith(QLatin1String("..."))) {
+            parser.addOption(QCommandLineOption("recursive"));
+            parser.addOption(QCommandLineOption("files-from", QString(), "files-from="));
+        }
         // The first argument is taken for the program's name.
         if (!parser.parse(given)) {
             throw UsageError(parser.errorText().toStdString());
         }
         const int count = parser.positionalArguments().size();
-        if (count < names.size()) {
+        const int needed = names.size() - (isListed() ? 1 : 0);
+        if (count < needed) {
             throw UsageError(QStringLiteral("%1 is missing").arg(names.at(count)).toStdString());
         }
         if (count > names.size() && !names.last().endsWith(QLatin1String("..."))) {
@@ -133,11 +140,22 @@ public:
     {
         return parser.positionalArguments().at(positionalNames.indexOf(name));
     }
-    QStringList all() const { return parser.positionalArguments(); }
+    /// The documents that the last name stands for.
+    DocumentFiles documents() const
+    {
+        return DocumentFiles(parser.positionalArguments().mid(positionalNames.size() - 1),
+                             isListed() ? parser.value("files-from") : QString(), parser.isSet("recursive"),
+                             std::cerr);
+    }
     bool has(const QString& option) const { return parser.isSet(option); }
     QString value(const QString& option) const { return parser.value(option); }
 
 private:
+    bool isListed() const
+    {
+        return positionalNames.last().endsWith(QLatin1String("...")) && parser.isSet("files-from");
+    }
+
     QCommandLineParser parser;
     QStringList positionalNames;
 };
@@ -146,13 +164,13 @@ private:
 int list(const Arguments& arguments, const char* key,
          const std::function<int(CityGMLModel& model, const QString& file)>& print)
 {
-    const DocumentFiles files(arguments.all(), arguments.has("recursive"), std::cerr);
+    const DocumentFiles files = arguments.documents();
     return printEach(files, {arguments.has("json"), key, print}, std::cout, std::cerr);
 }
 
 int rows(const QStringList& given)
 {
-    const Arguments arguments(given, {"FILE..."}, {"json", "recursive"});
+    const Arguments arguments(given, {"FILE..."}, {"json"});
     const bool json = arguments.has("json");
     return list(arguments, "rows",
                 [&](CityGMLModel& model, const QString&) { return runRows(model, json, std::cout); });
@@ -160,7 +178,7 @@ int rows(const QStringList& given)
 
 int tree(const QStringList& given)
 {
-    const Arguments arguments(given, {"FILE..."}, {"json", "all", "recursive"});
+    const Arguments arguments(given, {"FILE..."}, {"json", "all"});
     const bool json = arguments.has("json");
     const bool all = arguments.has("all");
     return list(arguments, "tree",
@@ -191,7 +209,7 @@ PropertiesOptions propertiesOptions(const Arguments& arguments)
 
 int properties(const QStringList& given)
 {
-    const Arguments arguments(given, {"FILE..."}, {"id=", "row=", "every", "absent", "json", "recursive"});
+    const Arguments arguments(given, {"FILE..."}, {"id=", "row=", "every", "absent", "json"});
     const PropertiesOptions options = propertiesOptions(arguments);
     return list(arguments, "properties", [&](CityGMLModel& model, const QString& file) {
         return runProperties(model, file, options, std::cout, std::cerr);
@@ -224,8 +242,8 @@ int save(const QStringList& given)
 
 int check(const QStringList& given)
 {
-    const Arguments arguments(given, {"FILE..."}, {"json", "recursive"});
-    const DocumentFiles files(arguments.all(), arguments.has("recursive"), std::cerr);
+    const Arguments arguments(given, {"FILE..."}, {"json"});
+    const DocumentFiles files = arguments.documents();
     return runCheck(files, arguments.has("json"), std::cout, std::cerr);
 }
 
@@ -284,10 +302,10 @@ QStringList listOf(const QString& value)
 
 int table(const QStringList& given)
 {
-    const Arguments arguments(given, {"FILE..."},
-                              {"out=", "format=", "type=", "columns=", "columns-from=", "all", "geometry",
-                               "3d", "append", "recursive"});
-    if (!arguments.has("out")) {
+    const Arguments arguments(
+        given, {"FILE..."},
+        {"out=", "format=", "type=", "columns=", "columns-from=", "all", "geometry", "3d", "append"});
+    if (!arguments.has("out") && !arguments.has("columns-from")) {
         throw UsageError("--out is missing");
     }
     TableOptions options;
@@ -300,7 +318,7 @@ int table(const QStringList& given)
     options.geometry = arguments.has("geometry");
     options.hasHeights = arguments.has("3d");
     options.append = arguments.has("append");
-    const DocumentFiles files(arguments.all(), arguments.has("recursive"), std::cerr);
+    const DocumentFiles files = arguments.documents();
     try {
         const int code = TableModule::load().writeTables(options, tableDocuments(files));
         return files.areComplete() ? code : failure;
@@ -309,11 +327,17 @@ int table(const QStringList& given)
     }
 }
 
+int columns(const QStringList& given)
+{
+    const Arguments arguments(given, {"OUT", "FILE..."}, {});
+    const DocumentFiles files = arguments.documents();
+    return TableModule::load().joinColumns(arguments.at("OUT"), tableDocuments(files));
+}
+
 int apply(const QStringList& given)
 {
-    const Arguments arguments(
-        given, {"TABLE", "FILE..."},
-        {"out=", "out-dir=", "id-column=", "sql=", "absent=", "create", "skip-bad", "recursive"});
+    const Arguments arguments(given, {"TABLE", "FILE..."},
+                              {"out=", "out-dir=", "id-column=", "sql=", "absent=", "create", "skip-bad"});
     ApplyOptions options;
     options.table = arguments.at("TABLE");
     options.sql = arguments.value("sql");
@@ -323,7 +347,7 @@ int apply(const QStringList& given)
     options.absent = arguments.value("absent");
     options.create = arguments.has("create");
     options.skipBad = arguments.has("skip-bad");
-    const DocumentFiles files(arguments.all().mid(1), arguments.has("recursive"), std::cerr);
+    const DocumentFiles files = arguments.documents();
     try {
         const int code = TableModule::load().applyTables(options, tableDocuments(files));
         return files.areComplete() ? code : failure;
@@ -339,8 +363,9 @@ struct Command
 };
 
 const Command commands[] = {
-    {"rows", rows},   {"tree", tree},     {"properties", properties}, {"save", save},   {"set", set},
-    {"check", check}, {"repair", repair}, {"picture", picture},       {"table", table}, {"apply", apply},
+    {"rows", rows},   {"tree", tree},   {"properties", properties}, {"save", save},
+    {"set", set},     {"check", check}, {"repair", repair},         {"picture", picture},
+    {"table", table}, {"apply", apply}, {"columns", columns},
 };
 
 int run(const QStringList& arguments)

@@ -13,6 +13,11 @@ public:
         return tolvik::inspect::runTable(options, documents);
     }
 
+    int joinColumns(const QString& out, const tolvik::inspect::TableDocuments& files) override
+    {
+        return tolvik::inspect::runColumns(out, files);
+    }
+
     int applyTables(const tolvik::inspect::ApplyOptions& options,
                     const tolvik::inspect::TableDocuments& documents) override
     {

@@ -59,6 +59,7 @@ void ColumnTree::readProperty(CoreProperty& property, Place place, int visit, in
 {
     const int first = child(place.node, property.name(), isGenericAttribute(property), hint);
     if (first < 0) {
+        leaveOut(property, place);
         return;
     }
     const int number = nodes[first].visit == visit ? nodes[first].count + 1 : 1;
@@ -72,6 +73,7 @@ void ColumnTree::readProperty(CoreProperty& property, Place place, int visit, in
         nodes[first].isRepeated = true;
     }
     if (number > 1 && !nodes[first].isRepeated) {
+        leaveOut(property, place);
         return;
     }
     const int group = row.groups.size();
@@ -88,14 +90,37 @@ void ColumnTree::addCell(CoreProperty& property, int node, int group, FeatureRow
         return;
     }
     const QString unit = property.unit() != nullptr ? property.unit()->name() : QString();
-    Node& column = nodes[node];
     if (!isFixed) {
-        column.type = column.hasValues ? widened(column.type, *type) : *type;
-        column.hasOtherUnits = column.hasOtherUnits || (column.hasValues && column.unit != unit);
-        column.unit = column.hasValues ? column.unit : unit;
-        column.hasValues = true;
+        note(node, *type, unit);
     }
     row.cells += FeatureRow::Cell{node, group, value, unit};
+}
+
+void ColumnTree::note(int index, CellType type, const QString& unit)
+{
+    Node& column = nodes[index];
+    column.type = column.hasValues ? widened(column.type, type) : type;
+    column.hasOtherUnits = column.hasOtherUnits || (column.hasValues && column.unit != unit);
+    column.unit = column.hasValues ? column.unit : unit;
+    column.hasValues = true;
+}
+
+void ColumnTree::leaveOut(CoreProperty& property, const Place& place)
+{
+    ColumnPath path = place.node >= 0 ? pathOf(place.node) : ColumnPath();
+    path.steps += {property.name(), 1};
+    if (isGenericAttribute(property)) {
+        path.isGeneric = true;
+        path.steps.removeFirst();
+    }
+    const QString text = path.text();
+    if (cellType(property.value()) && text != QLatin1String("Fields/ClassType") &&
+        text != QLatin1String("Fields/Id")) {
+        ++missing[text];
+    }
+    for (const auto& inner : property.properties()) {
+        ++missing[text + '/' + inner->name()];
+    }
 }
 
 /// Features of a type have their properties in much the same order: the search begins behind the sibling that

@@ -4,8 +4,7 @@
 #include "apps/tables/ColumnPath.h"
 #include "apps/tables/FeatureRow.h"
 
-#include <QHash>
-#include <QSet>
+#include <QMap>
 #include <QString>
 #include <QVector>
 
@@ -50,6 +49,12 @@ public:
     /// The same, without making one: -1 where it is not there.
     int findNode(const ColumnPath& path) const;
 
+    /// Widens the column of a node for a value of a type, with a unit or an empty one.
+    void note(int index, CellType type, const QString& unit);
+
+    /// The paths of values that a fixed tree had no column for, with their numbers.
+    const QMap<QString, qint64>& leftOut() const { return missing; }
+
     Node& node(int index) { return nodes[index]; }
     const Node& node(int index) const { return nodes[index]; }
     ColumnPath pathOf(int index) const;
@@ -70,6 +75,7 @@ private:
 
     void readGroup(const CoreProperty& group, Place place, FeatureRow& row);
     void readProperty(CoreProperty& property, Place place, int visit, int& hint, FeatureRow& row);
+    void leaveOut(CoreProperty& property, const Place& place);
     void addCell(CoreProperty& property, int node, int group, FeatureRow& row);
     int child(int outer, const QString& label, bool isGeneric, int& hint);
     int occurrence(int first, int number);
@@ -82,6 +88,7 @@ private:
     QVector<int> outermost;
     int visits = 0;
     bool isFixed = false;
+    QMap<QString, qint64> missing;
 };
 
 /// Whether a property is that of a generic attribute.

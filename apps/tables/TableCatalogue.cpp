@@ -104,14 +104,11 @@ Column columnFrom(const QJsonObject& object, ColumnTree& tree)
     column.unit = object.value("unit").toString();
     column.isUnit = path.isUnit;
     column.node = tree.nodeAt(path);
-    ColumnTree::Node& node = tree.node(column.node);
     if (column.isUnit) {
-        node.hasOtherUnits = true;
+        tree.node(column.node).hasOtherUnits = true;
     } else {
-        node.type = column.type;
-        node.unit = column.unit;
+        tree.note(column.node, column.type, column.unit);
     }
-    node.hasValues = true;
     return column;
 }
 
@@ -137,6 +134,18 @@ bool TableCatalogue::has(const QString& column) const
         const int node = entry.second.findNode(path);
         return node >= 0 && entry.second.node(node).hasValues;
     });
+}
+
+QStringList TableCatalogue::leftOut() const
+{
+    QStringList lines;
+    for (const auto& [type, tree] : trees) {
+        for (auto it = tree.leftOut().cbegin(); it != tree.leftOut().cend(); ++it) {
+            lines +=
+                QStringLiteral("%1 values of %2 of %3 have no column").arg(it.value()).arg(it.key(), type);
+        }
+    }
+    return lines;
 }
 
 QVector<TableLayout> TableCatalogue::layouts(const QStringList& columns) const
@@ -182,6 +191,25 @@ QVector<TableLayout> TableCatalogue::layoutsOf(const QString& type, const QStrin
 
 void TableCatalogue::load(const QString& path)
 {
+    loaded = read(path);
+    if (loaded.isEmpty()) {
+        throw TableError(QStringLiteral("%1 names no tables").arg(path));
+    }
+    fixed = true;
+    for (auto& [type, tree] : trees) {
+        tree.fix();
+    }
+}
+
+void TableCatalogue::merge(const QString& path)
+{
+    read(path);
+}
+
+/// The tables of a file, whose columns become part of the trees.
+QVector<TableLayout> TableCatalogue::read(const QString& path)
+{
+    QVector<TableLayout> tables;
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         throw TableError(QStringLiteral("%1 could not be read: %2").arg(path, file.errorString()));
@@ -190,6 +218,9 @@ void TableCatalogue::load(const QString& path)
     const QJsonDocument document = QJsonDocument::fromJson(file.readAll(), &error);
     if (error.error != QJsonParseError::NoError) {
         throw TableError(QStringLiteral("%1 is no file of columns: %2").arg(path, error.errorString()));
+    }
+    if (!document.object().value("tables").isArray()) {
+        throw TableError(QStringLiteral("%1 is no file of columns").arg(path));
     }
     for (const QJsonValue& value : document.object().value("tables").toArray()) {
         const QJsonObject object = value.toObject();
@@ -205,15 +236,9 @@ void TableCatalogue::load(const QString& path)
         for (const QJsonValue& column : object.value("columns").toArray()) {
             table.columns += columnFrom(column.toObject(), tree);
         }
-        loaded += table;
+        tables += table;
     }
-    if (loaded.isEmpty()) {
-        throw TableError(QStringLiteral("%1 names no tables").arg(path));
-    }
-    fixed = true;
-    for (auto& [type, tree] : trees) {
-        tree.fix();
-    }
+    return tables;
 }
 
 void TableCatalogue::save(const QString& path, const QVector<TableLayout>& tables)

@@ -48,6 +48,9 @@ QByteArray binaryOf(const OGRGeometry& geometry)
 TableExport::TableExport(ExportOptions wanted) : options(std::move(wanted))
 {
     GDALAllRegister();
+    if (options.target.format == nullptr) {
+        return;
+    }
     if (!options.columnsFile.isEmpty() && QFileInfo::exists(options.columnsFile)) {
         catalogue.load(options.columnsFile);
     } else {
@@ -91,11 +94,11 @@ void TableExport::add(const CityGMLModel& model, const QString& file)
         }
         if (spool != nullptr) {
             spool->add(file, row);
-        } else {
+        } else if (options.target.format != nullptr) {
             openWriter().write(file, row);
         }
     }
-    if (spool == nullptr) {
+    if (spool == nullptr && options.target.format != nullptr) {
         openWriter().endDocument();
     }
     for (auto it = withoutTable.cbegin(); it != withoutTable.cend(); ++it) {
@@ -170,6 +173,17 @@ void TableExport::finish()
             notes += QStringLiteral("no feature has %1").arg(column);
         }
     }
+    if (options.target.format != nullptr) {
+        writeRows();
+    }
+    if (!options.columnsFile.isEmpty() && !catalogue.isFixed()) {
+        TableCatalogue::save(options.columnsFile, catalogue.layouts(options.columns));
+    }
+    remarked += catalogue.leftOut();
+}
+
+void TableExport::writeRows()
+{
     TableWriter& tables = openWriter();
     if (spool != nullptr) {
         QString last;
@@ -180,9 +194,6 @@ void TableExport::finish()
             }
             tables.write(file, row);
         });
-        if (!options.columnsFile.isEmpty()) {
-            TableCatalogue::save(options.columnsFile, catalogue.layouts(options.columns));
-        }
     }
     tables.finish();
 }

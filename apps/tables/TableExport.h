@@ -27,7 +27,7 @@ struct ExportOptions
     QString columnsFile;
     bool otherContent = false; ///< also what no class has a member for
     bool hasHeights = false;   ///< surfaces with heights in place of the place on the map
-    TableTarget target;
+    TableTarget target;        ///< without a format where the columns are wanted alone
 };
 
 /// Makes tables of documents: one of each type of features, with a row for each feature.
@@ -61,10 +61,11 @@ private:
     void noteReference(const CityGMLModel& model, const QString& file);
     void readRow(const CityGMLModel& model, int number, FeatureRow& row);
     TableWriter& openWriter();
+    void writeRows();
 
     const ExportOptions options;
     TableCatalogue catalogue;
-    std::unique_ptr<RowSpool> spool; // null where the columns are known
+    std::unique_ptr<RowSpool> spool; // null where the columns are known, or wanted alone
     std::unique_ptr<TableWriter> writer;
     std::unique_ptr<OGRSpatialReference> reference;
     std::optional<QString> referenceName;

@@ -77,6 +77,20 @@ private slots:
         QCOMPARE(result.code, 0);
     }
 
+    void aListNamesMoreFiles()
+    {
+        const QByteArray list = shown("a.gml") + "\n\n" + shown("broken.gml") + "\n" + shown("b.gml");
+        QVERIFY(writeFile(path("list"), list));
+        const QByteArray listed =
+            shown("a.gml") + ":\n" + rowsOf("ant") + shown("b.gml") + ":\n" + rowsOf("bee");
+        QCOMPARE(inspect({"rows", "--files-from", path("list")}).out, listed);
+        QCOMPARE(inspect({"rows", "--files-from", "-"}, list).out, listed);
+        const ProcessResult more = inspect({"rows", path("b.gml"), "--files-from", path("list")});
+        QCOMPARE(more.out, shown("b.gml") + ":\n" + rowsOf("bee") + listed);
+        QCOMPARE(more.code, 1);
+        QCOMPARE(inspect({"rows", "--files-from", path("nothing")}).code, 1);
+    }
+
     void theOthersGoOnBehindABrokenOne()
     {
         const ProcessResult result =
