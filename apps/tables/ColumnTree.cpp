@@ -28,6 +28,11 @@ const QString& fields()
 
 } // namespace
 
+bool isTold(const QString& path)
+{
+    return path == QLatin1String("Fields/ClassType") || path == QLatin1String("Fields/Id");
+}
+
 bool isGenericAttribute(const CoreProperty& property)
 {
     static const std::array<std::type_index, 6> classes{
@@ -59,7 +64,7 @@ void ColumnTree::readProperty(CoreProperty& property, Place place, int visit, in
 {
     const int first = child(place.node, property.name(), isGenericAttribute(property), hint);
     if (first < 0) {
-        leaveOut(property, place);
+        leaveOut(property, place.node >= 0 ? pathOf(place.node) : ColumnPath());
         return;
     }
     const int number = nodes[first].visit == visit ? nodes[first].count + 1 : 1;
@@ -73,7 +78,7 @@ void ColumnTree::readProperty(CoreProperty& property, Place place, int visit, in
         nodes[first].isRepeated = true;
     }
     if (number > 1 && !nodes[first].isRepeated) {
-        leaveOut(property, place);
+        leaveOut(property, place.node >= 0 ? pathOf(place.node) : ColumnPath());
         return;
     }
     const int group = row.groups.size();
@@ -105,21 +110,20 @@ void ColumnTree::note(int index, CellType type, const QString& unit)
     column.hasValues = true;
 }
 
-void ColumnTree::leaveOut(CoreProperty& property, const Place& place)
+/// Counts the values of a property and of those below it.
+void ColumnTree::leaveOut(CoreProperty& property, ColumnPath path)
 {
-    ColumnPath path = place.node >= 0 ? pathOf(place.node) : ColumnPath();
     path.steps += {property.name(), 1};
+    for (const auto& inner : property.properties()) {
+        leaveOut(*inner, path);
+    }
     if (isGenericAttribute(property)) {
         path.isGeneric = true;
         path.steps.removeFirst();
     }
     const QString text = path.text();
-    if (cellType(property.value()) && text != QLatin1String("Fields/ClassType") &&
-        text != QLatin1String("Fields/Id")) {
+    if (cellType(property.value()) && !isTold(text)) {
         ++missing[text];
-    }
-    for (const auto& inner : property.properties()) {
-        ++missing[text + '/' + inner->name()];
     }
 }
 

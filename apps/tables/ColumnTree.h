@@ -75,7 +75,7 @@ private:
 
     void readGroup(const CoreProperty& group, Place place, FeatureRow& row);
     void readProperty(CoreProperty& property, Place place, int visit, int& hint, FeatureRow& row);
-    void leaveOut(CoreProperty& property, const Place& place);
+    void leaveOut(CoreProperty& property, ColumnPath path);
     void addCell(CoreProperty& property, int node, int group, FeatureRow& row);
     int child(int outer, const QString& label, bool isGeneric, int& hint);
     int occurrence(int first, int number);
@@ -90,6 +90,9 @@ private:
     bool isFixed = false;
     QMap<QString, qint64> missing;
 };
+
+/// Whether every table has what a path leads to in another column, so that only those who ask by name get it.
+bool isTold(const QString& path);
 
 /// Whether a property is that of a generic attribute.
 bool isGenericAttribute(const CoreProperty& property);

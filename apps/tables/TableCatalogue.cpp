@@ -13,12 +13,6 @@ namespace tolvik::tables {
 
 namespace {
 
-/// What other columns of a table say, so that only those who ask by name get them.
-bool isTold(const QString& path)
-{
-    return path == QLatin1String("Fields/ClassType") || path == QLatin1String("Fields/Id");
-}
-
 Column columnOf(const ColumnTree& tree, int node)
 {
     const ColumnTree::Node& property = tree.node(node);

@@ -191,6 +191,24 @@ private slots:
         QVERIFY(table("b/Building.csv").endsWith(",Building,,,\n"));
     }
 
+    void whatFixedColumnsLackIsTold()
+    {
+        QVERIFY(writeDocument("a.gml", buildingMember(height("1"), "one")));
+        QVERIFY(writeDocument("b.gml", buildingMember(generic("int", "n", "7") + height("2"), "two")));
+        QCOMPARE(inspect({"table", path("a.gml"), "--columns-from", path("c.json")}).code, 0);
+        ProcessResult result =
+            inspect({"table", path("b.gml"), "--columns-from", path("c.json"), "--out", path("b")});
+        QCOMPARE(result.err, QByteArray("tolvik-inspect: 1 values of gen:n of Building have no column\n"));
+        QCOMPARE(result.code, 0);
+        QCOMPARE(inspect({"table", path("b.gml"), "--columns-from", path("d.json")}).code, 0);
+        QCOMPARE(inspect({"columns", path("all.json"), path("c.json"), path("d.json")}).code, 0);
+        result = inspect({"table", path("b.gml"), "--columns-from", path("all.json"), "--out", path("b")});
+        QCOMPARE(result.err, QByteArray());
+        QVERIFY(
+            table("b/Building.csv").startsWith("gml:id,parent,file,type,name,Fields/MeasuredHeight,gen:n\n"));
+        QVERIFY(table("b/Building.csv").endsWith(",2,7\n"));
+    }
+
     void aBrokenDocumentLosesNoOthersRows()
     {
         QVERIFY(writeDocument("a.gml", buildingMember(height("1"), "one")));
