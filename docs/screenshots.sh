@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Makes the pictures of the desktop program in docs/pictures/ anew, without a display. Needs the build.
+# Makes the pictures of the desktop program in docs/pictures/ anew, on a display of its own. Needs the build and xvfb.
 #
 #   docs/screenshots.sh [FILE [FOLDER]]    FILE is shown in place of an example, FOLDER takes the pictures
 set -euo pipefail
@@ -16,8 +16,9 @@ trap 'rm -r "$settings"' EXIT
 picture() {
     local name=$1 locale=$2
     shift 2
-    env XDG_CONFIG_HOME="$settings" XDG_DATA_HOME="$settings" LC_ALL="$locale" LANGUAGE= QT_QPA_PLATFORM=offscreen \
-        QT_FONT_DPI="${FONT_DPI:-80}" "$root/build/bin/tolvik-viewer" "$@" --picture "$folder/$name.png" "$document"
+    env XDG_CONFIG_HOME="$settings" XDG_DATA_HOME="$settings" LC_ALL="$locale" LANGUAGE= QT_QPA_PLATFORM=xcb \
+        QT_FONT_DPI=80 xvfb-run -a -s "-screen 0 3200x2000x24" \
+        "$root/build/bin/tolvik-viewer" "$@" --picture "$folder/$name.png" "$document"
 }
 
 picture light en_US.UTF-8 --colours light

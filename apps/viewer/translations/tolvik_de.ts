@@ -1347,7 +1347,7 @@ height&gt;3, function=1000 für Attribute. Eingabe führt zum nächsten Treffer.
         <translation>Darstellung &amp;neu aufbauen</translation>
     </message>
     <message>
-        <source>From &amp;Above and the Side</source>
+        <source>From A&amp;bove and the Side</source>
         <translation>Von &amp;schräg oben</translation>
     </message>
     <message>
@@ -1404,11 +1404,11 @@ height&gt;3, function=1000 für Attribute. Eingabe führt zum nächsten Treffer.
     </message>
     <message>
         <source>&amp;Copy Picture</source>
-        <translation>Bild &amp;kopieren</translation>
+        <translation>Bi&amp;ld kopieren</translation>
     </message>
     <message>
         <source>&amp;Save Picture...</source>
-        <translation>Bild s&amp;peichern...</translation>
+        <translation>Bild spe&amp;ichern...</translation>
     </message>
     <message>
         <source>Level of detail</source>

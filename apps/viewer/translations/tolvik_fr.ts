@@ -1347,7 +1347,7 @@ height&gt;3, function=1000 pour les attributs. Entrée mène au résultat suivan
         <translation>&amp;Reconstruire la représentation</translation>
     </message>
     <message>
-        <source>From &amp;Above and the Side</source>
+        <source>From A&amp;bove and the Side</source>
         <translation>&amp;De biais</translation>
     </message>
     <message>
@@ -1404,7 +1404,7 @@ height&gt;3, function=1000 pour les attributs. Entrée mène au résultat suivan
     </message>
     <message>
         <source>&amp;Copy Picture</source>
-        <translation>&amp;Copier l’image</translation>
+        <translation>Cop&amp;ier l’image</translation>
     </message>
     <message>
         <source>&amp;Save Picture...</source>

@@ -131,7 +131,7 @@ void ViewPanel::makeActions()
     add(QStringLiteral("resetRepresentation"), tr("&Reset Representation"), QKeySequence(),
         &ViewPanel::resetSelected);
     actionsOfView.append(nullptr);
-    add(QStringLiteral("lookOblique"), tr("From &Above and the Side"), tr("0"), &ViewPanel::lookOblique);
+    add(QStringLiteral("lookOblique"), tr("From A&bove and the Side"), tr("0"), &ViewPanel::lookOblique);
     add(QStringLiteral("lookFromTop"), tr("From the &Top"), tr("7"), &ViewPanel::lookFromTop);
     add(QStringLiteral("lookFromFront"), tr("From the Sout&h"), tr("1"), &ViewPanel::lookFromFront);
     add(QStringLiteral("lookFromSide"), tr("From the &East"), tr("3"), &ViewPanel::lookFromSide);
