@@ -156,13 +156,30 @@ TableWriter::TableWriter(TableTarget aim, const QVector<TableLayout>& layouts,
             openDataset(folder->filePath(info.fileName()));
         }
     }
+    // Of several processes that begin at the same time one makes the tables, and the others find them.
+    runInDatabase("SELECT pg_advisory_lock(hashtext('tables of features'))");
     for (const TableLayout& layout : layouts) {
         addTable(layout, reference);
     }
     if (!isFlatGeobuf && !target.isOneType) {
         describeColumns(layouts);
     }
+    runInDatabase("SELECT pg_advisory_unlock(hashtext('tables of features'))");
     begin();
+}
+
+/// Nothing where the target is none.
+void TableWriter::runInDatabase(const char* statement)
+{
+    if (isPostgres) {
+        GDALDataset& database = *datasets.back();
+        OGRLayer* const answer = database.ExecuteSQL(statement, nullptr, nullptr);
+        if (answer != nullptr) {
+            // The server is asked when the first row is.
+            const std::unique_ptr<OGRFeature> row(answer->GetNextFeature());
+            database.ReleaseResultSet(answer);
+        }
+    }
 }
 
 TableWriter::~TableWriter()
@@ -271,7 +288,7 @@ int TableWriter::addColumn(OGRLayer& layer, const TableLayout& layout, const QSt
     if (isPostgres && !unit.isEmpty()) {
         const QString comment = QStringLiteral("COMMENT ON COLUMN %1.%2 IS %3")
                                     .arg(quoted(layout.name), quoted(name), literal(unit));
-        datasets.back()->ExecuteSQL(comment.toUtf8().constData(), nullptr, nullptr);
+        runInDatabase(comment.toUtf8().constData());
     }
     return layer.GetLayerDefn()->GetFieldCount() - 1;
 }
@@ -332,6 +349,7 @@ void TableWriter::describeColumns(const QVector<TableLayout>& layouts)
             }
         }
     }
+    layer->SyncToDisk();
 }
 
 void TableWriter::write(const QString& file, const FeatureRow& row)

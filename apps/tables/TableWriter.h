@@ -69,6 +69,7 @@ private:
                        bool hasGeometry = false);
     int addColumn(OGRLayer& layer, const TableLayout& layout, const QString& name, CellType type,
                   const QString& unit);
+    void runInDatabase(const char* statement);
     void describeColumns(const QVector<TableLayout>& layouts);
     void addColumns(Table& table);
     QString pathOf(const TableLayout& layout) const;
