@@ -26,8 +26,10 @@ using citygml::Position;
 constexpr std::size_t noTile = static_cast<std::size_t>(-1);
 /// Of a tile, in corners: about 1,400 triangles.
 constexpr std::size_t tileSize = 2800;
-/// Of the places that tiles are made of, in the units of the document.
-constexpr double cellSize = 150;
+/// Of the cells that tiles are made of at first, in the units of the document.
+constexpr double smallestCell = 100;
+/// So many cells may be waiting for more.
+constexpr std::size_t mostCells = 64;
 /// What no number of a coordinate system comes near; larger ones would be infinite in single precision.
 constexpr double largestCoordinate = 1e15;
 
@@ -128,6 +130,7 @@ void CityScene::clear()
     table.clear();
     surfaceLooks.clear();
     libraryObjects = LibraryObjects();
+    cellSize = smallestCell;
     hasOrigin = false;
     sceneOrigin = {};
     srsName.clear();
@@ -176,31 +179,60 @@ void CityScene::addFeature(const Feature& feature)
         return;
     }
     const Position at = difference(batch.positions.front(), sceneOrigin);
-    const Cell cell = {std::lround(at[0] / cellSize), std::lround(at[1] / cellSize)};
+    const Cell cell = {static_cast<long>(std::floor(at[0] / cellSize)),
+                       static_cast<long>(std::floor(at[1] / cellSize))};
     Pending& pending = cells[cell];
-    const auto positionCount = pending.batch.positions.size();
-    const auto runCount = static_cast<std::uint32_t>(pending.batch.runs.size());
-    for (citygml::PositionRun& run : batch.runs) {
-        run.begin += positionCount;
-        run.end += positionCount;
-    }
-    for (Batch::Patch& patch : batch.patches) {
-        patch.firstRun += runCount;
-    }
-    if (!batch.places.empty()) {
-        pending.batch.places.resize(positionCount);
-    }
-    const auto appendTo = [](auto& all, const auto& more) {
-        all.insert(all.end(), more.begin(), more.end());
-    };
-    appendTo(pending.batch.positions, batch.positions);
-    appendTo(pending.batch.runs, batch.runs);
-    appendTo(pending.batch.patches, batch.patches);
-    appendTo(pending.batch.places, batch.places);
     pending.members.push_back(slot);
+    join(pending.batch, std::move(batch));
     if (pending.batch.positions.size() >= tileSize) {
         send(std::move(pending));
         cells.erase(cell);
+    }
+    if (cells.size() > mostCells) {
+        enlargeCells();
+    }
+}
+
+/// Appends one batch to another.
+void CityScene::join(Batch& batch, Batch more)
+{
+    const auto positionCount = batch.positions.size();
+    const auto runCount = static_cast<std::uint32_t>(batch.runs.size());
+    for (citygml::PositionRun& run : more.runs) {
+        run.begin += positionCount;
+        run.end += positionCount;
+    }
+    for (Batch::Patch& patch : more.patches) {
+        patch.firstRun += runCount;
+    }
+    if (!more.places.empty()) {
+        batch.places.resize(positionCount);
+    }
+    const auto appendTo = [](auto& all, const auto& added) {
+        all.insert(all.end(), added.begin(), added.end());
+    };
+    appendTo(batch.positions, more.positions);
+    appendTo(batch.runs, more.runs);
+    appendTo(batch.patches, more.patches);
+    appendTo(batch.places, more.places);
+}
+
+/// Makes each four cells one: where few things stand, small cells never have enough for a tile.
+void CityScene::enlargeCells()
+{
+    cellSize *= 2;
+    std::map<Cell, Pending> former;
+    former.swap(cells);
+    for (auto& [cell, pending] : former) {
+        const auto half = [](long number) { return number >= 0 ? number / 2 : (number - 1) / 2; };
+        const Cell larger = {half(cell[0]), half(cell[1])};
+        Pending& joined = cells[larger];
+        joined.members.insert(joined.members.end(), pending.members.begin(), pending.members.end());
+        join(joined.batch, std::move(pending.batch));
+        if (joined.batch.positions.size() >= tileSize) {
+            send(std::move(joined));
+            cells.erase(larger);
+        }
     }
 }
 

@@ -106,11 +106,12 @@ private:
     {
         std::vector<Slot> members;
         Batch batch;
-        std::size_t size = 0;
     };
     using Cell = std::array<long, 2>;
 
     void addFeature(const Feature& feature);
+    static void join(Batch& batch, Batch more);
+    void enlargeCells();
     void append(Slot slot, const Feature& feature, Batch& batch);
     void appendPiece(Slot slot, const citygml::GeometryPiece& piece, Batch& batch);
     void appendLibraryObject(Slot slot, const citygml::GeometryPiece& piece, Batch& batch);
@@ -123,6 +124,7 @@ private:
     std::vector<const Feature*> coming;
     std::size_t next = 0;
     std::map<Cell, Pending> cells;
+    double cellSize = 0;
     std::vector<Tile> tiles;
     /// The tile that a feature is drawn in; noTile for one that is in none.
     std::vector<std::size_t> tileOf;
