@@ -338,8 +338,8 @@ void CityViewTest::coloursFollowAnAttributeAndItsEdits()
     QVERIFY(index > 0);
     attributes->setCurrentIndex(index);
     emit attributes->activated(index);
+    QTRY_VERIFY(panel->link()->colours().legend().size() >= 2);
     QVERIFY(differences(before, picture()) > 1000);
-    QVERIFY(panel->link()->colours().legend().size() >= 2);
 
     // The lowest becomes the highest.
     CityGMLModel& model = document->model();

@@ -52,6 +52,7 @@ void SceneLink::clear()
 {
     work.stop();
     edits.stop();
+    reading.stop();
     edited.clear();
     city->clear();
     emit changed();
@@ -217,6 +218,7 @@ void SceneLink::takeEdits()
 void SceneLink::colourBy(const QString& path)
 {
     attribute = path;
+    reading.stop();
     if (path.isEmpty()) {
         scene::FeatureTable& features = city->features();
         for (Slot slot = 0; slot < features.size(); ++slot) {
@@ -234,17 +236,29 @@ void SceneLink::colourBy(const QString& path)
 
 void SceneLink::readColours()
 {
+    const std::size_t count = city->features().size();
+    values.assign(count, QVariant());
+    reading.start(
+        static_cast<int>(count),
+        [this](int slot) {
+            values[static_cast<std::size_t>(slot)] = valueOf(rowOf(static_cast<Slot>(slot)));
+        },
+        [this] { showColours(); });
+}
+
+void SceneLink::showColours()
+{
     scene::FeatureTable& features = city->features();
-    std::vector<QVariant> values(features.size());
-    for (Slot slot = 0; slot < features.size(); ++slot) {
-        values[slot] = valueOf(rowOf(slot));
-    }
+    // Features may have come meanwhile.
+    values.resize(features.size());
     features.inheritValues(values);
     attributeColours = scene::AttributeColours(values);
     for (Slot slot = 0; slot < features.size(); ++slot) {
         features.setColour(slot, attributeColours.colourOf(values[slot]));
     }
+    values.clear();
     emit coloursChanged();
+    emit changed();
 }
 
 QVariant SceneLink::valueOf(int row) const

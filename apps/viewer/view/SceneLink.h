@@ -1,5 +1,6 @@
 #pragma once
 
+#include "apps/viewer/features/SlicedWork.h"
 #include "scene/AttributeColours.h"
 #include "scene/CityScene.h"
 
@@ -36,7 +37,8 @@ public:
     /// The features that are selected in the document.
     std::vector<scene::Slot> selectedFeatures() const;
 
-    /// Gives each feature the colour of the value that it, or one around it, has for an attribute.
+    /// Gives each feature the colour of the value that it, or one around it, has for an attribute. The values
+    /// are read in slices; coloursChanged() tells when the colours are there.
     /// \param path as apps::propertyAt() takes it; empty for the colours of the types
     void colourBy(const QString& path);
     const QString& colourPath() const { return attribute; }
@@ -69,6 +71,7 @@ private:
     void noteEdit(const QModelIndex& first, const QModelIndex& last, const QVector<int>& roles);
     void takeEdits();
     void readColours();
+    void showColours();
     QVariant valueOf(int row) const;
 
     Document& document;
@@ -77,6 +80,8 @@ private:
     QTimer edits;
     QElapsedTimer sinceChange;
     QSet<const scene::Feature*> edited;
+    SlicedWork reading;
+    std::vector<QVariant> values;
     QString attribute;
     scene::AttributeColours attributeColours;
 };
