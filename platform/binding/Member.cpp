@@ -483,13 +483,11 @@ bool Member::add(const std::string& text)
     if (entry || !isListOfTexts(member)) {
         return false;
     }
-    std::unique_ptr<xml_schema::type> value = binding::newObject(*member.type->record());
     try {
-        member.type->record()->text->parse(*value, text, SamePrefixes());
+        opsOf(member).add(*owner, objectOfText(*member.type, text).release());
     } catch (const binding::ValueError&) {
         return false;
     }
-    opsOf(member).add(*owner, value.release());
     return true;
 }
 

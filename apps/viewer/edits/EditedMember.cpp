@@ -12,10 +12,12 @@ namespace tolvik::viewer {
 
 namespace {
 
-std::optional<citygml::Member> textListOf(gml::AbstractFeatureType& feature, const QString& name)
+/// \param step the name of the list's element, and which of the lists of that name
+std::optional<citygml::Member> textListOf(gml::AbstractFeatureType& feature, const PropertyStep& step)
 {
+    int occurrence = 0;
     for (const citygml::Member& list : citygml::Member::textLists(feature)) {
-        if (QString::fromStdString(list.name()) == name) {
+        if (QString::fromStdString(list.name()) == step.name && ++occurrence == step.occurrence) {
             return list;
         }
     }
@@ -59,7 +61,7 @@ std::optional<EditedMember> EditedMember::find(const CityGMLModel& model, gml::A
         }
         return member;
     case MemberPlace::TextList:
-        member.held = place.path.isEmpty() ? std::nullopt : textListOf(feature, place.path.first().name);
+        member.held = place.path.isEmpty() ? std::nullopt : textListOf(feature, place.path.first());
         break;
     case MemberPlace::GenericAttributes:
         member.held = place.path.isEmpty()
@@ -68,6 +70,28 @@ std::optional<EditedMember> EditedMember::find(const CityGMLModel& model, gml::A
         break;
     }
     return member.held ? std::optional<EditedMember>(member) : std::nullopt;
+}
+
+MemberPlace EditedMember::lastingPlace(gml::AbstractFeatureType& feature, const MemberPlace& place) const
+{
+    if (place.kind != MemberPlace::Property || !held || !held->isList()) {
+        return place;
+    }
+    PropertyStep step{QString::fromStdString(held->name()), 1};
+    const citygml::MemberState state = held->capture();
+    for (; std::optional<citygml::Member> list = textListOf(feature, step); ++step.occurrence) {
+        // Only a list of the same element takes the state, and it is the one that it has.
+        if (&held->object() == &list->object() && list->restore(state)) {
+            return {MemberPlace::TextList, {step}};
+        }
+    }
+    return place;
+}
+
+bool EditedMember::isLostWhenEmpty(gml::AbstractFeatureType& feature) const
+{
+    return held && held->isList() && found != nullptr &&
+           lastingPlace(feature, MemberPlace()).kind == MemberPlace::Property;
 }
 
 CapturedState EditedMember::capture() const

@@ -20,7 +20,7 @@ struct MemberPlace
 
     Kind kind = Property;
     /// Of the property or of the group of a set; empty for the attributes of the feature itself. Of a list of
-    /// texts one step with the name of its element.
+    /// texts one step: the name of its element, and which of the lists of that name it is.
     PropertyPath path;
 
     QJsonObject toJson() const;
@@ -45,6 +45,13 @@ public:
 
     CapturedState capture() const;
     void restore(const CapturedState& state);
+
+    /// A place at which the member is found also when a list is empty, which has no property then.
+    ///
+    /// \param place at which it was found
+    MemberPlace lastingPlace(gml::AbstractFeatureType& feature, const MemberPlace& place) const;
+    /// Whether it is a list that could not be found again if it were empty.
+    bool isLostWhenEmpty(gml::AbstractFeatureType& feature) const;
 
     /// Whether the document has it.
     bool isPresent() const { return !held || held->present(); }

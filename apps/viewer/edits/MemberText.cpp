@@ -104,7 +104,7 @@ bool setEntries(citygml::Member& list, const QVariantList& former, const QVarian
 
 QVariant editedValueOf(CoreProperty& property)
 {
-    const QVariant value = property.value();
+    QVariant value = property.value();
     if (value.userType() != QMetaType::QDateTime) {
         return value;
     }

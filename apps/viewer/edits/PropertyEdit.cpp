@@ -134,15 +134,20 @@ QString PropertyEdit::perform(const Features& features)
         if (!member || isAlreadyDone(*member)) {
             continue;
         }
+        const MemberPlace lasting = member->lastingPlace(*feature, editedPlace());
+        const bool isLost = member->isLostWhenEmpty(*feature);
         const CapturedState before = member->capture();
-        const QString refusal = performOn(*feature, *member);
+        QString refusal = performOn(*feature, *member);
+        if (refusal.isEmpty() && isLost && member->member()->size() == 0) {
+            refusal = tr("%1 cannot be absent.").arg(place.path.last().name);
+        }
         if (!refusal.isEmpty()) {
             member->restore(before);
             swapMembers();
             changes.clear();
             return refusal;
         }
-        changes.push_back({locator.addressOf(*feature), before});
+        changes.push_back({locator.addressOf(*feature), lasting, before});
     }
     announce();
     return QString();
@@ -163,7 +168,7 @@ void PropertyEdit::swapMembers()
         status.addStep(1);
         gml::AbstractFeatureType* const feature = locator.find(change.feature);
         std::optional<EditedMember> member =
-            feature != nullptr ? EditedMember::find(document.model(), *feature, editedPlace()) : std::nullopt;
+            feature != nullptr ? EditedMember::find(document.model(), *feature, change.place) : std::nullopt;
         if (member) {
             const CapturedState now = member->capture();
             member->restore(change.other);

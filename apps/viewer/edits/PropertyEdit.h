@@ -52,6 +52,7 @@ private:
     struct Change
     {
         FeatureAddress feature;
+        MemberPlace place;
         CapturedState other; ///< what the member said before the edit, or after it when it is undone
     };
 

@@ -13,6 +13,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QHash>
 #include <QHeaderView>
 #include <QInputDialog>
 #include <QLabel>
@@ -244,13 +245,13 @@ void PropertyPanel::renameCurrent()
     }
 }
 
-void PropertyPanel::addEntry(const QString& list)
+void PropertyPanel::addEntry(const QString& list, int occurrence)
 {
     bool isAccepted = false;
     const QString text = QInputDialog::getText(this, tr("Add to %1").arg(textListName(list)), tr("Entry:"),
                                                QLineEdit::Normal, QString(), &isAccepted);
     if (isAccepted) {
-        editOrTell(PropertyEdit::AddEntry, {MemberPlace::TextList, {{list, 1}}}, text);
+        editOrTell(PropertyEdit::AddEntry, {MemberPlace::TextList, {{list, occurrence}}}, text);
     }
 }
 
@@ -264,10 +265,12 @@ void PropertyPanel::fillAddMenu()
     }
     addMenu->addAction(tr("&Attribute\u2026"), this, &PropertyPanel::addAttribute)
         ->setEnabled(attributesOf(*features.front()).has_value());
+    QHash<QString, int> seen;
     for (const citygml::Member& list : citygml::Member::textLists(*features.front())) {
         const QString name = QString::fromStdString(list.name());
+        const int occurrence = ++seen[name];
         addMenu->addAction(tr("Entry of %1\u2026").arg(textListName(name)), this,
-                           [this, name] { addEntry(name); });
+                           [this, name, occurrence] { addEntry(name, occurrence); });
     }
 }
 

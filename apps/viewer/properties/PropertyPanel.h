@@ -47,7 +47,8 @@ public slots:
     void renameCurrent();
     /// Asks for a text, and adds it to a list of texts of the features.
     /// \param list name of the list's element
-    void addEntry(const QString& list);
+    /// \param occurrence which of the lists of that name, from 1 up
+    void addEntry(const QString& list, int occurrence = 1);
 
 signals:
     /// A link was clicked. One that is a fragment alone names a feature.
