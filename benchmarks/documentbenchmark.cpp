@@ -4,6 +4,7 @@
 #include "citygml/CityGMLFeaturesFillVisitor.h"
 #include "citygml/CityGmlUtils.h"
 #include "citygml/CityModel.h"
+#include "citygml/DocumentChanges.h"
 #include "framework/OperationListener.h"
 #include "framework/OperationStatus.h"
 #include "Measure.h"
@@ -11,8 +12,10 @@
 #include "UI/Models/CityGMLModel/CityGMLProxyModel.h"
 
 #include <algorithm>
+#include <fstream>
 #include <memory>
 #include <ostream>
+#include <QFile>
 #include <streambuf>
 #include <utility>
 
@@ -212,6 +215,31 @@ void writeObjects(benchmark::State& state)
     measure.setRatio("times_read", subject.readSeconds());
 }
 
+/// An unedited document, as the bytes that it was read from.
+void saveChanges(benchmark::State& state)
+{
+    Subject& subject = Subject::current();
+    const std::unique_ptr<core::CityModelType> document = subject.read();
+    Measure measure(state);
+    double peak = 0;
+    while (state.KeepRunning()) {
+        const MemoryPeak memory;
+        std::ifstream original(QFile::encodeName(subject.path()).constData(), std::ios_base::binary);
+        CountingBuffer buffer;
+        std::ostream stream(&buffer);
+        measure.iteration([&] { citygml::writeChanges(original, *document, stream); });
+        peak = std::max(peak, memory.bytes());
+        if (buffer.bytes != subject.bytes()) {
+            state.SkipWithError("the document did not come back");
+            return;
+        }
+    }
+    report(state, measure, peak);
+    measure.setRatio("times_read", subject.readSeconds());
+    measure.setRatio("times_load", subject.loadSeconds());
+    subject.release();
+}
+
 } // namespace
 
 BENCHMARK(expatPass)->UseManualTime()->Unit(benchmark::kMillisecond);
@@ -221,3 +249,4 @@ BENCHMARK(loadModel)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(loadModelAndTree)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(listFeatures)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(writeObjects)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(saveChanges)->UseManualTime()->Unit(benchmark::kMillisecond);

@@ -4,11 +4,14 @@
 #include "platform/binding/kept/UnsetValues.h"
 #include "platform/binding/reader/RequiredMembers.h"
 #include "platform/binding/SchemaIndex.h"
+#include "platform/binding/values/Literals.h"
 #include "platform/binding/values/TextValues.h"
 
 #include <algorithm>
+#include <mutex>
 #include <stdexcept>
 #include <typeinfo>
+#include <unordered_map>
 #include <utility>
 
 namespace citygml {
@@ -24,15 +27,69 @@ using FlatMember = TypeIndex::FlatMember;
 struct MemberState::Content
 {
     const binding::Member* declaration = nullptr;
-    /// Whether it is one entry of a list.
+    /// Whether it is one entry of a list, and the object that this was.
     bool isEntry = false;
+    const xml_schema::type* entry = nullptr;
+    /// That object, once it has been cleared. As long as it is here no other one can have its address.
+    std::unique_ptr<xml_schema::type> removed;
     std::vector<std::unique_ptr<xml_schema::type>> objects;
     /// The values of a fundamental type.
     std::vector<std::string> texts;
     std::vector<KeptContent::Value> kept;
     /// Whether the document spelled a default out.
     bool isSpelledOut = false;
+
+    Content() = default;
+    Content(const Content&) = delete;
+    Content& operator=(const Content&) = delete;
+    ~Content();
+
+    /// Has the last state that was captured of an entry keep its object, if there is one still.
+    static void keepRemoved(std::unique_ptr<xml_schema::type> object);
+    static void note(const xml_schema::type& object, const std::shared_ptr<Content>& content);
+
+private:
+    static std::unordered_map<const xml_schema::type*, std::weak_ptr<Content>>& ofEntries();
+    static std::mutex mutex;
 };
+
+std::mutex MemberState::Content::mutex;
+
+std::unordered_map<const xml_schema::type*, std::weak_ptr<MemberState::Content>>&
+MemberState::Content::ofEntries()
+{
+    static std::unordered_map<const xml_schema::type*, std::weak_ptr<Content>> contents;
+    return contents;
+}
+
+MemberState::Content::~Content()
+{
+    const std::lock_guard<std::mutex> lock(mutex);
+    const auto found = ofEntries().find(entry);
+    if (found != ofEntries().end() && found->second.expired()) {
+        ofEntries().erase(found);
+    }
+}
+
+void MemberState::Content::note(const xml_schema::type& object, const std::shared_ptr<Content>& content)
+{
+    const std::lock_guard<std::mutex> lock(mutex);
+    content->entry = &object;
+    ofEntries()[&object] = content;
+}
+
+void MemberState::Content::keepRemoved(std::unique_ptr<xml_schema::type> object)
+{
+    std::shared_ptr<Content> content;
+    {
+        const std::lock_guard<std::mutex> lock(mutex);
+        const auto found = ofEntries().find(object.get());
+        content = found != ofEntries().end() ? found->second.lock() : nullptr;
+    }
+    if (content != nullptr) {
+        content->removed = std::move(object);
+    }
+}
 
 namespace {
 
@@ -241,7 +298,7 @@ void setTextOf(xml_schema::type& value, const std::string& text)
 bool isListOfTexts(const FlatMember& member)
 {
     return !member.declaration->isAttribute && !opsOf(member).single && member.type != nullptr &&
-           member.type->hasText() && !member.type->record()->isAbstract;
+           member.type->hasText() && member.type->requiredBits() == 0 && !member.type->record()->isAbstract;
 }
 
 } // namespace
@@ -356,7 +413,7 @@ void Member::clear()
     const FlatMember& member = memberOf(*owner, index);
     if (entry) {
         if (size() != 0) {
-            takeFrom(*owner, member, *entry);
+            MemberState::Content::keepRemoved(takeFrom(*owner, member, *entry));
             forgetKept(*owner, member, *entry);
         }
         return;
@@ -378,6 +435,9 @@ MemberState Member::capture() const
     const auto content = std::make_shared<MemberState::Content>();
     content->declaration = member.declaration;
     content->isEntry = entry.has_value();
+    if (size() != 0 && entry && member.type != nullptr) {
+        MemberState::Content::note(opsOf(member).at(*owner, *entry), content);
+    }
     // A number that was set without the member's knowing counts.
     const std::size_t count = std::max(opsOf(member).count(*owner), binding::writtenCount(*owner, member));
     const std::size_t first = entry ? std::min(*entry, count) : 0;
@@ -428,11 +488,16 @@ bool Member::restoreEntry(const MemberState& state)
         return true;
     }
     const xml_schema::type& saved = *state.content->objects.front();
-    if (size() != 0 && typeid(objectAt(*owner, member, *entry)) == typeid(saved)) {
-        become(objectAt(*owner, member, *entry), saved);
-        return true;
+    if (state.content->removed != nullptr) {
+        insert(*owner, member, *entry, std::move(state.content->removed));
     }
-    clear();
+    for (std::size_t i = 0; i < opsOf(member).count(*owner); ++i) {
+        xml_schema::type& object = objectAt(*owner, member, i);
+        if (&object == state.content->entry && typeid(object) == typeid(saved)) {
+            become(object, saved);
+            return true;
+        }
+    }
     return Member(*owner, index, std::nullopt).put(*entry, state);
 }
 
@@ -481,6 +546,10 @@ bool Member::add(const std::string& text)
 {
     const FlatMember& member = memberOf(*owner, index);
     if (entry || !isListOfTexts(member)) {
+        return false;
+    }
+    const binding::TypeRecord& record = *member.type->record();
+    if (record.literals != nullptr && binding::findLiteral(record, text) == nullptr) {
         return false;
     }
     try {

@@ -57,7 +57,8 @@ private:
         }
         const bool isBase = !classTemplate.startsWith("GmlEnum");
         QSet<QString> wanted{classTemplate, '~' + classTemplate};
-        wanted += isBase ? QSet<QString>{"value", "setValue", "defaultValue", "editable"} : QSet<QString>();
+        wanted += isBase ? QSet<QString>{"value", "setValue", "defaultValue", "editable", "member"}
+                         : QSet<QString>();
         QSet<QString> complete;
         for (auto i = members.cbegin(); i != members.cend(); ++i) {
             if (i.value() == wanted) {

@@ -252,6 +252,11 @@ public:
     {
         object.spelledOut = static_cast<std::uint16_t>(object.spelledOut & ~attribute);
     }
+    /// Whether the document spelled out the same in two objects of a type, and lacked both or none.
+    static bool haveSameMarks(const xml_schema::type& a, const xml_schema::type& b)
+    {
+        return a.spelledOut == b.spelledOut;
+    }
     /// Whether a required member has the object only so that it is not empty: the document has no such
     /// element or attribute. A save leaves the object out as long as nothing has been set in it, see
     /// isLeftOut().
@@ -316,6 +321,7 @@ public:
     bool hasNilAttribute() const;
     /// Those of sealed content.
     const std::vector<Node>& nodes() const { return keptNodes; }
+    const std::vector<Value>& values() const { return keptValues; }
     /// Whether there is text between the children, to which white space matters.
     bool hasText() const;
     /// What is kept about the values of a member, of sealed content.

@@ -55,6 +55,9 @@ public:
     /// keeping these findings with the document.
     void setOrderTaker(std::function<void(const Finding&)> taker) { orderTaker = std::move(taker); }
 
+    /// Lists the identifiers in place of registering them, so that one may stand twice.
+    void listIdentifiersIn(std::vector<xml_schema::id*>& list) { values.listIdentifiersIn(list); }
+
     void startElement(const char* name, const XmlAttributes& attributes) override;
     void endElement(const char* name) override;
     void characters(std::string_view characters) override;

@@ -335,6 +335,21 @@ XmlParser::Place XmlParser::place() const
             isOnLineOfJump ? at.column - jumpedFrom.column + jumpedTo.column : at.column};
 }
 
+std::size_t XmlParser::byteIndex() const
+{
+    return static_cast<std::size_t>(XML_GetCurrentByteIndex(parser.get()));
+}
+
+std::size_t XmlParser::byteCount() const
+{
+    return static_cast<std::size_t>(XML_GetCurrentByteCount(parser.get()));
+}
+
+std::size_t XmlParser::writtenAttributes() const
+{
+    return static_cast<std::size_t>(XML_GetSpecifiedAttributeCount(parser.get()) / 2);
+}
+
 XmlParser::Place XmlParser::counted() const
 {
     return {XML_GetCurrentLineNumber(parser.get()), XML_GetCurrentColumnNumber(parser.get()) + 1};

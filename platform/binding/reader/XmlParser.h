@@ -129,6 +129,16 @@ public:
     /// Where that begins which the handler is told of; behind whole tags that were fed, where these end.
     Place place() const;
 
+    /// Behind which byte that begins which the handler is told of, and how many bytes it has. Of what an
+    /// entity stands for they are those of the reference.
+    /// @{
+    std::size_t byteIndex() const;
+    std::size_t byteCount() const;
+    /// @}
+    /// How many attributes of the start tag that the handler is told of stand in the document. They come in
+    /// front of those that its document type gives.
+    std::size_t writtenAttributes() const;
+
     /// Where a text ends that begins at a place.
     static Place behind(const Place& begin, std::string_view text);
 

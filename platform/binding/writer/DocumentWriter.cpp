@@ -9,6 +9,8 @@
 #include "platform/binding/xml/PrefixedName.h"
 
 #include <algorithm>
+#include <functional>
+#include <sstream>
 
 namespace citygml {
 namespace binding {
@@ -87,9 +89,8 @@ void writeLines(const std::vector<std::string>& lines, XmlOutput& out)
     }
 }
 
-} // namespace
-
-void writeDocument(std::ostream& stream, const core::CityModelType& model, const NamespaceMap& wanted)
+void writeDocument(std::ostream& stream, const core::CityModelType& model, const NamespaceMap& wanted,
+                   const std::function<void(ElementWriter&)>& prepare)
 {
     const KeptContent* const kept = KeptContent::find(model);
     const KeptContent::Document fresh;
@@ -100,6 +101,7 @@ void writeDocument(std::ostream& stream, const core::CityModelType& model, const
 
     XmlOutput out(stream);
     ElementWriter elements(out, namespaces, document.scope.get());
+    prepare(elements);
     out.markup("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n");
     writeLines(document.prologue, out);
     elements.writeRoot(model, namespaces.elementName(coreUri, rootName),
@@ -107,6 +109,22 @@ void writeDocument(std::ostream& stream, const core::CityModelType& model, const
     out.markup("\n");
     writeLines(document.epilogue, out);
     out.flush();
+}
+
+} // namespace
+
+void writeDocument(std::ostream& stream, const core::CityModelType& model, const NamespaceMap& wanted)
+{
+    writeDocument(stream, model, wanted, [](ElementWriter&) {});
+}
+
+std::string textForComparison(const core::CityModelType& model, const NamespaceMap& wanted,
+                              RootChildSelection* selection)
+{
+    std::ostringstream stream;
+    writeDocument(stream, model, wanted,
+                  [selection](ElementWriter& elements) { elements.writeForComparison(selection); });
+    return stream.str();
 }
 
 } // namespace binding

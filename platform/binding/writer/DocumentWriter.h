@@ -3,11 +3,14 @@
 #include "core/CityModelType.hxx"
 
 #include <iosfwd>
+#include <string>
 
 #include <xsd/cxx/xml/dom/serialization-header.hxx>
 
 namespace citygml {
 namespace binding {
+
+class RootChildSelection;
 
 /// The namespaces that a host wants declared, with the places of their schemas, by prefix.
 using NamespaceMap = xsd::cxx::xml::dom::namespace_infomap<char>;
@@ -17,6 +20,14 @@ using NamespaceMap = xsd::cxx::xml::dom::namespace_infomap<char>;
 /// \param namespaces declared on the root besides those that the document was read with
 /// \throws xsd::cxx::tree::exception<char> where the document cannot be XML.
 void writeDocument(std::ostream& stream, const core::CityModelType& model, const NamespaceMap& namespaces);
+
+/// Writes a document so that it can be compared with another one, as ElementWriter::writeForComparison()
+/// does.
+///
+/// \param namespaces as above
+/// \param selection may be null
+std::string textForComparison(const core::CityModelType& model, const NamespaceMap& namespaces,
+                              RootChildSelection* selection);
 
 } // namespace binding
 } // namespace citygml

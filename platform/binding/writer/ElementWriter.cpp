@@ -258,16 +258,33 @@ MemberCursor ElementWriter::cursorOf(const Content& content, std::size_t member)
 void ElementWriter::writeChild(Content& content, MemberCursor& children, const Position& position)
 {
     writeNodesInFrontOf(content, position);
-    beginItem(content);
     const TypeIndex::FlatMember& member = children.member();
     const MemberCursor::Child child = children.take();
     if (member.type == nullptr) {
+        beginItem(content);
         writeValue(content, member, child);
         return;
     }
     const xml_schema::type& object = member.declaration->ops->at(content.object, child.index);
     const TypeIndex& type = index.typeOf(object);
-    writeElement(object, type, names.ofObject(content.type, member.index, object, type), content.depth);
+    const ElementNames::Tag& tag = names.ofObject(content.type, member.index, object, type);
+    const bool isSelected = selection != nullptr && content.depth == 1;
+    if (const std::string* const number = isSelected ? selection->numberOf(object) : nullptr) {
+        writeNumber(content, tag.name, *number);
+        return;
+    }
+    beginItem(content);
+    writeElement(object, type, tag, content.depth);
+}
+
+void ElementWriter::writeNumber(Content& content, const std::string& tag, const std::string& number)
+{
+    if (!number.empty()) {
+        beginItem(content);
+        out.beginStartTag(tag);
+        out.attribute("n", number);
+        out.endEmptyTag();
+    }
 }
 
 void ElementWriter::writeValue(const Content& content, const TypeIndex::FlatMember& member,

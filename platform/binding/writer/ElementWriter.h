@@ -17,6 +17,16 @@
 namespace citygml {
 namespace binding {
 
+/// Says of children of the root that they are written in another way.
+class RootChildSelection
+{
+public:
+    virtual ~RootChildSelection() = default;
+    /// \return null for a child to be written as it is, an empty text for one that is left out, and else a number
+    /// for an empty element in its place, with only this as an attribute `n`
+    virtual const std::string* numberOf(const xml_schema::type& child) = 0;
+};
+
 /// Writes objects as elements: their attributes, texts and children by the schema tables, and between these
 /// what the reader has kept.
 class ElementWriter
@@ -28,6 +38,15 @@ public:
     /// \param rootScope see KeptContentWriter
     ElementWriter(XmlOutput& out, NamespaceDeclarations& namespaces, const KeptContent::Scope* rootScope);
 
+    /// Marks what no member holds from now on, see KeptContentWriter, and selects among the children of the
+    /// root.
+    ///
+    /// \param rootChildren may be null
+    void writeForComparison(RootChildSelection* rootChildren)
+    {
+        keptWriter.markNodes();
+        selection = rootChildren;
+    }
     /// Writes a whole document, from the start tag of its root to the end tag.
     ///
     /// \param first the attributes that come in front of the root's own
@@ -69,6 +88,7 @@ private:
     void writeInKeptOrder(Content& content);
     MemberCursor cursorOf(const Content& content, std::size_t member) const;
     void writeChild(Content& content, MemberCursor& children, const KeptContent::Position& position);
+    void writeNumber(Content& content, const std::string& tag, const std::string& number);
     void writeValue(const Content& content, const TypeIndex::FlatMember& member,
                     const MemberCursor::Child& child);
 
@@ -78,6 +98,7 @@ private:
     ElementNames names;
     ValueWriter values;
     KeptContentWriter keptWriter;
+    RootChildSelection* selection = nullptr;
     // The text of the attribute or element that is being written; here, so that its memory is used again.
     std::string text;
 };

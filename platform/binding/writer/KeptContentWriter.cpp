@@ -1,5 +1,6 @@
 #include "platform/binding/writer/KeptContentWriter.h"
 
+#include "platform/binding/changes/XmlOutline.h"
 #include "platform/binding/writer/NamespaceDeclarations.h"
 #include "platform/binding/writer/XmlOutput.h"
 #include "platform/binding/xml/PrefixedName.h"
@@ -58,6 +59,9 @@ std::size_t characterFrom(std::string_view text, std::size_t byte)
 
 void KeptContentWriter::writeNode(const KeptContent::Node& node)
 {
+    if (marksNodes && node.kind != KeptContent::Kind::Text) {
+        out.markup(XmlOutline::keptMark);
+    }
     const bool isElement = node.kind == KeptContent::Kind::Element;
     if (!isElement || (rootScope != nullptr && node.scope.get() == rootScope)) {
         out.markup(node.xml);

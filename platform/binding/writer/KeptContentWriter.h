@@ -23,6 +23,8 @@ public:
     {
     }
 
+    /// Puts a mark in front of each node but a text from now on, see XmlOutline.
+    void markNodes() { marksNodes = true; }
     void writeNode(const KeptContent::Node& node);
     /// Writes the text of an element with the nodes that stand in it.
     ///
@@ -39,6 +41,7 @@ private:
     XmlOutput& out;
     NamespaceDeclarations& namespaces;
     const KeptContent::Scope* rootScope;
+    bool marksNodes = false;
 };
 
 } // namespace binding

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "platform/binding/changes/XmlOutline.h"
+
+#include <cstddef>
+#include <optional>
+#include <string_view>
+#include <unordered_map>
+#include <unordered_set>
+#include <vector>
+
+namespace citygml {
+namespace binding {
+
+/// Which nodes of one element are those of another one, that an edit has made of it. Both are in outlines of
+/// texts that the writer wrote.
+class NodeAlignment
+{
+public:
+    using Nodes = std::vector<const OutlineNode*>;
+
+    NodeAlignment(const XmlOutline& before, const Nodes& nodesBefore, const XmlOutline& after,
+                  const Nodes& nodesAfter);
+
+    /// The number of the node that a node has become; none for one that is gone. Those that there are
+    /// increase.
+    const std::vector<std::optional<std::size_t>>& matches() const { return found; }
+
+private:
+    struct Range
+    {
+        std::size_t begin, end;
+    };
+
+    void matchEqual(Range a, Range b);
+    void matchSimilar();
+    void matchSimilar(Range a, Range b);
+    void matchInTurn(Range a, Range b);
+    using Leaves = std::unordered_set<std::string_view>;
+    double similarity(std::size_t a, std::size_t b) const;
+    const Leaves& leavesOf(const XmlOutline& outline, const OutlineNode& node) const;
+    static double commonPart(const Leaves& a, const Leaves& b);
+
+    const XmlOutline& before;
+    const Nodes& nodesBefore;
+    const XmlOutline& after;
+    const Nodes& nodesAfter;
+    // Equal nodes have the same number.
+    std::vector<std::size_t> namesBefore, namesAfter;
+    std::vector<std::optional<std::size_t>> found;
+    mutable std::unordered_map<const OutlineNode*, Leaves> leaves;
+};
+
+} // namespace binding
+} // namespace citygml

@@ -1,0 +1,405 @@
+#include "platform/binding/changes/ReducedOriginal.h"
+
+#include "citygml/ReadingThreads.h"
+#include "gml/AbstractGMLType.hxx"
+#include "platform/binding/changes/SameContent.h"
+#include "platform/binding/reader/DocumentHandler.h"
+#include "platform/binding/reader/Encodings.h"
+#include "platform/binding/reader/ReadingThreads.h"
+#include "platform/binding/values/WhiteSpace.h"
+#include "platform/binding/writer/DocumentWriter.h"
+#include "platform/binding/xml/PrefixedName.h"
+
+#include <log4cplus/logger.h>
+
+#include <algorithm>
+#include <array>
+#include <istream>
+#include <ostream>
+#include <system_error>
+
+namespace citygml {
+namespace binding {
+
+namespace {
+
+constexpr std::size_t blockSize = 1 << 16;
+// How large a child may be that stays to show how the document is indented.
+constexpr std::size_t largestSample = 1 << 20;
+// How many children of the document are compared with one of the original that is not where it is expected.
+constexpr std::size_t mostAhead = 8;
+constexpr std::size_t mostBehind = 32;
+
+bool startsWith(std::string_view text, std::size_t at, std::string_view start)
+{
+    return text.compare(at, start.size(), start) == 0;
+}
+
+/// Where the next element begins, behind white space, comments and instructions.
+std::size_t elementBegin(std::string_view bytes, std::size_t at)
+{
+    for (;;) {
+        at = bytes.find('<', at);
+        if (startsWith(bytes, at, "<!--")) {
+            at = bytes.find("-->", at);
+        } else if (startsWith(bytes, at, "<?")) {
+            at = bytes.find("?>", at);
+        } else if (startsWith(bytes, at, "<![CDATA[")) {
+            at = bytes.find("]]>", at);
+        } else {
+            return at;
+        }
+    }
+}
+
+std::string identifierOf(const xml_schema::type& object)
+{
+    const auto* const feature = dynamic_cast<const gml::AbstractGMLType*>(&object);
+    return feature != nullptr && feature->id().present() ? std::string(*feature->id()) : std::string();
+}
+
+/// The identifier of an object or of the first one in it that has one; empty where there is none.
+std::string identifierIn(const xml_schema::type& object)
+{
+    std::string identifier = identifierOf(object);
+    const TypeIndex& type = SchemaIndex::instance().typeOf(object);
+    for (std::size_t i = 0; i < type.elementCount() && identifier.empty(); ++i) {
+        const TypeIndex::FlatMember& member = type.members()[i];
+        if (member.type != nullptr && member.declaration->ops->count(object) != 0) {
+            identifier = identifierOf(member.declaration->ops->at(object, 0));
+        }
+    }
+    return identifier;
+}
+
+} // namespace
+
+WrittenChildren::WrittenChildren(const core::CityModelType& document)
+{
+    textForComparison(document, NamespaceMap(), this);
+    isCollecting = false;
+}
+
+std::optional<std::size_t> WrittenChildren::find(const std::string& identifier)
+{
+    if (numbers.empty()) {
+        for (std::size_t i = 0; i < all.size(); ++i) {
+            numbers.emplace(identifierIn(*all[i]), i);
+        }
+    }
+    const auto found = numbers.find(identifier);
+    return identifier.empty() || found == numbers.end() ? std::nullopt
+                                                        : std::optional<std::size_t>(found->second);
+}
+
+void WrittenChildren::elide(std::size_t first, std::size_t count, const std::string& number)
+{
+    for (std::size_t i = first; i < first + count; ++i) {
+        elided[all[i]] = i == first ? number : std::string();
+    }
+}
+
+const std::string* WrittenChildren::numberOf(const xml_schema::type& child)
+{
+    static const std::string none;
+    if (isCollecting) {
+        all.push_back(&child);
+        return &none;
+    }
+    const auto found = elided.find(&child);
+    return found != elided.end() ? &found->second : nullptr;
+}
+
+/// Children of the original, and what became of them.
+struct ReducedOriginal::Piece
+{
+    std::string bytes;
+    /// Behind `start`.
+    std::uint64_t begin = 0;
+    /// Behind which bytes a child ends.
+    std::vector<std::size_t> ends;
+    /// The number of the document's child that the first one is compared with.
+    std::size_t guess = 0;
+
+    struct Child
+    {
+        std::size_t begin = 0;
+        bool isSame = false;
+        /// Null where it is the same, and where it cannot be read apart from the rest.
+        std::unique_ptr<xml_schema::type> object;
+    };
+    std::vector<Child> children;
+
+    std::size_t endOf(std::size_t child) const { return ends[child]; }
+    std::size_t endInFrontOf(std::size_t child) const { return child != 0 ? ends[child - 1] : 0; }
+    std::string_view gapOf(std::size_t child) const
+    {
+        const std::size_t from = endInFrontOf(child);
+        return std::string_view(bytes).substr(from, children[child].begin - from);
+    }
+    std::string_view bytesOf(std::size_t child) const
+    {
+        return std::string_view(bytes).substr(children[child].begin, endOf(child) - children[child].begin);
+    }
+
+    void compare(const RootContext& context, const std::vector<const xml_schema::type*>& document);
+};
+
+/// Reads the children and compares each with the one of the document that may be the same.
+void ReducedOriginal::Piece::compare(const RootContext& context,
+                                     const std::vector<const xml_schema::type*>& document)
+{
+    struct Reading
+    {
+        explicit Reading(const RootContext& context)
+            : scopes(context.scopes), log(log4cplus::Logger::getRoot()),
+              parser(scopes, XmlParser::Part::InsideRoot), handler(parser, scopes, log, context)
+        {
+        }
+        NamespaceScopes scopes;
+        KeptContentLog log;
+        XmlParser parser;
+        DocumentHandler handler;
+    };
+    std::unique_ptr<Reading> reading;
+    children.resize(ends.size());
+    for (std::size_t i = 0; i < children.size(); ++i) {
+        children[i].begin = elementBegin(bytes, endInFrontOf(i));
+        if (reading == nullptr) {
+            reading = std::make_unique<Reading>(context);
+        }
+        try {
+            reading->parser.feed(bytesOf(i), reading->handler);
+            std::vector<RootChild> read = reading->handler.takeChildren();
+            const std::size_t number = guess + i;
+            if (read.size() != 1) {
+                continue;
+            }
+            children[i].isSame =
+                number < document.size() && haveSameContent(*read.front().object, *document[number]);
+            if (!children[i].isSame) {
+                children[i].object = std::move(read.front().object);
+            }
+        } catch (...) {
+            // Who reads the rest reads it too.
+            reading = nullptr;
+        }
+    }
+}
+
+ReducedOriginal::ReducedOriginal(std::istream& stream, WrittenChildren& written)
+    : stream(stream), written(written), start(static_cast<std::uint64_t>(stream.tellg()))
+{
+    read();
+}
+
+void ReducedOriginal::read()
+{
+    bool isAtEnd = false;
+    while (!isAtEnd && !cutter.isDone()) {
+        isAtEnd = !readBlock();
+        cutter.scan(buffer);
+        if (!context && cutter.rootBegin() != 0 && !readHead()) {
+            break;
+        }
+        if (context) {
+            addPieces(isAtEnd || cutter.isDone());
+        }
+    }
+    while (!pieces.empty()) {
+        takePiece();
+    }
+    endRun();
+    do {
+        reduced += buffer;
+        buffer.clear();
+    } while (readBlock() || !buffer.empty());
+}
+
+/// \return whether there may be more
+bool ReducedOriginal::readBlock()
+{
+    const std::size_t begin = buffer.size();
+    buffer.resize(begin + blockSize);
+    stream.read(&buffer[begin], static_cast<std::streamsize>(blockSize));
+    buffer.resize(begin + static_cast<std::size_t>(stream.gcount()));
+    return static_cast<bool>(stream);
+}
+
+/// Reads what stands in front of the root's children.
+///
+/// \return whether these can be read apart from it
+bool ReducedOriginal::readHead()
+{
+    const std::size_t end = cutter.rootBegin();
+    if (!isUtf8(buffer)) {
+        return false;
+    }
+    NamespaceScopes scopes(SchemaIndex::instance());
+    KeptContentLog log(log4cplus::Logger::getRoot());
+    XmlParser parser(scopes);
+    DocumentHandler handler(parser, scopes, log, true);
+    parser.feed(std::string_view(buffer).substr(0, end), handler);
+    if (!handler.hasRoot() || handler.isOlderVersion()) {
+        return false;
+    }
+    context.emplace(handler.rootContext());
+    reduced.assign(buffer, 0, end);
+    buffer.erase(0, end);
+    bufferBegin = end;
+    cutter.drop(end);
+    return true;
+}
+
+void ReducedOriginal::addPieces(bool isAtEnd)
+{
+    const std::size_t size = pieceSize();
+    const std::vector<std::size_t>& ends = cutter.childEnds();
+    for (auto end = ends.begin(); end != ends.end(); end = ends.begin()) {
+        end = std::lower_bound(ends.begin(), ends.end(), size);
+        if (end == ends.end() && !isAtEnd) {
+            break;
+        }
+        addPiece({ends.begin(), end == ends.end() ? end : end + 1});
+    }
+}
+
+void ReducedOriginal::addPiece(std::vector<std::size_t> ends)
+{
+    auto piece = std::make_unique<Piece>();
+    const std::size_t end = ends.back();
+    std::string rest(buffer, end);
+    buffer.resize(end);
+    piece->bytes = std::exchange(buffer, std::move(rest));
+    piece->begin = bufferBegin;
+    piece->ends = std::move(ends);
+    piece->guess = expected + unmatched + childrenInPieces;
+    bufferBegin += end;
+    cutter.drop(end);
+    childrenInPieces += piece->ends.size();
+
+    const unsigned threads = readingThreads();
+    const auto compare = [this, shared = std::shared_ptr<Piece>(std::move(piece))] {
+        shared->compare(*context, written.children());
+        return shared;
+    };
+    try {
+        pieces.push_back(std::async(threads > 1 ? std::launch::async : std::launch::deferred, compare));
+    } catch (const std::system_error&) {
+        // There is no thread to be had.
+        pieces.push_back(std::async(std::launch::deferred, compare));
+    }
+    while (pieces.size() > threads) {
+        takePiece();
+    }
+}
+
+void ReducedOriginal::takePiece()
+{
+    const std::shared_ptr<const Piece> piece = pieces.front().get();
+    pieces.pop_front();
+    childrenInPieces -= piece->children.size();
+    for (std::size_t i = 0; i < piece->children.size(); ++i) {
+        const std::optional<std::size_t> match = matchOf(*piece, i);
+        unmatched = match ? 0 : unmatched + 1;
+        expected = match ? *match + 1 : expected;
+        addChild(*piece, i, match);
+    }
+}
+
+/// The number of the document's child that a child is the same as.
+std::optional<std::size_t> ReducedOriginal::matchOf(const Piece& piece, std::size_t child)
+{
+    const Piece::Child& found = piece.children[child];
+    if (found.isSame && piece.guess + child >= expected) {
+        return piece.guess + child;
+    }
+    return found.object != nullptr ? search(*found.object) : std::nullopt;
+}
+
+std::optional<std::size_t> ReducedOriginal::search(const xml_schema::type& child)
+{
+    const auto& children = written.children();
+    const auto isSame = [&](std::size_t number) {
+        return number >= expected && number < children.size() && haveSameContent(child, *children[number]);
+    };
+    // Where it is if those since the last one were edited, or else, if some of them were taken out.
+    const std::size_t likely = expected + unmatched;
+    for (std::size_t number = likely; number + mostBehind >= likely && number >= expected; --number) {
+        if (isSame(number)) {
+            return number;
+        }
+        if (number == 0) {
+            break;
+        }
+    }
+    const std::optional<std::size_t> known = written.find(identifierIn(child));
+    if (known) {
+        return isSame(*known) ? known : std::nullopt;
+    }
+    for (std::size_t number = likely + 1; number <= likely + mostAhead; ++number) {
+        if (isSame(number)) {
+            return number;
+        }
+    }
+    return std::nullopt;
+}
+
+void ReducedOriginal::addChild(const Piece& piece, std::size_t child, std::optional<std::size_t> match)
+{
+    const std::string_view bytes = piece.bytesOf(child), gap = piece.gapOf(child);
+    const std::uint64_t end = piece.begin + piece.endOf(child);
+    if (run && match == run->first + run->count && isBlank(gap)) {
+        ++run->count;
+        run->end = end;
+        return;
+    }
+    endRun();
+    reduced += gap;
+    const std::string_view tag = bytes.substr(0, bytes.find('>'));
+    const std::string_view name = bytes.substr(1, bytes.find_first_of(" \t\r\n/>", 1) - 1);
+    // New elements are indented as one that is there.
+    const bool isSample = !hasSample && bytes.size() < largestSample;
+    hasSample = hasSample || isSample;
+    // The empty element has no declarations.
+    if (match && !isSample && tag.find("xmlns") == std::string_view::npos) {
+        run.emplace(Run{std::string(name), piece.begin + piece.children[child].begin, end, *match, 1});
+    } else {
+        reduced += bytes;
+    }
+}
+
+void ReducedOriginal::endRun()
+{
+    if (!run) {
+        return;
+    }
+    const std::string number = std::to_string(elisions.size());
+    const std::size_t begin = reduced.size();
+    reduced += '<' + run->name + " n=\"" + number + "\"/>";
+    elisions.push_back({begin, reduced.size(), run->begin, run->end});
+    written.elide(run->first, run->count, number);
+    run.reset();
+}
+
+void ReducedOriginal::copy(std::size_t begin, std::size_t end, std::ostream& target)
+{
+    auto elision = std::lower_bound(elisions.begin(), elisions.end(), begin,
+                                    [](const Elision& e, std::size_t at) { return e.begin < at; });
+    std::array<char, blockSize> block{};
+    for (; elision != elisions.end() && elision->end <= end; ++elision) {
+        target.write(reduced.data() + begin, static_cast<std::streamsize>(elision->begin - begin));
+        begin = elision->end;
+        stream.clear();
+        stream.seekg(static_cast<std::streamoff>(start + elision->first));
+        for (std::uint64_t left = elision->last - elision->first; left != 0 && stream;) {
+            stream.read(block.data(), static_cast<std::streamsize>(std::min<std::uint64_t>(left, blockSize)));
+            target.write(block.data(), stream.gcount());
+            left -= static_cast<std::uint64_t>(stream.gcount());
+        }
+    }
+    target.write(reduced.data() + begin, static_cast<std::streamsize>(end - begin));
+}
+
+} // namespace binding
+} // namespace citygml

@@ -1,0 +1,112 @@
+#pragma once
+
+#include "core/CityModelType.hxx"
+#include "platform/binding/reader/RootChild.h"
+#include "platform/binding/reader/RootCutter.h"
+#include "platform/binding/writer/ElementWriter.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <deque>
+#include <future>
+#include <iosfwd>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+namespace citygml {
+namespace binding {
+
+/// The children of a document's root, in the order in which they are written, and which of them are as they
+/// were read.
+class WrittenChildren : public RootChildSelection
+{
+public:
+    explicit WrittenChildren(const core::CityModelType& document);
+
+    const std::vector<const xml_schema::type*>& children() const { return all; }
+    /// The number of a child that has an object with that identifier, or has it itself; none where there is
+    /// none.
+    std::optional<std::size_t> find(const std::string& identifier);
+    /// Has some children that follow each other written as one empty element, with a number.
+    void elide(std::size_t first, std::size_t count, const std::string& number);
+
+    const std::string* numberOf(const xml_schema::type& child) override;
+
+private:
+    bool isCollecting = true;
+    std::vector<const xml_schema::type*> all;
+    std::unordered_map<std::string, std::size_t> numbers;
+    std::unordered_map<const xml_schema::type*, std::string> elided;
+};
+
+/// The bytes of a document without those children of the root that are as another document has them: in place
+/// of some that follow each other stands an empty element with a number, as WrittenChildren writes it.
+/// The first child stays in any case.
+///
+/// It is read from a stream bit by bit, by several threads. A document in which no children can be cut is
+/// there as a whole.
+class ReducedOriginal
+{
+public:
+    /// \param stream outlives the object
+    ReducedOriginal(std::istream& stream, WrittenChildren& written);
+
+    const std::string& bytes() const { return reduced; }
+    /// Copies the bytes of the original that a part of the bytes stands for.
+    void copy(std::size_t begin, std::size_t end, std::ostream& target);
+
+private:
+    /// Where an element stands for children, and where these are in the stream.
+    struct Elision
+    {
+        std::size_t begin, end;
+        std::uint64_t first, last;
+    };
+    struct Piece;
+    /// Children of the original that follow each other and are as those of the document from a number on.
+    struct Run
+    {
+        /// That of the element of the first.
+        std::string name;
+        std::uint64_t begin, end;
+        std::size_t first, count;
+    };
+
+    void read();
+    bool readBlock();
+    bool readHead();
+    void addPieces(bool isAtEnd);
+    void addPiece(std::vector<std::size_t> ends);
+    void takePiece();
+    std::optional<std::size_t> matchOf(const Piece& piece, std::size_t child);
+    std::optional<std::size_t> search(const xml_schema::type& child);
+    void addChild(const Piece& piece, std::size_t child, std::optional<std::size_t> match);
+    void endRun();
+
+    std::istream& stream;
+    WrittenChildren& written;
+    const std::uint64_t start;
+    std::string reduced;
+    std::vector<Elision> elisions;
+    // What has been read, and was not cut yet, and where it begins behind `start`.
+    std::string buffer;
+    std::uint64_t bufferBegin = 0;
+    RootCutter cutter;
+    std::optional<RootContext> context;
+    std::deque<std::future<std::shared_ptr<Piece>>> pieces;
+    std::size_t childrenInPieces = 0;
+    // The number of the first child of the document that is behind all that were found, and how many of the
+    // original have been met since that are not as one of the document.
+    std::size_t expected = 0;
+    std::size_t unmatched = 0;
+    std::optional<Run> run;
+    bool hasSample = false;
+};
+
+} // namespace binding
+} // namespace citygml

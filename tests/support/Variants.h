@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QByteArray>
+#include <QVector>
+
+namespace testsupport {
+
+/// A document that says what another one does, in other bytes.
+struct Variant
+{
+    const char* name;
+    QByteArray xml;
+};
+
+/// Variants of a document in UTF-8 without CDATA sections: other line ends, quotes, references, prefixes,
+/// encodings, and more.
+QVector<Variant> variantsOf(const QByteArray& document);
+
+} // namespace testsupport
