@@ -91,6 +91,7 @@ long long DocumentReading::size() const
 
 void DocumentReading::read(const Progress& progress)
 {
+    file = SourceFile(path);
     const std::unique_ptr<std::istream> source = openDocument(path, reason);
     if (source == nullptr) {
         return;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "apps/common/SourceFile.h"
 #include "core/CityModelType.hxx"
 
 #include <atomic>
@@ -47,6 +48,8 @@ public:
     /// Ends the reading soon, from any thread. Without effect on one that has ended.
     void cancel() { cancelled = true; }
 
+    /// The file, as it was when the reading began.
+    const SourceFile& source() const { return file; }
     /// Null where the reading failed or was cancelled, and when it was handed over.
     const core::CityModelType* document() const { return root.get(); }
     /// Whether cancel() was called in time.
@@ -61,6 +64,7 @@ public:
 
 private:
     const QString path;
+    SourceFile file;
     std::atomic<bool> cancelled{false};
     std::unique_ptr<core::CityModelType> root;
     QString reason;

@@ -6,7 +6,7 @@
 
 namespace tolvik::inspect {
 
-bool loadDocument(CityGMLModel& model, const QString& file, std::ostream& err)
+bool loadDocument(CityGMLModel& model, const QString& file, std::ostream& err, apps::SourceFile* source)
 {
     apps::DocumentReading reading(file);
     reading.readShown();
@@ -15,6 +15,9 @@ bool loadDocument(CityGMLModel& model, const QString& file, std::ostream& err)
         return false;
     }
     reading.handOver(model);
+    if (source != nullptr) {
+        *source = reading.source();
+    }
     return true;
 }
 

@@ -49,12 +49,14 @@ std::unique_ptr<core::CityModelType> readRepaired(const QString& file, std::vect
 
 } // namespace
 
-int runRepair(const QString& file, const QString& output, std::ostream& out, std::ostream& err)
+int runRepair(const QString& file, const QString& output, apps::DocumentSaving::Form form, std::ostream& out,
+              std::ostream& err)
 {
     if (areSame(file, output)) {
         err << "tolvik-inspect: " << output.toStdString() << " is the document itself\n";
         return 1;
     }
+    const apps::SourceFile source(file);
     std::vector<citygml::Finding> done;
     std::unique_ptr<core::CityModelType> document = readRepaired(file, done, err);
     if (document == nullptr) {
@@ -62,7 +64,8 @@ int runRepair(const QString& file, const QString& output, std::ostream& out, std
     }
     CityGMLModel model(nullptr, nullptr);
     model.load(std::auto_ptr<core::CityModelType>(document.release()));
-    if (!saveDocument(model, output, err)) {
+    apps::DocumentSaving saving(model, source);
+    if (!saveDocument(saving, output, form, err)) {
         return 1;
     }
     for (const citygml::Finding& repair : done) {

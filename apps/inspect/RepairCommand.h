@@ -1,5 +1,7 @@
 #pragma once
 
+#include "apps/common/DocumentSaving.h"
+
 #include <iosfwd>
 
 class QString;
@@ -12,6 +14,7 @@ namespace tolvik::inspect {
 /// \param out    takes one line for each thing that was put right, once the document is saved
 /// \param err    takes the reason of a failure
 /// \return the program's exit code: 0, or 1 on failure
-int runRepair(const QString& file, const QString& output, std::ostream& out, std::ostream& err);
+int runRepair(const QString& file, const QString& output, apps::DocumentSaving::Form form, std::ostream& out,
+              std::ostream& err);
 
 } // namespace tolvik::inspect

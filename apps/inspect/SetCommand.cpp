@@ -43,7 +43,7 @@ void edit(const CityGMLModel& model, gml::AbstractFeatureType* feature, const QS
 
 } // namespace
 
-int runSet(tolvik::CityGMLModel& model, const SetOptions& options, std::ostream& err)
+int runSet(CityGMLModel& model, const apps::SourceFile& source, const SetOptions& options, std::ostream& err)
 {
     try {
         gml::AbstractFeatureType* const feature = findFeature(model, options.id);
@@ -53,7 +53,8 @@ int runSet(tolvik::CityGMLModel& model, const SetOptions& options, std::ostream&
         err << "tolvik-inspect: " << error.what() << '\n';
         return 1;
     }
-    return saveDocument(model, options.output, err) ? 0 : 1;
+    apps::DocumentSaving saving(model, source);
+    return saveDocument(saving, options.output, options.form, err) ? 0 : 1;
 }
 
 } // namespace tolvik::inspect

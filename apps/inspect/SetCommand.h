@@ -1,5 +1,7 @@
 #pragma once
 
+#include "apps/common/DocumentSaving.h"
+
 #include <QString>
 
 #include <iosfwd>
@@ -23,12 +25,14 @@ struct SetOptions
     QString value;
     /// File to write.
     QString output;
+    apps::DocumentSaving::Form form;
 };
 
 /// Edits one value of a loaded document through its property and saves the document.
 /// Nothing is written unless the value has reached the document.
+/// \param source what the document was read from
 /// \param err takes the reason of a failure
 /// \return the program's exit code: 0, or 1 on failure
-int runSet(tolvik::CityGMLModel& model, const SetOptions& options, std::ostream& err);
+int runSet(CityGMLModel& model, const apps::SourceFile& source, const SetOptions& options, std::ostream& err);
 
 } // namespace tolvik::inspect

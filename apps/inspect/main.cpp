@@ -21,6 +21,9 @@
 #include <log4cplus/initializer.h>
 #include <log4cplus/layout.h>
 #include <log4cplus/logger.h>
+#include <map>
+#include <memory>
+#include <mutex>
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QLocale>
@@ -49,15 +52,17 @@ FILE is a CityGML 2.0 document; `-` reads one from standard input.
                          show the attributes of the features, and as "Other content" what else
                          the document says of them; --absent adds the attributes that they
                          could have and have not
-  set FILE --id ID PATH VALUE OUT
+  set FILE --id ID PATH VALUE OUT [--plain]
                          set one attribute and save as OUT. PATH is made of the labels that
                          `properties` shows, with `/` between them; `[2]` behind a label
                          takes the second of equal ones
-  save FILE OUT          load FILE and save it as OUT
+  save FILE OUT [--plain]
+                         load FILE and save it as OUT
   check FILE... [--json]
                          tell all that is wrong, in lines of FILE:LINE:COLUMN: PATH: REASON or, in
                          JSON, one object a line
-  repair FILE OUT        save FILE as OUT with a free name for each gml:id that stands twice, with
+  repair FILE OUT [--plain]
+                         save FILE as OUT with a free name for each gml:id that stands twice, with
                          elements in the order of the schema, as CityGML 2.0; what was done is told,
                          and FILE stays as it is
   picture FILE OUT.png [--lod N] [--colour-by PATH] [--size WxH]
@@ -85,6 +90,9 @@ FILE is a CityGML 2.0 document; `-` reads one from standard input.
                          --skip-bad all others are
   --help                 show this text
   --version              show the version
+
+OUT has the bytes of FILE but for what is changed. With --plain it is written anew, with the line ends,
+prefixes and spellings of this program.
 
 With --files-from LIST each line of the file LIST, or of standard input for `-`, is one more FILE.
 With --recursive a FILE may be a directory: it stands for the *.gml, *.xml and *.citygml in it and
@@ -216,28 +224,37 @@ int properties(const QStringList& given)
     });
 }
 
+apps::DocumentSaving::Form formOf(const Arguments& arguments)
+{
+    return arguments.has("plain") ? apps::DocumentSaving::Form::Plain : apps::DocumentSaving::Form::Changes;
+}
+
 int set(const QStringList& given)
 {
-    const Arguments arguments(given, {"FILE", "PATH", "VALUE", "OUT"}, {"id="});
+    const Arguments arguments(given, {"FILE", "PATH", "VALUE", "OUT"}, {"id=", "plain"});
     if (!arguments.has("id")) {
         throw UsageError("--id is missing");
     }
     const SetOptions options{arguments.value("id").toStdString(), arguments.at("PATH"), arguments.at("VALUE"),
-                             arguments.at("OUT")};
+                             arguments.at("OUT"), formOf(arguments)};
     CityGMLModel model(nullptr, nullptr);
-    if (!loadDocument(model, arguments.at("FILE"), std::cerr)) {
+    apps::SourceFile source;
+    if (!loadDocument(model, arguments.at("FILE"), std::cerr, &source)) {
         return failure;
     }
-    return runSet(model, options, std::cerr);
+    return runSet(model, source, options, std::cerr);
 }
 
 int save(const QStringList& given)
 {
-    const Arguments arguments(given, {"FILE", "OUT"}, {});
+    const Arguments arguments(given, {"FILE", "OUT"}, {"plain"});
     CityGMLModel model(nullptr, nullptr);
-    const bool done = loadDocument(model, arguments.at("FILE"), std::cerr) &&
-                      saveDocument(model, arguments.at("OUT"), std::cerr);
-    return done ? 0 : failure;
+    apps::SourceFile source;
+    if (!loadDocument(model, arguments.at("FILE"), std::cerr, &source)) {
+        return failure;
+    }
+    apps::DocumentSaving saving(model, source);
+    return saveDocument(saving, arguments.at("OUT"), formOf(arguments), std::cerr) ? 0 : failure;
 }
 
 int check(const QStringList& given)
@@ -249,8 +266,8 @@ int check(const QStringList& given)
 
 int repair(const QStringList& given)
 {
-    const Arguments arguments(given, {"FILE", "OUT"}, {});
-    return runRepair(arguments.at("FILE"), arguments.at("OUT"), std::cout, std::cerr);
+    const Arguments arguments(given, {"FILE", "OUT"}, {"plain"});
+    return runRepair(arguments.at("FILE"), arguments.at("OUT"), formOf(arguments), std::cout, std::cerr);
 }
 
 PictureOptions pictureOptions(const Arguments& arguments)
@@ -286,11 +303,37 @@ int picture(const QStringList& given)
     return runPicture(model, options, std::cerr);
 }
 
+/// What the documents were read from that several threads may read.
+class Sources
+{
+public:
+    bool load(CityGMLModel& model, const QString& file)
+    {
+        apps::SourceFile source;
+        const bool isLoaded = loadDocument(model, file, std::cerr, &source);
+        const std::lock_guard<std::mutex> lock(mutex);
+        sources[&model] = source;
+        return isLoaded;
+    }
+    bool save(CityGMLModel& model, const QString& output)
+    {
+        std::unique_lock<std::mutex> lock(mutex);
+        apps::DocumentSaving saving(model, sources[&model]);
+        lock.unlock();
+        return saveDocument(saving, output, apps::DocumentSaving::Form::Changes, std::cerr);
+    }
+
+private:
+    std::mutex mutex;
+    std::map<const CityGMLModel*, apps::SourceFile> sources;
+};
+
 TableDocuments tableDocuments(const DocumentFiles& files)
 {
+    const auto sources = std::make_shared<Sources>();
     return {files.paths(),
-            [](CityGMLModel& model, const QString& file) { return loadDocument(model, file, std::cerr); },
-            [](CityGMLModel& model, const QString& output) { return saveDocument(model, output, std::cerr); },
+            [sources](CityGMLModel& model, const QString& file) { return sources->load(model, file); },
+            [sources](CityGMLModel& model, const QString& output) { return sources->save(model, output); },
             &std::cerr};
 }
 

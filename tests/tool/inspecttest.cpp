@@ -252,7 +252,7 @@ private slots:
         const ProcessResult help = inspect({"--help"});
         QCOMPARE(help.code, 0);
         for (const char* command : {"rows FILE...", "tree FILE...", "properties FILE...", "set FILE",
-                                    "save FILE", "check FILE...", "repair FILE OUT"}) {
+                                    "save FILE", "check FILE...", "repair FILE OUT [--plain]"}) {
             QVERIFY2(help.out.contains(command), command);
         }
         // What the code of a refused value means.
@@ -280,8 +280,24 @@ private slots:
         const ProcessResult result = inspect({"save", district, path("out.gml")});
         QCOMPARE(result.err, QByteArray());
         QCOMPARE(result.code, 0);
-        QCOMPARE(inspect({"rows", path("out.gml")}).out, inspect({"rows", district}).out);
+        QCOMPARE(contentOf(path("out.gml")), contentOf(district));
         QCOMPARE(files(), QStringList({"out.gml", "town.gml"}));
+    }
+
+    void savesAnewWhereThatIsAskedFor()
+    {
+        QCOMPARE(inspect({"save", district, path("out.gml"), "--plain"}).code, 0);
+        QVERIFY(contentOf(path("out.gml")) != contentOf(district));
+        QCOMPARE(inspect({"rows", path("out.gml")}).out, inspect({"rows", district}).out);
+    }
+
+    void tellsThatStandardInputIsSavedAnew()
+    {
+        const ProcessResult result = inspect({"save", "-", path("out.gml")}, contentOf(district));
+        QCOMPARE(result.code, 0);
+        QVERIFY2(result.err.endsWith("was written anew: the document was not read from a file\n"),
+                 result.err);
+        QCOMPARE(inspect({"rows", path("out.gml")}).out, inspect({"rows", district}).out);
     }
 
     void savesOverTheDocumentItself()
@@ -444,12 +460,11 @@ private slots:
         QFETCH(QStringList, arguments);
         QFETCH(QByteArray, before);
         QFETCH(QByteArray, after);
-        QCOMPARE(inspect({"save", path("town.gml"), path("plain.gml")}).code, 0);
         const ProcessResult result = inspect(QStringList{"set", path("town.gml"), "--id", "house"} +
                                              arguments + QStringList{path("out.gml")});
         QCOMPARE(result.err, QByteArray());
         QCOMPARE(result.code, 0);
-        QByteArray expected = contentOf(path("plain.gml"));
+        QByteArray expected = contentOf(path("town.gml"));
         QCOMPARE(expected.count(before), 1);
         QCOMPARE(contentOf(path("out.gml")), expected.replace(before, after));
     }

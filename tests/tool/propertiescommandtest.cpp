@@ -285,7 +285,7 @@ private slots:
         row("the first by its number", "Fields/same[1]", "x", ">first line\nsecond\tline \\ end<", ">x<");
         row("the second of two", "Fields/same[2]", "x", ">other&#13;<", ">x<");
         row("label with brackets", "Fields/same[2][1]", "x", ">brackets<", ">x<");
-        row("empty text", "Fields/a/b", "", "<gen:value>slash</gen:value>", "<gen:value/>");
+        row("empty text", "Fields/a/b", "", "<gen:value>slash</gen:value>", "<gen:value></gen:value>");
         row("below a group", "Fields/ExternalReferences/externalObjectReference[2]/ReferenceUri",
             "http://new/x", "http://two", "http://new/x");
         row("link that is no address", "Fields/ExternalReferences/externalObjectReference/ReferenceUri",

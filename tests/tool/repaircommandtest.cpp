@@ -49,7 +49,7 @@ private:
     void repairTo(const QByteArray& document, const QByteArray& expected, const QByteArrayList& notes)
     {
         QVERIFY(writeFile(path("in.gml"), document));
-        const ProcessResult result = inspect({"repair", path("in.gml"), path("out.gml")});
+        const ProcessResult result = inspect({"repair", path("in.gml"), path("out.gml"), "--plain"});
         QCOMPARE(result.err, QByteArray());
         QCOMPARE(result.code, 0);
         QByteArray told;
@@ -58,7 +58,7 @@ private:
         }
         QCOMPARE(result.out, told);
         QVERIFY(writeFile(path("expected.gml"), expected));
-        QCOMPARE(inspect({"save", path("expected.gml"), path("expected.gml")}).code, 0);
+        QCOMPARE(inspect({"save", path("expected.gml"), path("expected.gml"), "--plain"}).code, 0);
         QCOMPARE(contentOf(path("out.gml")), contentOf(path("expected.gml")));
         QCOMPARE(contentOf(path("in.gml")), document);
     }
@@ -90,7 +90,7 @@ private slots:
         const QByteArray others = "<x:a gml:id='p-2'/><x:a xlink:href='#p-3'/>";
         QVERIFY(
             writeFile(path("in.gml"), city(house("a", "p") + house("b", "p") + house("p", "r") + others)));
-        QCOMPARE(inspect({"repair", path("in.gml"), path("out.gml")}).code, 0);
+        QCOMPARE(inspect({"repair", path("in.gml"), path("out.gml"), "--plain"}).code, 0);
         const QByteArray out = contentOf(path("out.gml"));
         for (const char* name : {"p", "p-2", "p-4", "p-5"}) {
             QCOMPARE(out.count(QByteArray("gml:id=\"") + name + '"'), 1);
@@ -126,10 +126,10 @@ private slots:
                    "</bldg:Building></core:cityObjectMember>";
         };
         QVERIFY(writeFile(path("in.gml"), city(roof("p") + roof("p"))));
-        const ProcessResult result = inspect({"repair", path("in.gml"), path("out.gml")});
+        const ProcessResult result = inspect({"repair", path("in.gml"), path("out.gml"), "--plain"});
         QCOMPARE(result.out.count('\n'), 4);
         QVERIFY(writeFile(path("expected.gml"), city(roof("p") + roof("p-2"))));
-        QCOMPARE(inspect({"save", path("expected.gml"), path("expected.gml")}).code, 0);
+        QCOMPARE(inspect({"save", path("expected.gml"), path("expected.gml"), "--plain"}).code, 0);
         QCOMPARE(contentOf(path("out.gml")), contentOf(path("expected.gml")));
     }
 
@@ -155,7 +155,7 @@ private slots:
             older.replace(module + QByteArray("/2.0"), module + QByteArray("/1.0"));
         }
         QVERIFY(writeFile(path("in.gml"), older));
-        const ProcessResult result = inspect({"repair", path("in.gml"), path("out.gml")});
+        const ProcessResult result = inspect({"repair", path("in.gml"), path("out.gml"), "--plain"});
         QCOMPARE(result.code, 0);
         QCOMPARE(result.out.count('\n'), 3);
         QVERIFY2(result.out.startsWith(path("in.gml").toUtf8() +
@@ -191,15 +191,25 @@ private slots:
         QCOMPARE(result.out, QByteArray());
         QCOMPARE(result.err, QByteArray());
         QCOMPARE(result.code, 0);
-        QCOMPARE(inspect({"save", district, path("saved.gml")}).code, 0);
-        QCOMPARE(contentOf(path("out.gml")), contentOf(path("saved.gml")));
+        QCOMPARE(contentOf(path("out.gml")), contentOf(district));
+    }
+
+    void changesOnlyWhatIsRepaired()
+    {
+        const QByteArray document = city(house("a", "p") + house("a", "q") + "<!-- end -->");
+        QVERIFY(writeFile(path("in.gml"), document));
+        const ProcessResult result = inspect({"repair", path("in.gml"), path("out.gml")});
+        QCOMPARE(result.err, QByteArray());
+        QByteArray expected = document;
+        expected.replace(document.lastIndexOf("'a'"), 3, "'a-2'");
+        QCOMPARE(contentOf(path("out.gml")), expected);
     }
 
     void keepsWhatIsWrongOtherwise()
     {
         const QByteArray wrong = "<bldg:storeysAboveGround>many</bldg:storeysAboveGround></bldg:Building>";
         QVERIFY(writeFile(path("in.gml"), city(house("a", "p").replace("</bldg:Building>", wrong))));
-        const ProcessResult result = inspect({"repair", path("in.gml"), path("out.gml")});
+        const ProcessResult result = inspect({"repair", path("in.gml"), path("out.gml"), "--plain"});
         QCOMPARE(result.code, 0);
         QVERIFY2(result.err.contains("'many' is not a whole number without sign"), result.err);
         QVERIFY(contentOf(path("out.gml")).contains(">many<"));

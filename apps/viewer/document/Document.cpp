@@ -43,6 +43,7 @@ void Document::open(apps::DocumentReading& reading)
 {
     emit aboutToBeOpened();
     edits.clear();
+    file = reading.source();
     reading.handOver(*list);
     list->dirty(false);
     emit fileNameChanged(fileName());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "apps/common/SourceFile.h"
 #include "apps/viewer/selection/RowSelectionModel.h"
 #include "UI/Models/CityGMLModel/CityGMLModel.h"
 #include "UI/Models/CityGMLModel/CityGMLTreeModel.h"
@@ -53,6 +54,13 @@ public:
     /// \param reading has a document; gives it away
     void open(apps::DocumentReading& reading);
 
+    /// The file whose bytes a save keeps where nothing has changed: that of the last save, or else the one
+    /// that the document was read from.
+    /// @{
+    const apps::SourceFile& source() const { return file; }
+    void setSource(const apps::SourceFile& source) { file = source; }
+    /// @}
+
     /// Tells that the document has been saved under a name, so that it is not modified any more.
     void noteSaved(const QString& path);
 
@@ -76,6 +84,7 @@ private:
     std::unique_ptr<CityGMLTreeModel> features;
     std::unique_ptr<RowSelectionModel> selected;
     QUndoStack edits;
+    apps::SourceFile file;
 };
 
 } // namespace tolvik::viewer

@@ -1,6 +1,6 @@
 #include "apps/viewer/files/FileCommands.h"
 
-#include "apps/inspect/SaveDocument.h"
+#include "apps/common/DocumentSaving.h"
 #include "apps/viewer/document/Document.h"
 #include "apps/viewer/files/RecentFiles.h"
 #include "apps/viewer/files/ViewState.h"
@@ -15,7 +15,6 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTreeView>
-#include <sstream>
 
 namespace tolvik::viewer {
 
@@ -196,22 +195,25 @@ bool FileCommands::saveAs()
 
 bool FileCommands::saveTo(const QString& path)
 {
-    std::ostringstream reason;
     const QString former = document.fileName();
-    if (!inspect::saveDocument(document.model(), path, reason)) {
+    apps::DocumentSaving saving(document.model(), document.source());
+    if (!saving.save(path, apps::DocumentSaving::Form::Changes)) {
         document.model().setFileName(former);
-        const QString text =
-            tr("%1 could not be saved: %2").arg(nameOf(path), QString::fromStdString(reason.str()));
+        const QString text = tr("%1 could not be saved: %2").arg(nameOf(path), saving.error());
         emit told(LogModel::Error, text);
         notice.tell(text);
         return false;
     }
     document.model().setFileName(former);
+    document.setSource(saving.source());
     document.noteSaved(path);
     watch.watch(path);
     notice.hide();
     recentFiles::add(path);
     emit told(LogModel::Information, tr("%1 is saved.").arg(nameOf(path)));
+    if (!saving.note().isEmpty()) {
+        emit told(LogModel::Warning, tr("%1 was written anew: %2").arg(nameOf(path), saving.note()));
+    }
     return true;
 }
 

@@ -646,6 +646,10 @@ height&gt;3, function=1000 für Attribute. Eingabe führt zum nächsten Treffer.
         <source>%1 is saved.</source>
         <translation>%1 ist gespeichert.</translation>
     </message>
+    <message>
+        <source>%1 was written anew: %2</source>
+        <translation>%1 wurde neu geschrieben: %2</translation>
+    </message>
 </context>
 <context>
     <name>tolvik::viewer::FindingsModel</name>

@@ -646,6 +646,10 @@ height&gt;3, function=1000 pour les attributs. Entrée mène au résultat suivan
         <source>%1 is saved.</source>
         <translation>%1 est enregistré.</translation>
     </message>
+    <message>
+        <source>%1 was written anew: %2</source>
+        <translation>%1 a été écrit en entier : %2</translation>
+    </message>
 </context>
 <context>
     <name>tolvik::viewer::FindingsModel</name>
