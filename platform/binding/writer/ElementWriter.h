@@ -22,7 +22,7 @@ class RootChildSelection
 {
 public:
     virtual ~RootChildSelection() = default;
-    /// \return null for a child to be written as it is, an empty text for one that is left out, and else a number
+    /// \return null for a child to be written as it is, an empty text for one that is left out, else a number
     /// for an empty element in its place, with only this as an attribute `n`
     virtual const std::string* numberOf(const xml_schema::type& child) = 0;
 };
