@@ -10,6 +10,7 @@
 
 #include <csignal>
 #include <QDropEvent>
+#include <QFileDialog>
 #include <QLabel>
 #include <QMessageBox>
 #include <QMimeData>
@@ -129,6 +130,58 @@ private slots:
         QVERIFY(contentOf(opened->file()).contains("Northern pier"));
         reload();
         QCOMPARE(node("pier").data().toString(), QString("Northern pier"));
+    }
+
+    void aSaveChangesNothingElse()
+    {
+        const QByteArray before = contentOf(opened->file());
+        opened->action("save")->trigger();
+        QCOMPARE(contentOf(opened->file()), before);
+        rename("pier", "Northern pier");
+        opened->action("save")->trigger();
+        QByteArray expected = before;
+        QVERIFY(expected.count("<gml:name>Middle pier</gml:name>") == 1);
+        expected.replace("<gml:name>Middle pier</gml:name>", "<gml:name>Northern pier</gml:name>");
+        QCOMPARE(contentOf(opened->file()), expected);
+        opened->action("undo")->trigger();
+        QVERIFY(opened->document().isModified());
+        opened->action("save")->trigger();
+        QCOMPARE(contentOf(opened->file()), before);
+    }
+
+    void editsWaitWhileTheDocumentIsWritten()
+    {
+        rename("pier", "Northern pier");
+        QVERIFY(opened->action("undo")->isEnabled());
+        QVector<bool> wasEnabled;
+        connect(
+            &opened->window->files(), &FileCommands::savingChanged, this,
+            [&] {
+                wasEnabled.append(opened->action("undo")->isEnabled() ||
+                                  opened->action("reload")->isEnabled());
+            },
+            Qt::QueuedConnection);
+        opened->action("save")->trigger();
+        QCoreApplication::processEvents();
+        QCOMPARE(wasEnabled, QVector<bool>({false, true}));
+    }
+
+    void aCopyIsRepaired()
+    {
+        const QString broken = opened->path("twice.gml");
+        writeFile(broken, documentText(buildingMember("", "b") + buildingMember("", "b")));
+        opened->window->open(broken);
+        QTRY_VERIFY(opened->button("repair") != nullptr);
+        QTimer::singleShot(200, this, [] {
+            auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            QVERIFY(dialog != nullptr);
+            QTest::keyClick(dialog, Qt::Key_Return);
+        });
+        QSignalSpy done(&opened->window->files(), &FileCommands::opened);
+        opened->button("repair")->click();
+        QVERIFY(done.size() == 1 || done.wait());
+        QCOMPARE(QFileInfo(opened->document().fileName()).fileName(), QString("twice-repaired.gml"));
+        QCOMPARE(opened->document().model().rowCount(), 3);
     }
 
     void aSaveThatFailsSaysSo()

@@ -1,19 +1,23 @@
 #include "apps/viewer/files/FileCommands.h"
 
 #include "apps/common/DocumentSaving.h"
+#include "apps/common/OpenDocument.h"
 #include "apps/viewer/document/Document.h"
 #include "apps/viewer/files/RecentFiles.h"
 #include "apps/viewer/files/ViewState.h"
 #include "apps/viewer/log/LogModel.h"
 #include "apps/viewer/window/NoticeBar.h"
 #include "apps/viewer/window/StatusProgress.h"
+#include "citygml/DocumentRepair.h"
 
 #include <optional>
 #include <QDir>
+#include <QEventLoop>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
-#include <QPushButton>
+#include <QThread>
+#include <QTimer>
 #include <QTreeView>
 
 namespace tolvik::viewer {
@@ -23,6 +27,30 @@ namespace {
 QString nameOf(const QString& path)
 {
     return QFileInfo(path).fileName();
+}
+
+/// Reads a document, puts right what needs no guessing, and writes it to another file. May run in any thread.
+/// \return why that cannot be done; empty if it is
+QString writeRepaired(const QString& path, const QString& output)
+{
+    QString reason;
+    const std::unique_ptr<std::istream> stream = apps::openSeekableDocument(path, reason);
+    if (stream == nullptr) {
+        return reason;
+    }
+    try {
+        CityGMLModel model(nullptr, nullptr);
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
+        model.load(std::auto_ptr<core::CityModelType>(
+            citygml::repairDocument(*stream, [](const citygml::Finding&) {}).release()));
+#pragma GCC diagnostic pop
+        apps::DocumentSaving saving(model, apps::SourceFile(path));
+        saving.save(output, apps::DocumentSaving::Form::Changes);
+        return saving.error();
+    } catch (const xsd::cxx::tree::exception<char>& error) {
+        return apps::textOf(error);
+    }
 }
 
 } // namespace
@@ -51,7 +79,7 @@ void FileCommands::chooseAndOpen()
 
 void FileCommands::open(const QString& path)
 {
-    if (!letGo()) {
+    if (isWriting || !letGo()) {
         return;
     }
     agreedEdits = document.undoStack().index();
@@ -86,6 +114,11 @@ bool FileCommands::isSameFile(const QString& path) const
 /// Puts what was read in place, unless there is nothing or the user has edited on meanwhile.
 void FileCommands::take()
 {
+    if (isWriting) {
+        // What is being written must not be replaced.
+        isTakeDelayed = true;
+        return;
+    }
     progress.endBeside();
     apps::DocumentReading& reading = loader.reading();
     if (!next.isEmpty()) {
@@ -133,6 +166,55 @@ void FileCommands::tellFailure()
     const QString text = tr("%1 could not be opened: %2.").arg(nameOf(path), reason);
     emit told(LogModel::Error, text);
     notice.tell(text);
+    // Of what ends a reading, this is what a repair puts right.
+    if (reason.contains(QLatin1String("already exist"))) {
+        notice.offer(QStringLiteral("repair"), tr("Re&pair a Copy..."), [this, path] { repairCopy(path); });
+    }
+}
+
+void FileCommands::repairCopy(const QString& path)
+{
+    const QFileInfo file(path);
+    const QString output =
+        QFileDialog::getSaveFileName(&window, tr("Save Repaired Copy"),
+                                     file.dir().filePath(tr("%1-repaired.gml").arg(file.completeBaseName())),
+                                     tr("City models (*.gml *.xml *.citygml);;All files (*)"));
+    if (output.isEmpty()) {
+        return;
+    }
+    QString reason = tr("a repair does not write over the document itself");
+    if (QFileInfo(output) != file) {
+        workBeside(tr("Repairing %1").arg(nameOf(path)), [&] { reason = writeRepaired(path, output); });
+    }
+    if (reason.isEmpty()) {
+        open(output);
+    } else {
+        const QString text = tr("%1 could not be repaired: %2.").arg(nameOf(path), reason);
+        emit told(LogModel::Error, text);
+        notice.tell(text);
+    }
+}
+
+/// Does something in a thread of its own, and comes back when that is done. The window goes on meanwhile, but
+/// whoever edits waits.
+void FileCommands::workBeside(const QString& title, const std::function<void()>& work)
+{
+    isWriting = true;
+    emit savingChanged(true);
+    progress.beginBeside(title, false);
+    QEventLoop waiting;
+    const std::unique_ptr<QThread> thread(QThread::create(work));
+    connect(thread.get(), &QThread::finished, &waiting, &QEventLoop::quit);
+    thread->start();
+    waiting.exec();
+    thread->wait();
+    progress.endBeside();
+    isWriting = false;
+    emit savingChanged(false);
+    if (isTakeDelayed) {
+        isTakeDelayed = false;
+        QTimer::singleShot(0, this, &FileCommands::take);
+    }
 }
 
 void FileCommands::offerReload()
@@ -168,6 +250,9 @@ bool FileCommands::letGo()
 
 bool FileCommands::save()
 {
+    if (isWriting || !document.isOpen()) {
+        return false;
+    }
     if (document.fileName().isEmpty() || document.fileName() == QLatin1String("-")) {
         return saveAs();
     }
@@ -187,6 +272,9 @@ bool FileCommands::save()
 
 bool FileCommands::saveAs()
 {
+    if (isWriting || !document.isOpen()) {
+        return false;
+    }
     const QString path =
         QFileDialog::getSaveFileName(&window, tr("Save As"), document.fileName(),
                                      tr("City models (*.gml *.xml *.citygml);;All files (*)"));
@@ -197,14 +285,17 @@ bool FileCommands::saveTo(const QString& path)
 {
     const QString former = document.fileName();
     apps::DocumentSaving saving(document.model(), document.source());
-    if (!saving.save(path, apps::DocumentSaving::Form::Changes)) {
-        document.model().setFileName(former);
-        const QString text = tr("%1 could not be saved: %2").arg(nameOf(path), saving.error());
+    bool isSaved = false;
+    workBeside(tr("Saving %1").arg(nameOf(path)),
+               [&] { isSaved = saving.save(path, apps::DocumentSaving::Form::Changes); });
+    // The document tells of a new name itself.
+    document.model().setFileName(former);
+    if (!isSaved) {
+        const QString text = tr("%1 could not be saved: %2.").arg(nameOf(path), saving.error());
         emit told(LogModel::Error, text);
         notice.tell(text);
         return false;
     }
-    document.model().setFileName(former);
     document.setSource(saving.source());
     document.noteSaved(path);
     watch.watch(path);
@@ -212,7 +303,7 @@ bool FileCommands::saveTo(const QString& path)
     recentFiles::add(path);
     emit told(LogModel::Information, tr("%1 is saved.").arg(nameOf(path)));
     if (!saving.note().isEmpty()) {
-        emit told(LogModel::Warning, tr("%1 was written anew: %2").arg(nameOf(path), saving.note()));
+        emit told(LogModel::Warning, tr("All of %1 was written anew: %2.").arg(nameOf(path), saving.note()));
     }
     return true;
 }

@@ -34,6 +34,8 @@ public:
     ~FileCommands() override;
 
     bool isReading() const { return loader.isRunning(); }
+    /// Whether a file is being written beside the window: the document must not change meanwhile.
+    bool isSaving() const { return isWriting; }
 
     /// Reads a document and shows it, beside the present one until it is there. One that cannot be read
     /// leaves everything as it is.
@@ -51,6 +53,8 @@ public slots:
     void cancelReading();
 
 signals:
+    /// Writing has begun, or has ended.
+    void savingChanged(bool saving);
     /// A document that was read is in place.
     void opened();
     /// Something that a user may want to look up later.
@@ -61,6 +65,8 @@ private:
     void take();
     void tellFailure();
     void offerReload();
+    void repairCopy(const QString& path);
+    void workBeside(const QString& title, const std::function<void()>& work);
     bool saveTo(const QString& path);
     bool isSameFile(const QString& path) const;
 
@@ -71,8 +77,10 @@ private:
     StatusProgress& progress;
     DocumentLoader loader;
     FileWatch watch;
-    QString next;         // to be read when the present reading has ended
-    int agreedEdits = -1; // the edits of which the user has agreed that they may be lost
+    bool isWriting = false;
+    bool isTakeDelayed = false; // a document was read while another one was written
+    QString next;               // to be read when the present reading has ended
+    int agreedEdits = -1;       // the edits of which the user has agreed that they may be lost
 };
 
 } // namespace tolvik::viewer

@@ -639,16 +639,44 @@ height&gt;3, function=1000 für Attribute. Eingabe führt zum nächsten Treffer.
         <translation>Speichern unter</translation>
     </message>
     <message>
-        <source>%1 could not be saved: %2</source>
-        <translation>%1 konnte nicht gespeichert werden: %2</translation>
-    </message>
-    <message>
         <source>%1 is saved.</source>
         <translation>%1 ist gespeichert.</translation>
     </message>
     <message>
-        <source>%1 was written anew: %2</source>
-        <translation>%1 wurde neu geschrieben: %2</translation>
+        <source>Re&amp;pair a Copy...</source>
+        <translation>Kopie re&amp;parieren...</translation>
+    </message>
+    <message>
+        <source>Save Repaired Copy</source>
+        <translation>Reparierte Kopie speichern</translation>
+    </message>
+    <message>
+        <source>%1-repaired.gml</source>
+        <translation>%1-repariert.gml</translation>
+    </message>
+    <message>
+        <source>a repair does not write over the document itself</source>
+        <translation>eine Reparatur überschreibt nicht das Dokument selbst</translation>
+    </message>
+    <message>
+        <source>Repairing %1</source>
+        <translation>%1 wird repariert</translation>
+    </message>
+    <message>
+        <source>%1 could not be repaired: %2.</source>
+        <translation>%1 konnte nicht repariert werden: %2.</translation>
+    </message>
+    <message>
+        <source>Saving %1</source>
+        <translation>%1 wird gespeichert</translation>
+    </message>
+    <message>
+        <source>%1 could not be saved: %2.</source>
+        <translation>%1 konnte nicht gespeichert werden: %2.</translation>
+    </message>
+    <message>
+        <source>All of %1 was written anew: %2.</source>
+        <translation>%1 wurde ganz neu geschrieben: %2.</translation>
     </message>
 </context>
 <context>

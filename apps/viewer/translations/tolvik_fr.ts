@@ -639,16 +639,44 @@ height&gt;3, function=1000 pour les attributs. Entrée mène au résultat suivan
         <translation>Enregistrer sous</translation>
     </message>
     <message>
-        <source>%1 could not be saved: %2</source>
-        <translation>%1 n&apos;a pas pu être enregistré : %2</translation>
-    </message>
-    <message>
         <source>%1 is saved.</source>
         <translation>%1 est enregistré.</translation>
     </message>
     <message>
-        <source>%1 was written anew: %2</source>
-        <translation>%1 a été écrit en entier : %2</translation>
+        <source>Re&amp;pair a Copy...</source>
+        <translation>Ré&amp;parer une copie...</translation>
+    </message>
+    <message>
+        <source>Save Repaired Copy</source>
+        <translation>Enregistrer la copie réparée</translation>
+    </message>
+    <message>
+        <source>%1-repaired.gml</source>
+        <translation>%1-repare.gml</translation>
+    </message>
+    <message>
+        <source>a repair does not write over the document itself</source>
+        <translation>une réparation n&apos;écrase pas le document lui-même</translation>
+    </message>
+    <message>
+        <source>Repairing %1</source>
+        <translation>Réparation de %1</translation>
+    </message>
+    <message>
+        <source>%1 could not be repaired: %2.</source>
+        <translation>%1 n&apos;a pas pu être réparé : %2.</translation>
+    </message>
+    <message>
+        <source>Saving %1</source>
+        <translation>Enregistrement de %1</translation>
+    </message>
+    <message>
+        <source>%1 could not be saved: %2.</source>
+        <translation>%1 n&apos;a pas pu être enregistré : %2.</translation>
+    </message>
+    <message>
+        <source>All of %1 was written anew: %2.</source>
+        <translation>Tout %1 a été réécrit : %2.</translation>
     </message>
 </context>
 <context>

@@ -258,6 +258,9 @@ void MainWindow::follow(const QUrl& link)
 
 void MainWindow::removeFeatures(const QVector<int>& rows)
 {
+    if (fileCommands->isSaving()) {
+        return;
+    }
     FeatureRemoval::Features going;
     for (const int row : rows) {
         going.push_back(shown->model().getFeature(row));
@@ -431,6 +434,7 @@ void MainWindow::connectDocument()
     connect(fileCommands.get(), &FileCommands::told, log, &LogModel::add);
     connect(fileCommands.get(), &FileCommands::told, this,
             [this](int, const QString& text) { statusBar()->showMessage(text, messageMilliseconds); });
+    connect(fileCommands.get(), &FileCommands::savingChanged, this, &MainWindow::holdEdits);
     connect(journal, &Journal::failed, this, [this](const QString& reason) {
         log->add(LogModel::Warning, tr("Changes are not kept for a recovery: %1").arg(reason));
     });
@@ -438,6 +442,21 @@ void MainWindow::connectDocument()
     connect(actionsOfFeatures, &FeatureActions::referrersRequested, referrers, &ReferrerSearch::start);
     connect(referrers, &ReferrerSearch::found, this, &MainWindow::showReferrers);
     connect(&LogSource::instance(), &LogSource::logged, log, &LogModel::add);
+}
+
+/// Edits wait while the document is being written.
+void MainWindow::holdEdits(bool hold)
+{
+    for (const char* const name : {"propertiesDock", "tableDock"}) {
+        findChild<QDockWidget*>(QLatin1String(name))->widget()->setEnabled(!hold);
+    }
+    for (QAction* const action : {saveAction, saveAsAction, reloadAction}) {
+        action->setEnabled(!hold && shown->isOpen());
+    }
+    actionsOfFeatures->remove->setEnabled(!hold && shown->selection().hasSelection());
+    findChild<QAction*>(QStringLiteral("open"))->setEnabled(!hold);
+    findChild<QAction*>(QStringLiteral("undo"))->setEnabled(!hold && shown->undoStack().canUndo());
+    findChild<QAction*>(QStringLiteral("redo"))->setEnabled(!hold && shown->undoStack().canRedo());
 }
 
 void MainWindow::updateTitle()
@@ -498,7 +517,7 @@ void MainWindow::restoreLayout()
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    if (!fileCommands->letGo()) {
+    if (fileCommands->isSaving() || !fileCommands->letGo()) {
         event->ignore();
         return;
     }

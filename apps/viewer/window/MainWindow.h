@@ -77,6 +77,7 @@ private:
     QString describe(int row) const;
     void fillRecentFiles(QMenu& menu);
     void connectDocument();
+    void holdEdits(bool hold);
     void updateTitle();
     void showFindings();
     void showAbout();
