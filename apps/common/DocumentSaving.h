@@ -17,8 +17,10 @@ namespace tolvik::apps {
 /// links to it stay.
 ///
 /// The new file has the bytes of the one that the document was read from, but for what has been edited since.
-/// Where that is not possible, the document is written anew. \code DocumentSaving saving(model,
-/// reading.source()); if (!saving.save(path, DocumentSaving::Form::Changes)) {
+/// Where that is not possible, the document is written anew.
+/// \code
+/// DocumentSaving saving(model, reading.source());
+/// if (!saving.save(path, DocumentSaving::Form::Changes)) {
 ///     show(saving.error());
 /// }
 /// \endcode
