@@ -76,9 +76,9 @@ FILE is a CityGML 2.0 document; `-` reads one from standard input.
                          a file a table, or with one --type a file *.csv, *.geojson, *.geojsonl or
                          *.fgb. A column is a PATH as `set` takes it, or gen:NAME for a generic
                          attribute; --columns-from keeps the columns in a file, and uses those of
-                         one that is there; without --out it writes such a file alone. Maps get a geometry, a CSV with --geometry; --3d takes
-                         the surfaces with their heights. --all adds "Other content"; --append adds
-                         rows to tables of a database
+                         one that is there; without --out it writes such a file alone. Maps get a
+                         geometry, a CSV with --geometry; --3d takes the surfaces with their heights.
+                         --all adds "Other content"; --append adds rows to tables of a database
   columns OUT FILE...    join such files of the parts of a city to one for the whole
   apply TABLE FILE... (--out OUT | --out-dir DIR) [--id-column COLUMN] [--sql QUERY] [--create]
         [--absent WORD] [--skip-bad]
