@@ -56,6 +56,19 @@ gml::AbstractFeatureType* FeatureLocator::find(const FeatureAddress& address)
                : nullptr;
 }
 
+std::vector<gml::AbstractFeatureType*> FeatureLocator::findAll(const QJsonArray& addresses)
+{
+    std::vector<gml::AbstractFeatureType*> features;
+    for (const QJsonValue each : addresses) {
+        gml::AbstractFeatureType* const feature = find({each[0].toString().toStdString(), each[1].toInt()});
+        if (feature == nullptr) {
+            return {};
+        }
+        features.push_back(feature);
+    }
+    return features;
+}
+
 /// Whether the model finds the feature by its identifier.
 bool FeatureLocator::hasIdentifier(gml::AbstractFeatureType& feature) const
 {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QJsonArray>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -28,6 +29,9 @@ struct FeatureAddress
     {
         return a.identifier == b.identifier && a.step == b.step;
     }
+
+    /// For FeatureLocator::findAll().
+    QJsonArray toJson() const { return {QString::fromStdString(identifier), step}; }
 };
 
 /// Finds the addresses of features, and the features at addresses. It remembers the walks that it has done,
@@ -44,6 +48,10 @@ public:
 
     /// \return null where there is no such feature
     gml::AbstractFeatureType* find(const FeatureAddress& address);
+
+    /// \param addresses an array of addresses
+    /// \return empty where one of the features is not there
+    std::vector<gml::AbstractFeatureType*> findAll(const QJsonArray& addresses);
 
 private:
     struct Walk

@@ -66,11 +66,6 @@ FeatureRemoval::Features inDocumentOrder(Document& document, FeatureRemoval::Fea
     return features;
 }
 
-QJsonArray toJson(const FeatureAddress& address)
-{
-    return {QString::fromStdString(address.identifier), address.step};
-}
-
 } // namespace
 
 std::unique_ptr<FeatureRemoval> FeatureRemoval::make(Document& document, const Features& features,
@@ -91,15 +86,9 @@ std::unique_ptr<FeatureRemoval> FeatureRemoval::make(Document& document, const F
 void FeatureRemoval::addMaker()
 {
     RecordedEdit::addMaker(featureRemovalKind, [](Document& document, const QJsonObject& record) {
-        FeatureLocator locator(document.model());
-        Features features;
-        for (const QJsonValue each : record["features"].toArray()) {
-            gml::AbstractFeatureType* const feature =
-                locator.find({each[0].toString().toStdString(), each[1].toInt()});
-            if (feature == nullptr) {
-                return std::unique_ptr<RecordedEdit>();
-            }
-            features.push_back(feature);
+        const Features features = FeatureLocator(document.model()).findAll(record["features"].toArray());
+        if (features.empty()) {
+            return std::unique_ptr<RecordedEdit>();
         }
         QString refusal;
         return std::unique_ptr<RecordedEdit>(make(document, features, refusal));
@@ -132,7 +121,7 @@ QJsonObject FeatureRemoval::record() const
 {
     QJsonArray features;
     for (const Removed& removed : all) {
-        features += toJson(removed.feature);
+        features += removed.feature.toJson();
     }
     return {{"features", features}};
 }

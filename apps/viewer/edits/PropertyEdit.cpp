@@ -71,15 +71,9 @@ std::unique_ptr<PropertyEdit> PropertyEdit::make(Document& document, const Featu
 void PropertyEdit::addMaker()
 {
     RecordedEdit::addMaker(propertyEditKind, [](Document& document, const QJsonObject& record) {
-        FeatureLocator locator(document.model());
-        Features features;
-        for (const QJsonValue each : record["features"].toArray()) {
-            gml::AbstractFeatureType* const feature =
-                locator.find({each[0].toString().toStdString(), each[1].toInt()});
-            if (feature == nullptr) {
-                return std::unique_ptr<RecordedEdit>();
-            }
-            features.push_back(feature);
+        const Features features = FeatureLocator(document.model()).findAll(record["features"].toArray());
+        if (features.empty()) {
+            return std::unique_ptr<RecordedEdit>();
         }
         QString refusal;
         return std::unique_ptr<RecordedEdit>(make(document, features,
@@ -117,7 +111,7 @@ QJsonObject PropertyEdit::record() const
 {
     QJsonArray features;
     for (const Change& change : changes) {
-        features += QJsonArray{QString::fromStdString(change.feature.identifier), change.feature.step};
+        features += change.feature.toJson();
     }
     return {{"features", features}, {"action", action}, {"place", place.toJson()}, {"value", packed(value)}};
 }
