@@ -28,12 +28,23 @@ namespace xsd {
 namespace cxx {
 namespace tree {
 
+// Found as if they stood in the namespace of the run-time, but with other symbols: a program may link a second
+// binding, which has the run-time's own.
+inline namespace slim {
+
 /// Whether a value is held as it is. Values of all other types are objects that know their container.
 template <typename T>
 struct fundamental_p
 {
     static const bool r = std::is_arithmetic<T>::value;
 };
+
+/// What stands at the address that a word is.
+template <typename T>
+T* addressed(std::uintptr_t word)
+{
+    return reinterpret_cast<T*>(word); // NOLINT(performance-no-int-to-ptr): it was made from a pointer
+}
 
 /// What members that hold at most one object have in common: a word that is the object, or, as long as there
 /// is none, the container of the member, marked by its lowest bit. An object itself knows the container.
@@ -53,7 +64,7 @@ protected:
         }
     }
 
-    type* object() const { return reinterpret_cast<type*>(word); }
+    type* object() const { return addressed<type>(word); }
     container* owner() const;
     /// Takes a copy in place of what is there.
     void setCopy(const type& value, flags f);
@@ -298,7 +309,7 @@ protected:
     type** objects() const { return hasBlock() ? reinterpret_cast<type**>(block() + 1) : nullptr; }
     container* owner() const
     {
-        return hasBlock() ? block()->owner : reinterpret_cast<container*>(word & ~emptyMark);
+        return hasBlock() ? block()->owner : addressed<container>(word & ~emptyMark);
     }
     type* slot(size_type index) const
     {
@@ -331,7 +342,7 @@ private:
     static constexpr std::uintptr_t emptyMark = 1;
 
     bool hasBlock() const { return (word & emptyMark) == 0; }
-    Block* block() const { return reinterpret_cast<Block*>(word); }
+    Block* block() const { return addressed<Block>(word); }
 
     std::uintptr_t word;
 };
@@ -584,6 +595,7 @@ void swap(sequence<T, fundamental>& a, sequence<T, fundamental>& b)
     a.swap(b);
 }
 
+} // namespace slim
 } // namespace tree
 } // namespace cxx
 } // namespace xsd

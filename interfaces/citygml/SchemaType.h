@@ -134,7 +134,8 @@ public:
 
 private:
     friend class citygml::binding::KeptContent;
-    // One bit for each attribute with a default or fixed value that the document spelled out.
+    // One bit for each attribute with a default or fixed value that the document spelled out; the bit behind
+    // them marks an object that the document lacks although the schema requires it.
     std::uint16_t spelledOut = 0;
     // Number of the qualified name under which a document held the object; 0 for none.
     std::uint32_t elementName = 0;

@@ -10,7 +10,7 @@ namespace tree {
 
 container* single_object::owner() const
 {
-    return present() ? object()->_container() : reinterpret_cast<container*>(word & ~emptyMark);
+    return present() ? object()->_container() : addressed<container>(word & ~emptyMark);
 }
 
 void single_object::setCopy(const type& value, flags f)
@@ -71,6 +71,7 @@ void object_sequence::reserve(size_type count)
     if (count > max_size()) {
         throw std::length_error("too many elements in a sequence of a schema object");
     }
+    // NOLINTNEXTLINE(bugprone-suspicious-realloc-usage): a block is found by the word, which stays
     void* memory = std::realloc(hasBlock() ? block() : nullptr, sizeof(Block) + count * sizeof(type*));
     if (memory == nullptr) {
         throw std::bad_alloc();

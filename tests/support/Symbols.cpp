@@ -28,7 +28,7 @@ QString demangled(const char* symbol)
     int status = 0;
     const std::unique_ptr<char, void (*)(void*)> text(abi::__cxa_demangle(symbol, nullptr, nullptr, &status),
                                                       &std::free);
-    return QString::fromLatin1(status == 0 ? text.get() : symbol);
+    return QString::fromLatin1(status == 0 ? text.get() : symbol).remove("slim::");
 }
 
 } // namespace testsupport
