@@ -4,7 +4,7 @@
 root=$(cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.." && pwd)
 
 packages=(
-    g++ cmake ninja-build ccache python3 xsdcxx
+    g++ lld cmake ninja-build ccache python3 xsdcxx
     qtbase5-dev qttools5-dev qttools5-dev-tools libxerces-c-dev libexpat1-dev liblog4cplus-dev libboost-iostreams-dev libopenscenegraph-dev
     libgoogle-perftools-dev pkg-config libgdal-dev
     libegl-dev libegl1 libgl1-mesa-dri xvfb xauth
