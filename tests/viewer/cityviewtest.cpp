@@ -347,7 +347,8 @@ void CityViewTest::coloursFollowAnAttributeAndItsEdits()
     int rowOfEdited = -1;
     for (int row = 0; row < model.rowCount(); ++row) {
         CoreProperty* const property = apps::propertyAt(*model.getProperty(model.index(row, 0)), path);
-        if (property != nullptr && (edited == nullptr || property->value() < edited->value())) {
+        if (property != nullptr &&
+            (edited == nullptr || property->value().toDouble() < edited->value().toDouble())) {
             edited = property;
             rowOfEdited = row;
         }
