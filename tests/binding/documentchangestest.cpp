@@ -1,4 +1,6 @@
 #include "citygml/DocumentChanges.h"
+#include "bldg/AbstractBoundarySurfaceType.hxx"
+#include "bldg/BoundarySurfacePropertyType.hxx"
 #include "bldg/BuildingType.hxx"
 #include "citygml/Member.h"
 #include "core/CityModelType.hxx"
@@ -144,6 +146,22 @@ private slots:
             "\n>2</bldg:function>\n", "\n>2</bldg:function>\n\t\t\t<bldg:roofType>r</bldg:roofType>\n");
         add("identifier", lines, on([](bldg::BuildingType& b) { b.id("new"); }), "<bldg:Building>",
             "<bldg:Building gml:id=\"new\">");
+        const auto surface = [](const QByteArray& type, const QByteArray& codeSpace, const QByteArray& name) {
+            return "<bldg:boundedBy ><bldg:" + type + " ><gml:name codeSpace='" + codeSpace + "'>" + name +
+                   "</gml:name></bldg:" + type + "></bldg:boundedBy>\n";
+        };
+        const auto addSurfaces = [&](const char* name, const QByteArray& first, const QByteArray& second) {
+            const Edit edit = on([](bldg::BuildingType& b) {
+                b.boundedBy1().erase(b.boundedBy1().begin());
+                static_cast<std::string&>(b.boundedBy1()[0]._BoundarySurface()->name()[0]) = "new";
+            });
+            add(name, buildingMember('\n' + first + second), edit, first + second,
+                QByteArray(second).replace(">2<", ">new<"));
+        };
+        addSurfaces("entry of another type than the one that is gone", surface("WallSurface", "c", "1"),
+                    surface("RoofSurface", "c", "2"));
+        addSurfaces("entry of the type of the one that is gone",
+                    surface("WallSurface", "c", "1").replace(" >", ">"), surface("WallSurface", "d", "2"));
         add("CDATA",
             "<core:cityObjectMember><bldg:Building><bldg:class><![CDATA[a<b]]></bldg:class></bldg:Building>"
             "</core:cityObjectMember>",

@@ -1,8 +1,12 @@
 #include "platform/binding/changes/NodeAlignment.h"
 
+#include "platform/binding/values/WhiteSpace.h"
 #include "platform/binding/xml/Namespaces.h"
 
+#include <boost/functional/hash.hpp>
+
 #include <algorithm>
+#include <functional>
 
 namespace citygml {
 namespace binding {
@@ -12,6 +16,8 @@ namespace {
 // Beyond this the effort, which is quadratic, is not worth it: what differs is matched in turn.
 constexpr std::size_t mostDifferences = 1500;
 constexpr std::size_t mostPairs = 40000;
+// More than the bytes of any element.
+constexpr std::size_t identityWeight = std::size_t(1) << 44;
 
 bool haveSameName(const OutlineElement& a, const OutlineElement& b)
 {
@@ -35,18 +41,48 @@ std::string identityOf(const OutlineElement& element)
     return result;
 }
 
-/// The elements in an element that hold no others, as they are written.
-void collectLeaves(const XmlOutline& outline, const OutlineNode& node,
-                   std::unordered_set<std::string_view>& leaves)
+std::size_t combined(std::size_t path, std::string_view part)
 {
-    const bool isLeaf = node.element == nullptr || node.element->nodes.empty();
-    if (isLeaf) {
-        leaves.insert(outline.bytesOf(node));
-        return;
+    boost::hash_combine(path, std::hash<std::string_view>()(part));
+    return path;
+}
+
+/// Adds the tags, attributes, texts and comments of an element and of what stands in it. They are told apart
+/// by what they are and by the names of the elements around them.
+void collectPieces(const XmlOutline& outline, const OutlineElement& element, std::size_t outerPath,
+                   NodeAlignment::Pieces& pieces)
+{
+    const std::size_t path = combined(combined(outerPath, element.local), *element.uri);
+    pieces[path] += 2 * element.local.size();
+    for (const OutlineAttribute& attribute : element.attributes) {
+        if (!attribute.isDeclaration) {
+            pieces[combined(combined(path, attribute.local), attribute.value)] +=
+                attribute.local.size() + attribute.value.size();
+        }
     }
-    for (const OutlineNode& inner : node.element->nodes) {
-        collectLeaves(outline, inner, leaves);
+    for (const std::string& text : element.texts) {
+        if (!isBlank(text)) {
+            pieces[combined(path, text)] += text.size();
+        }
     }
+    for (const OutlineNode& node : element.nodes) {
+        if (node.element != nullptr) {
+            collectPieces(outline, *node.element, path, pieces);
+        } else {
+            pieces[combined(path, outline.bytesOf(node))] += outline.bytesOf(node).size();
+        }
+    }
+}
+
+/// The number of bytes that two elements have in common.
+std::size_t commonBytes(const NodeAlignment::Pieces& a, const NodeAlignment::Pieces& b)
+{
+    std::size_t bytes = 0;
+    for (const auto& piece : a) {
+        const auto other = b.find(piece.first);
+        bytes += other != b.end() ? std::min(piece.second, other->second) : 0;
+    }
+    return bytes;
 }
 
 } // namespace
@@ -153,7 +189,7 @@ void NodeAlignment::matchSimilar(Range a, Range b)
     }
     // The best sum of similarities of the first so many.
     const std::size_t width = countB + 1;
-    std::vector<double> best((countA + 1) * width), own(countA * countB);
+    std::vector<std::size_t> best((countA + 1) * width), own(countA * countB);
     for (std::size_t i = 0; i < countA; ++i) {
         for (std::size_t j = 0; j < countB; ++j) {
             own[i * countB + j] = similarity(a.begin + i, b.begin + j);
@@ -181,34 +217,29 @@ void NodeAlignment::matchInTurn(Range a, Range b)
     }
 }
 
-/// 0 for nodes of which neither has become the other.
-double NodeAlignment::similarity(std::size_t a, std::size_t b) const
+/// How much would stay if one node were made of the other; 0 where that cannot be.
+std::size_t NodeAlignment::similarity(std::size_t a, std::size_t b) const
 {
     const OutlineElement* const elementA = nodesBefore[a]->element.get();
     const OutlineElement* const elementB = nodesAfter[b]->element.get();
     if (elementA == nullptr || elementB == nullptr || !haveSameName(*elementA, *elementB)) {
         return 0;
     }
-    const std::string identityA = identityOf(*elementA), identityB = identityOf(*elementB);
-    const double identity = identityA != identityB ? 0 : identityA.empty() ? 2 : 16;
-    return 1 + identity + commonPart(leavesOf(before, *nodesBefore[a]), leavesOf(after, *nodesAfter[b]));
+    // One that has been edited beyond recognition is still the same if it has kept its identifier.
+    const std::string identity = identityOf(*elementA);
+    const bool isKnown = !identity.empty() && identity == identityOf(*elementB);
+    return (isKnown ? identityWeight : 0) +
+           commonBytes(piecesOf(before, *elementA), piecesOf(after, *elementB));
 }
 
-const NodeAlignment::Leaves& NodeAlignment::leavesOf(const XmlOutline& outline, const OutlineNode& node) const
+const NodeAlignment::Pieces& NodeAlignment::piecesOf(const XmlOutline& outline,
+                                                     const OutlineElement& element) const
 {
-    const auto found = leaves.try_emplace(&node);
-    if (found.second) {
-        collectLeaves(outline, node, found.first->second);
+    const auto known = pieces.try_emplace(&element);
+    if (known.second) {
+        collectPieces(outline, element, 0, known.first->second);
     }
-    return found.first->second;
-}
-
-/// How much of two elements is the same, from 0 to 1.
-double NodeAlignment::commonPart(const Leaves& a, const Leaves& b)
-{
-    const auto isCommon = [&b](std::string_view leaf) { return b.count(leaf) != 0; };
-    const auto common = std::count_if(a.begin(), a.end(), isCommon);
-    return static_cast<double>(common) / static_cast<double>(std::max<std::size_t>({1, a.size(), b.size()}));
+    return known.first->second;
 }
 
 } // namespace binding

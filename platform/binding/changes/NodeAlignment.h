@@ -4,9 +4,7 @@
 
 #include <cstddef>
 #include <optional>
-#include <string_view>
 #include <unordered_map>
-#include <unordered_set>
 #include <vector>
 
 namespace citygml {
@@ -18,6 +16,8 @@ class NodeAlignment
 {
 public:
     using Nodes = std::vector<const OutlineNode*>;
+    /// What an element is made of, by hash, and the number of its bytes.
+    using Pieces = std::unordered_map<std::size_t, std::size_t>;
 
     NodeAlignment(const XmlOutline& before, const Nodes& nodesBefore, const XmlOutline& after,
                   const Nodes& nodesAfter);
@@ -36,10 +36,8 @@ private:
     void matchSimilar();
     void matchSimilar(Range a, Range b);
     void matchInTurn(Range a, Range b);
-    using Leaves = std::unordered_set<std::string_view>;
-    double similarity(std::size_t a, std::size_t b) const;
-    const Leaves& leavesOf(const XmlOutline& outline, const OutlineNode& node) const;
-    static double commonPart(const Leaves& a, const Leaves& b);
+    std::size_t similarity(std::size_t a, std::size_t b) const;
+    const Pieces& piecesOf(const XmlOutline& outline, const OutlineElement& element) const;
 
     const XmlOutline& before;
     const Nodes& nodesBefore;
@@ -48,7 +46,7 @@ private:
     // Equal nodes have the same number.
     std::vector<std::size_t> namesBefore, namesAfter;
     std::vector<std::optional<std::size_t>> found;
-    mutable std::unordered_map<const OutlineNode*, Leaves> leaves;
+    mutable std::unordered_map<const OutlineElement*, Pieces> pieces;
 };
 
 } // namespace binding
