@@ -314,5 +314,5 @@ private:
     QVector<Document> documents;
 };
 
-TEST_CLASS(LenientReadingTest, Widgets)
+TEST_CLASS(LenientReadingTest, Core)
 #include "lenientreadingtest.moc"

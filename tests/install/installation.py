@@ -45,8 +45,9 @@ def installed_files():
 
 
 def install():
-    shutil.rmtree(WORK, ignore_errors=True)
     first = os.path.join(WORK, "first")
+    for folder in (first, PREFIX):
+        shutil.rmtree(folder, ignore_errors=True)
     output("cmake", "--install", BUILD, "--prefix", first)
     os.rename(first, PREFIX)
     for path in installed_files():
@@ -135,6 +136,7 @@ def each_header():
 
 
 def build_host(name, folder="examples"):
+    """Builds anew what has changed: what is installed keeps the time of its file."""
     build = os.path.join(WORK, name)
     run("cmake", "-G", "Ninja", "-S", os.path.join(SOURCE, folder, name), "-B", build,
         "-D", "CMAKE_PREFIX_PATH=" + PREFIX, "-D", "CMAKE_BUILD_TYPE=Release", stdout=subprocess.DEVNULL)
