@@ -113,6 +113,10 @@ void CityScene::begin(std::vector<const Feature*> features, const QString& docum
 {
     clear();
     coming = std::move(features);
+    // Some more, for what may be added later.
+    const std::size_t room = coming.size() + coming.size() / 8;
+    table.reserve(room);
+    tileOf.reserve(room);
     folder = DocumentFolder(document);
     surfaceLooks.read(coming, folder);
     lookArrays = std::make_shared<std::vector<LookArrays>>(surfaceLooks.arrays());

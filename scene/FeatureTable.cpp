@@ -79,6 +79,17 @@ FeatureTable::FeatureTable()
     colourTable = makeTable(colourImage, GL_RGBA8, GL_RGBA);
 }
 
+void FeatureTable::reserve(std::size_t count)
+{
+    features.reserve(count);
+    parents.reserve(count);
+    units.reserve(count);
+    lods.reserve(count);
+    states.reserve(count);
+    colours.reserve(count);
+    slotByFeature.reserve(count);
+}
+
 Slot FeatureTable::add(const Feature& feature)
 {
     const auto slot = static_cast<Slot>(features.size());
@@ -89,7 +100,7 @@ Slot FeatureTable::add(const Feature& feature)
     parents.push_back(parent);
     units.push_back(parent != noSlot && isBoundary(feature) ? units[parent] : slot);
     lods.push_back(0);
-    states.push_back(0);
+    states.push_back(parent != noSlot && isSelected(parent) ? SelectedBit : 0);
     const std::uint32_t level = parent != noSlot ? (colours[parent] >> levelShift) + 1 : 0;
     colours.push_back(packed(TypeColours::of(feature)) | std::min(level, deepestLevel) << levelShift);
     slotByFeature[&feature] = slot;

@@ -45,7 +45,10 @@ public:
     FeatureTable(const FeatureTable&) = delete;
     FeatureTable& operator=(const FeatureTable&) = delete;
 
-    /// Adds a feature, the one around it before it.
+    /// Makes room for so many features at once. Growing step by step stands still at each step, longer with
+    /// each.
+    void reserve(std::size_t count);
+    /// Adds a feature, the one around it before it. It is selected where that one is.
     Slot add(const Feature& feature);
     /// Takes a feature out: it is not found any more, and never drawn.
     void remove(Slot slot);
