@@ -30,6 +30,8 @@ constexpr std::size_t tileSize = 2800;
 constexpr double smallestCell = 100;
 /// So many cells may be waiting for more.
 constexpr std::size_t mostCells = 64;
+/// So many steps that take about a microsecond are done without a look at the clock.
+constexpr std::size_t shortSteps = 64;
 /// What no number of a coordinate system comes near; larger ones would be infinite in single precision.
 constexpr double largestCoordinate = 1e15;
 
@@ -118,8 +120,8 @@ void CityScene::begin(std::vector<const Feature*> features, const QString& docum
     table.reserve(room);
     tileOf.reserve(room);
     folder = DocumentFolder(document);
-    surfaceLooks.read(coming, folder);
-    lookArrays = std::make_shared<std::vector<LookArrays>>(surfaceLooks.arrays());
+    surfaceLooks.begin(folder);
+    areLooksRead = false;
     srsName = coming.empty() ? QString() : srsNameOf(*coming.front());
 }
 
@@ -127,12 +129,16 @@ void CityScene::clear()
 {
     workers.clear();
     coming.clear();
+    looked = 0;
+    areLooksRead = true;
     next = 0;
     cells.clear();
     tiles.clear();
+    staleTiles.clear();
+    again.clear();
     tileOf.clear();
     table.clear();
-    surfaceLooks.clear();
+    surfaceLooks.begin(DocumentFolder());
     libraryObjects = LibraryObjects();
     cellSize = smallestCell;
     hasOrigin = false;
@@ -141,21 +147,70 @@ void CityScene::clear()
     top->removeChildren(0, top->getNumChildren());
 }
 
+bool CityScene::hasWork() const
+{
+    return next < coming.size() || !areLooksRead || !again.empty() || !cells.empty() || !staleTiles.empty();
+}
+
 bool CityScene::addSome(int milliseconds)
 {
     QElapsedTimer timer;
     timer.start();
-    while (next < coming.size()) {
-        addFeature(*coming[next++]);
-        // The clock is asked seldom enough not to count.
-        if (next % 16 == 0 && timer.elapsed() >= milliseconds) {
-            return true;
+    while (hasWork() && timer.elapsed() < milliseconds) {
+        workOn();
+    }
+    return hasWork();
+}
+
+/// Does a step of what is to be done, which takes a millisecond at most unless a feature is very large.
+void CityScene::workOn()
+{
+    if (looked < coming.size()) {
+        lookForAppearances();
+    } else if (!areLooksRead) {
+        readLooks();
+    } else if (next < coming.size()) {
+        addNext();
+    } else if (!again.empty()) {
+        addAgain(again.front());
+        again.pop_front();
+    } else if (!cells.empty()) {
+        sendAll();
+    } else {
+        rebuildTile(staleTiles.front());
+        staleTiles.pop_front();
+    }
+}
+
+void CityScene::lookForAppearances()
+{
+    const std::size_t end = std::min(coming.size(), looked + shortSteps);
+    for (; looked < end; ++looked) {
+        if (coming[looked] != nullptr) {
+            surfaceLooks.note(*coming[looked]);
         }
     }
-    sendAll();
-    coming.clear();
-    next = 0;
-    return false;
+}
+
+void CityScene::readLooks()
+{
+    for (std::size_t step = 0; step < shortSteps && !areLooksRead; ++step) {
+        areLooksRead = !surfaceLooks.readNext();
+    }
+    if (areLooksRead) {
+        lookArrays = std::make_shared<std::vector<LookArrays>>(surfaceLooks.arrays());
+    }
+}
+
+void CityScene::addNext()
+{
+    if (const Feature* const feature = coming[next++]) {
+        addFeature(*feature);
+    }
+    if (next == coming.size()) {
+        coming = std::vector<const Feature*>();
+        looked = next = 0;
+    }
 }
 
 void CityScene::addAll()
@@ -179,6 +234,23 @@ void CityScene::addFeature(const Feature& feature)
     tileOf.push_back(noTile);
     Batch batch;
     append(slot, feature, batch);
+    addToCell(slot, std::move(batch));
+}
+
+/// Adds what a feature has to draw now that had nothing.
+void CityScene::addAgain(Slot slot)
+{
+    const Feature* const feature = table.featureOf(slot);
+    if (feature != nullptr && tileOf[slot] == noTile) {
+        Batch batch;
+        table.clearLods(slot);
+        append(slot, *feature, batch);
+        addToCell(slot, std::move(batch));
+    }
+}
+
+void CityScene::addToCell(Slot slot, Batch batch)
+{
     if (batch.patches.empty()) {
         return;
     }
@@ -320,14 +392,17 @@ void CityScene::appendLibraryObject(Slot slot, const GeometryPiece& piece, Batch
 
 void CityScene::send(Pending pending)
 {
-    const std::size_t tile = tiles.size();
+    const std::size_t number = tiles.size();
     for (const Slot slot : pending.members) {
-        tileOf[slot] = tile;
+        tileOf[slot] = number;
     }
     // Of surfaces upon each other the first is seen: the order must not depend on which tile is ready first.
-    tiles.push_back({std::move(pending.members), new osg::MatrixTransform, 0, 0});
-    top->addChild(tiles.back().node);
-    workers.add(tile, std::move(pending.batch), lookArrays);
+    Tile tile;
+    tile.members = std::move(pending.members);
+    tile.node = new osg::MatrixTransform;
+    top->addChild(tile.node);
+    workers.add(number, tile.version, std::move(pending.batch), lookArrays);
+    tiles.push_back(std::move(tile));
 }
 
 /// Makes tiles of what has not been enough for one, neighbours together.
@@ -341,11 +416,15 @@ void CityScene::sendAll()
 
 bool CityScene::takeFinished()
 {
-    std::vector<TileWorkers::Result> results = workers.take();
-    for (TileWorkers::Result& result : results) {
-        show(tiles[result.tile], std::move(result.mesh));
+    bool isNew = false;
+    for (TileWorkers::Result& result : workers.take()) {
+        Tile& tile = tiles[result.tile];
+        if (result.version == tile.version) {
+            show(tile, std::move(result.mesh));
+            isNew = true;
+        }
     }
-    return !results.empty();
+    return isNew;
 }
 
 void CityScene::show(Tile& tile, TileMesh mesh)
@@ -364,29 +443,55 @@ void CityScene::show(Tile& tile, TileMesh mesh)
     tile.degenerate = mesh.degenerate;
 }
 
+/// Has a tile made anew. What is under way of it is not shown any more: it may be of looks that are gone.
+void CityScene::makeStale(std::size_t number)
+{
+    Tile& tile = tiles[number];
+    ++tile.version;
+    if (!tile.isStale) {
+        tile.isStale = true;
+        staleTiles.push_back(number);
+    }
+}
+
+void CityScene::makeAllStale()
+{
+    areLooksRead = false;
+    sendAll();
+    for (std::size_t number = 0; number < tiles.size(); ++number) {
+        makeStale(number);
+    }
+}
+
 void CityScene::rebuildTile(std::size_t number)
 {
     Tile& tile = tiles[number];
+    tile.isStale = false;
     Batch batch;
     for (const Slot slot : tile.members) {
         table.clearLods(slot);
         append(slot, *table.featureOf(slot), batch);
     }
-    show(tile, buildTile(batch, *lookArrays));
+    workers.add(number, tile.version, std::move(batch), lookArrays);
 }
 
 void CityScene::add(const Feature& feature)
 {
-    addFeature(feature);
-    sendAll();
+    if (surfaceLooks.note(feature)) {
+        setTheme(surfaceLooks.theme(), surfaceLooks.isShown());
+    }
+    coming.push_back(&feature);
 }
 
 void CityScene::remove(const Feature& feature)
 {
+    if (surfaceLooks.forget(feature)) {
+        setTheme(surfaceLooks.theme(), surfaceLooks.isShown());
+    }
     const Slot slot = table.slotOf(&feature);
     if (slot == noSlot) {
-        coming.erase(std::remove(coming.begin() + static_cast<std::ptrdiff_t>(next), coming.end(), &feature),
-                     coming.end());
+        std::replace(coming.begin() + static_cast<std::ptrdiff_t>(next), coming.end(), &feature,
+                     static_cast<const Feature*>(nullptr));
         return;
     }
     table.remove(slot);
@@ -400,34 +505,27 @@ void CityScene::remove(const Feature& feature)
 void CityScene::rebuild(const Feature& feature)
 {
     const Slot slot = table.slotOf(&feature);
+    if (surfaceLooks.note(feature)) {
+        setTheme(surfaceLooks.theme(), surfaceLooks.isShown());
+    }
     if (slot == noSlot) {
         return;
     }
-    while (workers.awaited() > 0) {
-        workers.wait();
-        takeFinished();
+    if (tileOf[slot] == noTile) {
+        // It may wait for the end of its tile.
+        sendAll();
     }
-    sendAll();
     if (tileOf[slot] != noTile) {
-        rebuildTile(tileOf[slot]);
-        return;
-    }
-    // It had nothing to draw until now.
-    Pending pending;
-    append(slot, feature, pending.batch);
-    if (!pending.batch.patches.empty()) {
-        pending.members.push_back(slot);
-        send(std::move(pending));
+        makeStale(tileOf[slot]);
+    } else {
+        again.push_back(slot);
     }
 }
 
 void CityScene::setTheme(const QString& theme, bool isShown)
 {
     surfaceLooks.setTheme(theme, isShown);
-    lookArrays = std::make_shared<std::vector<LookArrays>>(surfaceLooks.arrays());
-    for (std::size_t tile = 0; tile < tiles.size(); ++tile) {
-        rebuildTile(tile);
-    }
+    makeAllStale();
 }
 
 CityScene::Counts CityScene::counts() const

@@ -6,6 +6,7 @@
 #include "scene/TileWorkers.h"
 
 #include <array>
+#include <deque>
 #include <map>
 #include <memory>
 #include <osg/BoundingBox>
@@ -50,8 +51,9 @@ public:
     /// \param features all of it, a feature before those below it
     /// \param document path of its file, beside which pictures are looked for
     void begin(std::vector<const Feature*> features, const QString& document);
-    /// Goes on adding features to the scene, for about so long.
-    /// \return whether there are more to add
+    /// Goes on adding features to the scene, and taking over what has changed in those that are there, for
+    /// about so long.
+    /// \return whether there is more to do
     bool addSome(int milliseconds);
     /// Puts the tiles that are ready into the scene.
     /// \return whether there were any
@@ -60,8 +62,8 @@ public:
     void waitForTile() { workers.wait(); }
     /// Adds everything and waits for it.
     void addAll();
-    /// Whether there are features to add or tiles to wait for.
-    bool isBusy() const { return next < coming.size() || workers.awaited() > 0; }
+    /// Whether there is something to add or to take over, or tiles to wait for.
+    bool isBusy() const { return hasWork() || workers.awaited() > 0; }
     /// How many of the features have been added, from 0 to 1.
     double progress() const;
     /// Forgets the document.
@@ -69,11 +71,12 @@ public:
 
     /// Adds a feature that has come into the document.
     void add(const Feature& feature);
-    /// Takes a feature out of the scene. The features below it stay.
+    /// Takes a feature out of the scene, before it goes. The features below it stay.
     void remove(const Feature& feature);
-    /// Makes anew what is drawn of a feature.
+    /// Has anew what is drawn of a feature; of everything, if the feature is an appearance. addSome() does
+    /// it.
     void rebuild(const Feature& feature);
-    /// Uses another theme of the document's appearances, or none, and makes everything anew.
+    /// Uses another theme of the document's appearances, or none. addSome() makes everything anew.
     void setTheme(const QString& theme, bool isShown);
 
     FeatureTable& features() { return table; }
@@ -100,6 +103,9 @@ private:
         osg::ref_ptr<osg::MatrixTransform> node;
         std::size_t triangles = 0;
         std::size_t degenerate = 0;
+        /// Counts how often the tile has been sent; what comes of earlier times is not wanted any more.
+        unsigned version = 0;
+        bool isStale = false;
     };
     /// What has come of a place in the city, until it is enough for a tile.
     struct Pending
@@ -109,7 +115,14 @@ private:
     };
     using Cell = std::array<long, 2>;
 
+    bool hasWork() const;
+    void workOn();
+    void lookForAppearances();
+    void readLooks();
+    void addNext();
     void addFeature(const Feature& feature);
+    void addAgain(Slot slot);
+    void addToCell(Slot slot, Batch batch);
     static void join(Batch& batch, Batch more);
     void enlargeCells();
     void append(Slot slot, const Feature& feature, Batch& batch);
@@ -119,13 +132,25 @@ private:
     void send(Pending pending);
     void sendAll();
     void show(Tile& tile, TileMesh mesh);
+    void makeStale(std::size_t tile);
+    void makeAllStale();
     void rebuildTile(std::size_t tile);
 
+    /// Of a document that has begun, in the order in which it is done: features are looked at for
+    /// appearances, those are read, and features are added. Removed ones are null.
+    /// @{
     std::vector<const Feature*> coming;
+    std::size_t looked = 0;
+    bool areLooksRead = true;
     std::size_t next = 0;
+    /// @}
     std::map<Cell, Pending> cells;
     double cellSize = 0;
     std::vector<Tile> tiles;
+    /// Those of the tiles that are to be made anew.
+    std::deque<std::size_t> staleTiles;
+    /// Features that had nothing to draw and may have now.
+    std::deque<Slot> again;
     /// The tile that a feature is drawn in; noTile for one that is in none.
     std::vector<std::size_t> tileOf;
     TileWorkers workers;

@@ -16,6 +16,8 @@ namespace {
 constexpr int longestSide = 8192;
 /// A file of few bytes can claim to be a picture of any size.
 constexpr qint64 mostPixels = 400'000'000;
+const QList<QByteArray> rasterFormats = {"png", "jpeg", "jpg", "gif", "bmp", "tiff", "tif", "webp",
+                                         "tga", "pbm",  "pgm", "ppm", "xbm", "xpm",  "ico", "jp2"};
 
 /// The path that an address of a document means; empty for one of a network.
 QString localPathOf(const QString& uri)
@@ -26,6 +28,27 @@ QString localPathOf(const QString& uri)
         return url.toLocalFile();
     }
     return url.scheme().size() > 1 ? QString() : QString(uri).replace('\\', '/');
+}
+
+osg::ref_ptr<osg::Image> readImage(const QString& path)
+{
+    QImageReader reader(path);
+    reader.setDecideFormatFromContent(true);
+    QImage image = reader.read();
+    if (image.isNull()) {
+        return nullptr;
+    }
+    if (std::max(image.width(), image.height()) > longestSide) {
+        image = image.scaled(longestSide, longestSide, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    }
+    image = image.convertToFormat(QImage::Format_RGBA8888).mirrored();
+    osg::ref_ptr<osg::Image> result = new osg::Image;
+    result->allocateImage(image.width(), image.height(), 1, GL_RGBA, GL_UNSIGNED_BYTE);
+    for (int y = 0; y < image.height(); ++y) {
+        std::memcpy(result->data(0, static_cast<unsigned>(y)), image.constScanLine(y),
+                    static_cast<std::size_t>(image.width()) * 4);
+    }
+    return result;
 }
 
 bool isBelow(const QString& path, const QString& folder)
@@ -70,29 +93,28 @@ QString DocumentFolder::find(const QString& uri) const
     return QString();
 }
 
-osg::ref_ptr<osg::Image> readImage(const QString& path)
+Picture::Picture(QString file) : path(std::move(file))
 {
+    if (path.isEmpty()) {
+        return;
+    }
     QImageReader reader(path);
     reader.setDecideFormatFromContent(true);
     const QSize size = reader.size();
-    if (static_cast<qint64>(size.width()) * size.height() > mostPixels) {
-        return nullptr;
+    if (reader.canRead() && rasterFormats.contains(reader.format()) &&
+        static_cast<qint64>(size.width()) * size.height() <= mostPixels) {
+        ownSize = size;
     }
-    QImage image = reader.read();
-    if (image.isNull()) {
-        return nullptr;
-    }
-    if (std::max(image.width(), image.height()) > longestSide) {
-        image = image.scaled(longestSide, longestSide, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-    }
-    image = image.convertToFormat(QImage::Format_RGBA8888).mirrored();
-    osg::ref_ptr<osg::Image> result = new osg::Image;
-    result->allocateImage(image.width(), image.height(), 1, GL_RGBA, GL_UNSIGNED_BYTE);
-    for (int y = 0; y < image.height(); ++y) {
-        std::memcpy(result->data(0, static_cast<unsigned>(y)), image.constScanLine(y),
-                    static_cast<std::size_t>(image.width()) * 4);
-    }
-    return result;
+}
+
+const osg::ref_ptr<osg::Image>& Picture::image() const
+{
+    std::call_once(isRead, [this] {
+        if (!ownSize.isEmpty()) {
+            read = readImage(path);
+        }
+    });
+    return read;
 }
 
 } // namespace tolvik::scene

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <mutex>
 #include <osg/Image>
 #include <osg/ref_ptr>
+#include <QSize>
 #include <QString>
 #include <QStringList>
 
@@ -23,8 +25,25 @@ private:
     QStringList folders;
 };
 
-/// Reads a picture, and turns it as OpenGL wants it. Pictures larger than 8192 pixels a side are reduced.
-/// \return null for a file that is no picture
-osg::ref_ptr<osg::Image> readImage(const QString& path);
+/// A picture in a file, which is read when it is first asked for. For any number of threads. Of formats that
+/// are made of pixels alone: others name further files.
+class Picture
+{
+public:
+    /// \param path of a file; empty for a picture that was not found
+    explicit Picture(QString path);
+
+    /// Width and height that the file tells of itself; empty for a file that is no picture.
+    const QSize& size() const { return ownSize; }
+    /// The picture, turned as OpenGL wants it. One larger than 8192 pixels a side is reduced.
+    /// \return null where it cannot be read
+    const osg::ref_ptr<osg::Image>& image() const;
+
+private:
+    QString path;
+    QSize ownSize;
+    mutable std::once_flag isRead;
+    mutable osg::ref_ptr<osg::Image> read;
+};
 
 } // namespace tolvik::scene

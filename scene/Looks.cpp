@@ -108,40 +108,62 @@ std::optional<WorldFile> worldFileOf(const app::GeoreferencedTextureType& textur
 
 } // namespace
 
-void Looks::read(const std::vector<const gml::AbstractFeatureType*>& features,
-                 const DocumentFolder& documentFolder)
+void Looks::begin(const DocumentFolder& documentFolder)
 {
     folder = documentFolder;
     appearances.clear();
+    numbers.clear();
     themeNames.clear();
-    images.clear();
-    for (const gml::AbstractFeatureType* feature : features) {
-        if (const auto* const appearance = dynamic_cast<const app::AppearanceType*>(feature)) {
-            appearances.push_back(appearance);
-            const QString theme = themeOf(*appearance);
-            if (!themeNames.contains(theme)) {
-                themeNames << theme;
-            }
-        }
-    }
-    shownTheme = themeNames.value(0);
-    rebuild();
+    shownTheme.clear();
+    isThemeShown = true;
+    pictures.clear();
+    restart();
 }
 
-void Looks::clear()
+bool Looks::note(const gml::AbstractFeatureType& feature)
 {
-    read({}, DocumentFolder());
+    const auto* const appearance = dynamic_cast<const app::AppearanceType*>(&feature);
+    if (appearance == nullptr) {
+        return false;
+    }
+    if (numbers.emplace(appearance, appearances.size()).second) {
+        appearances.push_back(appearance);
+    }
+    noteTheme(themeOf(*appearance));
+    return true;
+}
+
+void Looks::noteTheme(const QString& theme)
+{
+    if (themeNames.isEmpty()) {
+        shownTheme = theme;
+    }
+    if (!themeNames.contains(theme)) {
+        themeNames << theme;
+    }
+}
+
+bool Looks::forget(const gml::AbstractFeatureType& feature)
+{
+    const auto found = numbers.find(&feature);
+    if (found == numbers.end()) {
+        return false;
+    }
+    appearances[found->second] = nullptr;
+    numbers.erase(found);
+    return true;
 }
 
 void Looks::setTheme(const QString& theme, bool isShown)
 {
     shownTheme = theme;
     isThemeShown = isShown;
-    rebuild();
+    restart();
 }
 
-void Looks::rebuild()
+void Looks::restart()
 {
+    cursor = Cursor();
     kinds = {LookArrays()};
     textures.clear();
     states.clear();
@@ -150,32 +172,52 @@ void Looks::rebuild()
     ringPlaces.clear();
     placeLists.clear();
     missingImages.clear();
-    for (const app::AppearanceType* appearance : appearances) {
-        if (isThemeShown && themeOf(*appearance) == shownTheme) {
-            add(*appearance);
-        }
-    }
 }
 
-void Looks::add(const app::AppearanceType& appearance)
+bool Looks::isInTheme(const app::AppearanceType& appearance) const
 {
-    for (const auto& member : appearance.surfaceDataMember()) {
-        const app::AbstractSurfaceDataType* const data = surfaceDataOf(member);
-        // Of surfaces with two sides the front is shown.
-        if (data == nullptr || (data->isFront().present() && !data->isFront().get())) {
-            continue;
-        }
-        if (const auto* const material = dynamic_cast<const app::X3DMaterialType*>(data)) {
-            addMaterial(*material);
-        } else if (const auto* const texture = dynamic_cast<const app::ParameterizedTextureType*>(data)) {
-            addTexture(*texture);
-        } else if (const auto* const ground = dynamic_cast<const app::GeoreferencedTextureType*>(data)) {
-            addTexture(*ground);
-        }
-    }
+    return isThemeShown && themeOf(appearance) == shownTheme;
 }
 
-void Looks::addMaterial(const app::X3DMaterialType& material)
+bool Looks::readNext()
+{
+    if (cursor.appearance == appearances.size()) {
+        return false;
+    }
+    const app::AppearanceType* const appearance = appearances[cursor.appearance];
+    if (appearance == nullptr || !isInTheme(*appearance) ||
+        cursor.member >= appearance->surfaceDataMember().size()) {
+        cursor = {cursor.appearance + 1, 0, 0, noLook};
+        return true;
+    }
+    const app::AbstractSurfaceDataType* const data =
+        surfaceDataOf(appearance->surfaceDataMember()[cursor.member]);
+    if (data != nullptr && cursor.target == 0) {
+        cursor.look = addLook(*data);
+    }
+    if (data != nullptr && cursor.look != noLook && addTarget(*data, cursor.target)) {
+        ++cursor.target;
+    } else {
+        cursor = {cursor.appearance, cursor.member + 1, 0, noLook};
+    }
+    return true;
+}
+
+/// \return noLook for what is not shown
+std::uint32_t Looks::addLook(const app::AbstractSurfaceDataType& data)
+{
+    // Of surfaces with two sides the front is shown.
+    if (data.isFront().present() && !data.isFront().get()) {
+        return noLook;
+    }
+    if (const auto* const material = dynamic_cast<const app::X3DMaterialType*>(&data)) {
+        return addMaterialLook(*material);
+    }
+    const auto* const texture = dynamic_cast<const app::AbstractTextureType*>(&data);
+    return texture != nullptr ? addTextureLook(*texture) : noLook;
+}
+
+std::uint32_t Looks::addMaterialLook(const app::X3DMaterialType& material)
 {
     // What the schema says of a material without a colour.
     std::array<double, 3> colour = {0.8, 0.8, 0.8};
@@ -184,12 +226,10 @@ void Looks::addMaterial(const app::X3DMaterialType& material)
     }
     const double clear =
         material.transparency().present() ? static_cast<double>(*material.transparency()) : 0;
-    const auto look = static_cast<std::uint32_t>(kinds.size());
-    kinds.push_back(
-        {LookKind::Material, {byteOf(colour[0]), byteOf(colour[1]), byteOf(colour[2]), byteOf(1 - clear)}});
-    for (const auto& target : material.target()) {
-        materialTargets[objectOf(material, target)] = {look, nullptr};
-    }
+    kinds.push_back({LookKind::Material,
+                     {byteOf(colour[0]), byteOf(colour[1]), byteOf(colour[2]), byteOf(1 - clear)},
+                     nullptr});
+    return static_cast<std::uint32_t>(kinds.size() - 1);
 }
 
 std::uint32_t Looks::addTextureLook(const app::AbstractTextureType& texture)
@@ -203,38 +243,61 @@ std::uint32_t Looks::addTextureLook(const app::AbstractTextureType& texture)
         std::copy_n(texture.borderColor()->begin(), std::min<std::size_t>(4, texture.borderColor()->size()),
                     made.border.begin());
     }
-    auto found = images.find(made.uri);
-    if (found == images.end()) {
-        const QString path = folder.find(made.uri);
-        found = images.emplace(made.uri, path.isEmpty() ? nullptr : readImage(path)).first;
+    std::shared_ptr<Picture>& picture = pictures[made.uri];
+    if (picture == nullptr) {
+        picture = std::make_shared<Picture>(folder.find(made.uri));
     }
-    made.image = found->second;
-    if (made.image == nullptr) {
-        if (!missingImages.contains(made.uri)) {
-            missingImages << made.uri;
-        }
+    if (picture->size().isEmpty()) {
+        noteMissing(made.uri);
         return noLook;
     }
+    made.picture = picture;
+    if (const auto* const ground = dynamic_cast<const app::GeoreferencedTextureType*>(&texture)) {
+        made.ground = worldMatrixOf(*ground, made);
+        if (made.ground == nullptr) {
+            return noLook;
+        }
+    }
     const auto look = static_cast<std::uint32_t>(kinds.size());
-    kinds.push_back({LookKind::Texture, {255, 255, 255, 255}});
+    kinds.push_back({LookKind::Texture, {255, 255, 255, 255}, picture});
     textures[look] = made;
     return look;
 }
 
-void Looks::addTexture(const app::ParameterizedTextureType& texture)
+void Looks::noteMissing(const QString& uri)
 {
-    const std::uint32_t look = addTextureLook(texture);
-    if (look == noLook) {
-        return;
-    }
-    for (const app::TextureAssociationType& association : texture.target()) {
-        addAssociation(association, look);
+    if (!missingImages.contains(uri)) {
+        missingImages << uri;
     }
 }
 
-void Looks::addAssociation(const app::TextureAssociationType& association, std::uint32_t look)
+/// Adds a target to the look that is being read.
+/// \return false where there is none of that number
+bool Looks::addTarget(const app::AbstractSurfaceDataType& data, std::size_t number)
 {
-    Target target = {look, nullptr};
+    if (const auto* const material = dynamic_cast<const app::X3DMaterialType*>(&data)) {
+        if (number < material->target().size()) {
+            materialTargets[objectOf(data, material->target()[number])] = {cursor.look, nullptr};
+            return true;
+        }
+    } else if (const auto* const ground = dynamic_cast<const app::GeoreferencedTextureType*>(&data)) {
+        if (number < ground->target().size()) {
+            textureTargets[objectOf(data, ground->target()[number])] = {cursor.look,
+                                                                        textures[cursor.look].ground};
+            return true;
+        }
+    } else if (const auto* const texture = dynamic_cast<const app::ParameterizedTextureType*>(&data)) {
+        if (number < texture->target().size()) {
+            addAssociation(texture->target()[number]);
+            return true;
+        }
+    }
+    return false;
+}
+
+void Looks::addAssociation(const app::TextureAssociationType& association)
+{
+    Target target = {cursor.look, nullptr};
     const xml_schema::type* parameters = nullptr;
     if (association._TextureParameterization().present()) {
         parameters = &*association._TextureParameterization();
@@ -257,20 +320,6 @@ void Looks::addAssociation(const app::TextureAssociationType& association, std::
     textureTargets[objectOf(association, association.uri())] = target;
 }
 
-void Looks::addTexture(const app::GeoreferencedTextureType& texture)
-{
-    const std::uint32_t look = addTextureLook(texture);
-    if (look == noLook) {
-        return;
-    }
-    const std::shared_ptr<Matrix> matrix = worldMatrixOf(texture, textures[look]);
-    for (const auto& target : texture.target()) {
-        if (matrix != nullptr) {
-            textureTargets[objectOf(texture, target)] = {look, matrix};
-        }
-    }
-}
-
 /// Takes a position to its place in a picture that lies flat on the ground; null where nothing says how.
 std::shared_ptr<Looks::Matrix> Looks::worldMatrixOf(const app::GeoreferencedTextureType& texture,
                                                     const Texture& made) const
@@ -284,8 +333,8 @@ std::shared_ptr<Looks::Matrix> Looks::worldMatrixOf(const app::GeoreferencedText
     if (area == 0) {
         return nullptr;
     }
-    const double width = made.image->s();
-    const double height = made.image->t();
+    const double width = made.picture->size().width();
+    const double height = made.picture->size().height();
     const auto& [right, down, corner] = *world;
     // Columns and rows are counted from the centre of the upper left pixel.
     const std::array<double, 2> column = {down[1] / area, -down[0] / area};
@@ -350,6 +399,26 @@ void Looks::appendPlaces(const citygml::GeometryPiece& piece, std::uint32_t look
     }
 }
 
+/// Has surfaces painted with a picture.
+void Looks::setTexture(osg::StateSet& state, const Texture& texture)
+{
+    osg::ref_ptr<osg::Texture2D> picture = new osg::Texture2D(texture.picture->image());
+    const auto wrap = texture.wrapMode == "mirror"   ? osg::Texture::MIRROR
+                      : texture.wrapMode == "clamp"  ? osg::Texture::CLAMP_TO_EDGE
+                      : texture.wrapMode == "border" ? osg::Texture::CLAMP_TO_BORDER
+                      : texture.wrapMode == "none"   ? osg::Texture::CLAMP_TO_EDGE
+                                                     : osg::Texture::REPEAT;
+    picture->setWrap(osg::Texture::WRAP_S, wrap);
+    picture->setWrap(osg::Texture::WRAP_T, wrap);
+    picture->setBorderColor(
+        osg::Vec4d(texture.border[0], texture.border[1], texture.border[2], texture.border[3]));
+    picture->setResizeNonPowerOfTwoHint(false);
+    state.setTextureAttribute(pictureUnit, picture);
+    state.addUniform(new osg::Uniform("look", int(TextureLook)));
+    // Nothing is painted beside such a picture.
+    state.addUniform(new osg::Uniform("isBounded", texture.wrapMode == "none"));
+}
+
 osg::ref_ptr<osg::StateSet> Looks::stateOf(std::uint32_t look)
 {
     osg::ref_ptr<osg::StateSet>& state = states[look];
@@ -363,23 +432,12 @@ osg::ref_ptr<osg::StateSet> Looks::stateOf(std::uint32_t look)
             state->setAttributeAndModes(new osg::BlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA));
             state->setRenderingHint(osg::StateSet::TRANSPARENT_BIN);
         }
-    } else if (kinds[look].kind == LookKind::Texture) {
-        const Texture& texture = textures[look];
-        osg::ref_ptr<osg::Texture2D> picture = new osg::Texture2D(texture.image);
-        const auto wrap = texture.wrapMode == "mirror"   ? osg::Texture::MIRROR
-                          : texture.wrapMode == "clamp"  ? osg::Texture::CLAMP_TO_EDGE
-                          : texture.wrapMode == "border" ? osg::Texture::CLAMP_TO_BORDER
-                          : texture.wrapMode == "none"   ? osg::Texture::CLAMP_TO_EDGE
-                                                         : osg::Texture::REPEAT;
-        picture->setWrap(osg::Texture::WRAP_S, wrap);
-        picture->setWrap(osg::Texture::WRAP_T, wrap);
-        picture->setBorderColor(
-            osg::Vec4d(texture.border[0], texture.border[1], texture.border[2], texture.border[3]));
-        picture->setResizeNonPowerOfTwoHint(false);
-        state->setTextureAttribute(pictureUnit, picture);
-        state->addUniform(new osg::Uniform("look", int(TextureLook)));
-        // Nothing is painted beside such a picture.
-        state->addUniform(new osg::Uniform("isBounded", texture.wrapMode == "none"));
+    } else if (kinds[look].kind == LookKind::Texture && textures[look].picture->image() != nullptr) {
+        setTexture(*state, textures[look]);
+    } else {
+        // Its file began like a picture.
+        noteMissing(textures[look].uri);
+        state->addUniform(new osg::Uniform("look", int(FeatureLook)));
     }
     return state;
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "scene/Images.h"
 #include "scene/TileMesh.h"
 
 #include <array>
@@ -13,6 +12,7 @@
 #include <vector>
 
 namespace app {
+class AbstractSurfaceDataType;
 class AbstractTextureType;
 class AppearanceType;
 class GeoreferencedTextureType;
@@ -28,20 +28,37 @@ class AbstractFeatureType;
 namespace tolvik::scene {
 
 /// The materials and textures that a document gives to its surfaces, for one theme at a time.
+/// \code
+/// looks.begin(folder);
+/// for (feature of the document) {
+///     looks.note(feature);
+/// }
+/// while (looks.readNext()) {
+/// }
+/// \endcode
 class Looks
 {
 public:
-    /// Finds the themes of a document.
-    /// \param features all features of the document
-    /// \param folder   where the pictures lie
-    void read(const std::vector<const gml::AbstractFeatureType*>& features, const DocumentFolder& folder);
-    void clear();
+    /// Begins with another document.
+    /// \param folder where the pictures lie
+    void begin(const DocumentFolder& folder);
+    /// Takes note of a feature. Nothing but appearances matters.
+    /// \return whether it is one, so that everything is to be read anew
+    bool note(const gml::AbstractFeatureType& feature);
+    /// Forgets a feature that goes.
+    /// \return whether it is an appearance, so that everything is to be read anew
+    bool forget(const gml::AbstractFeatureType& feature);
+    /// Begins to read the theme in use anew.
+    void restart();
+    /// Reads the next target of the theme in use. It takes no longer, however large an appearance is.
+    /// \return whether there are more
+    bool readNext();
 
     /// Names of the themes in the order of the document; that of appearances without a name is empty.
     const QStringList& themes() const { return themeNames; }
     /// The theme in use: the first at first.
     const QString& theme() const { return shownTheme; }
-    /// Uses the appearances of another theme, or none.
+    /// Uses the appearances of another theme, or none, which are to be read.
     void setTheme(const QString& theme, bool isShown = true);
     bool isShown() const { return isThemeShown; }
 
@@ -57,7 +74,8 @@ public:
     /// How faces of a look are drawn. Made when it is first asked for; used on one thread.
     osg::ref_ptr<osg::StateSet> stateOf(std::uint32_t look);
 
-    /// The pictures, as the document names them, that were not found or could not be read.
+    /// The pictures, as the document names them, that were not found or could not be read. Some may turn out
+    /// only when they are drawn.
     const QStringList& missing() const { return missingImages; }
 
 private:
@@ -67,9 +85,9 @@ private:
         QString uri;
         QString wrapMode;
         std::array<float, 4> border = {0, 0, 0, 0};
-        osg::ref_ptr<osg::Image> image;
-        /// Of a texture that is laid over the ground: takes a position to columns and rows of the picture.
-        std::shared_ptr<Matrix> world;
+        std::shared_ptr<Picture> picture;
+        /// Of one that is laid over the ground: takes a position to its place in the picture.
+        std::shared_ptr<Matrix> ground;
     };
     struct Target
     {
@@ -77,28 +95,42 @@ private:
         /// Takes a position to a place in the texture; null where rings tell the places.
         std::shared_ptr<Matrix> matrix;
     };
+    /// Where the reading is.
+    struct Cursor
+    {
+        std::size_t appearance = 0;
+        std::size_t member = 0;
+        std::size_t target = 0;
+        /// That of the member.
+        std::uint32_t look = 0;
+    };
 
-    void rebuild();
-    void add(const app::AppearanceType& appearance);
-    void addMaterial(const app::X3DMaterialType& material);
-    void addTexture(const app::ParameterizedTextureType& texture);
-    void addTexture(const app::GeoreferencedTextureType& texture);
-    void addAssociation(const app::TextureAssociationType& association, std::uint32_t look);
+    bool isInTheme(const app::AppearanceType& appearance) const;
+    std::uint32_t addLook(const app::AbstractSurfaceDataType& data);
+    std::uint32_t addMaterialLook(const app::X3DMaterialType& material);
     std::uint32_t addTextureLook(const app::AbstractTextureType& texture);
+    bool addTarget(const app::AbstractSurfaceDataType& data, std::size_t number);
+    void addAssociation(const app::TextureAssociationType& association);
+    static void setTexture(osg::StateSet& state, const Texture& texture);
+    void noteTheme(const QString& theme);
+    void noteMissing(const QString& uri);
     std::shared_ptr<Matrix> worldMatrixOf(const app::GeoreferencedTextureType& texture,
                                           const Texture& made) const;
     const Target* targetOf(const citygml::GeometryPiece& piece) const;
 
     DocumentFolder folder;
+    /// In the order of the document; null for one that has gone.
     std::vector<const app::AppearanceType*> appearances;
+    std::unordered_map<const gml::AbstractFeatureType*, std::size_t> numbers;
     QStringList themeNames;
     QString shownTheme;
     bool isThemeShown = true;
+    Cursor cursor;
 
     std::vector<LookArrays> kinds = {LookArrays()};
     std::map<std::uint32_t, Texture> textures;
     std::map<std::uint32_t, osg::ref_ptr<osg::StateSet>> states;
-    std::map<QString, osg::ref_ptr<osg::Image>> images;
+    std::map<QString, std::shared_ptr<Picture>> pictures;
     std::unordered_map<const void*, Target> materialTargets;
     std::unordered_map<const void*, Target> textureTargets;
     /// Of each ring: two numbers for each position.

@@ -247,6 +247,9 @@ private:
         }
         if (found == open.end()) {
             const LookArrays kind = look < looks.size() ? looks[look] : LookArrays();
+            if (kind.picture != nullptr) {
+                kind.picture->image();
+            }
             found = open.try_emplace(look, kind, look).first;
         }
         return found->second;

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "scene/Batch.h"
+#include "scene/Images.h"
 
+#include <memory>
 #include <osg/Array>
 #include <osg/Geometry>
 #include <osg/MatrixTransform>
@@ -18,6 +20,8 @@ struct LookArrays
     LookKind kind = LookKind::None;
     /// Of a material: red, green, blue, opacity.
     std::array<std::uint8_t, 4> colour = {255, 255, 255, 255};
+    /// Of a texture.
+    std::shared_ptr<const Picture> picture;
 };
 
 /// Where the attributes of a vertex are bound, besides its position.
@@ -50,7 +54,8 @@ struct TileMesh
     std::size_t degenerate = 0;
 };
 
-/// Cuts the surfaces of a batch into triangles. For any thread.
+/// Cuts the surfaces of a batch into triangles, and reads the pictures that are painted upon them, which may
+/// take longer. For any thread.
 ///
 /// A vertex carries the number of its feature and its level of detail, as vertexTag() makes it, so that
 /// the shader finds the feature's state.

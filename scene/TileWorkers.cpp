@@ -18,12 +18,12 @@ TileWorkers::~TileWorkers()
     }
 }
 
-void TileWorkers::add(std::size_t tile, Batch batch, const Looks& looks)
+void TileWorkers::add(std::size_t tile, unsigned version, Batch batch, const Looks& looks)
 {
     start();
     {
         const std::lock_guard<std::mutex> lock(mutex);
-        jobs.push_back({tile, std::move(batch), looks, round});
+        jobs.push_back({tile, version, std::move(batch), looks, round});
     }
     jobsChanged.notify_one();
 }
@@ -79,7 +79,7 @@ void TileWorkers::run()
         lock.lock();
         --running;
         if (job.round == round) {
-            results.push_back({job.tile, std::move(mesh)});
+            results.push_back({job.tile, job.version, std::move(mesh)});
         }
         resultsChanged.notify_all();
     }

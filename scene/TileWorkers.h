@@ -19,6 +19,7 @@ public:
     struct Result
     {
         std::size_t tile = 0;
+        unsigned version = 0;
         TileMesh mesh;
     };
 
@@ -28,8 +29,9 @@ public:
     /// Waits for the tiles that are being built; what has not begun is given up.
     ~TileWorkers();
 
-    /// \param tile a number by which the owner knows the result
-    void add(std::size_t tile, Batch batch, const Looks& looks);
+    /// \param tile    a number by which the owner knows the result
+    /// \param version another one, for a tile that is added again before it is ready
+    void add(std::size_t tile, unsigned version, Batch batch, const Looks& looks);
     /// Takes what is ready.
     std::vector<Result> take();
     /// Waits until something is ready; returns at once where nothing is awaited.
@@ -43,6 +45,7 @@ private:
     struct Job
     {
         std::size_t tile = 0;
+        unsigned version = 0;
         Batch batch;
         Looks looks;
         unsigned round = 0;

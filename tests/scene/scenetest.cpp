@@ -154,6 +154,7 @@ void SceneTest::everyDocument()
     for (Slot slot = 0; slot < fixture.features().size(); ++slot) {
         fixture.scene.rebuild(*fixture.features().featureOf(slot));
     }
+    fixture.scene.addAll();
     QCOMPARE(differences(fixture.picture(), all), 0);
 
     picksWhatIsSeen(fixture);
@@ -340,6 +341,7 @@ void SceneTest::texturesAppear()
         QCOMPARE(drawn.pixelColor(pixel), colours[i]);
     }
     fixture.scene.setTheme(QString(), false);
+    fixture.scene.addAll();
     for (const QColor& colour : colours) {
         QVERIFY(fixture.picture().pixelColor(180, 100) != colour);
     }
@@ -362,6 +364,7 @@ void SceneTest::materialsAppearUntilAnotherThemeIsChosen()
     QColor colour = fixture.picture().pixelColor(middle);
     QVERIFY(colour.red() > 100 && colour.green() == 0 && colour.blue() == 0);
     fixture.scene.setTheme("blue", true);
+    fixture.scene.addAll();
     colour = fixture.picture().pixelColor(middle);
     QVERIFY(colour.blue() > 100 && colour.green() == 0 && colour.red() == 0);
 }
@@ -406,10 +409,7 @@ void SceneTest::whatIsAddedLaterIsDrawn()
     QVERIFY(differences(before, without) > 1000);
     QCOMPARE(fixture.features().slotOf(feature), noSlot);
     fixture.scene.add(*feature);
-    while (fixture.scene.isBusy()) {
-        fixture.scene.waitForTile();
-        fixture.scene.takeFinished();
-    }
+    fixture.scene.addAll();
     QCOMPARE(differences(fixture.picture(), before), 0);
 }
 

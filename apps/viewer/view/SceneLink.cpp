@@ -6,6 +6,8 @@
 #include "framework/CoreProperty.h"
 #include "scene/TypeColours.h"
 
+#include <algorithm>
+
 namespace tolvik::viewer {
 
 using scene::Feature;
@@ -19,7 +21,9 @@ constexpr int sliceLength = 12;
 /// Between two looks whether other threads are ready, in milliseconds.
 constexpr int waitingLength = 10;
 /// Between two pictures while features are added, in milliseconds.
-constexpr int pictureInterval = 400;
+constexpr qint64 pictureInterval = 400;
+/// Between two pictures, in times that a picture takes: most of the time is for the work and for the user.
+constexpr qint64 pictureShare = 4;
 
 } // namespace
 
@@ -67,8 +71,12 @@ void SceneLink::begin()
         features.push_back(document.model().getFeature(row));
     }
     city->begin(std::move(features), document.fileName());
+    stateCount = 0;
+    pictureTime = 0;
+    sincePicture.invalidate();
+    isPictureAwaited = areTilesNew = false;
+    isComing = count > 0;
     emit begun();
-    sinceChange.invalidate();
     if (count > 0) {
         work.start(0);
     }
@@ -76,19 +84,34 @@ void SceneLink::begin()
 
 void SceneLink::workOn()
 {
-    const bool isMore = city->addSome(sliceLength);
-    const bool isNew = city->takeFinished();
-    // A picture of a city takes a while itself: the first tiles are shown at once, the others by and by.
-    if (isNew && (!sinceChange.isValid() || sinceChange.elapsed() > pictureInterval)) {
-        takeState();
-        sinceChange.start();
-        emit changed();
+    if (isPictureAwaited) {
+        pictureTime = sincePicture.restart();
+        isPictureAwaited = false;
     }
-    emit progressed(city->progress());
+    const bool isMore = city->addSome(sliceLength);
+    takeState();
+    areTilesNew = city->takeFinished() || areTilesNew;
+    if (isComing) {
+        emit progressed(city->progress());
+    }
     if (!isMore && !city->isBusy()) {
         goOn();
     } else {
+        showTiles();
         work.setInterval(isMore ? 0 : waitingLength);
+    }
+}
+
+/// Shows the first tiles at once, and the others by and by: a picture of a city takes a while itself.
+void SceneLink::showTiles()
+{
+    const bool isTime = !sincePicture.isValid() ||
+                        sincePicture.elapsed() > std::max(pictureInterval, pictureShare * pictureTime);
+    if (areTilesNew && isTime) {
+        areTilesNew = false;
+        isPictureAwaited = true;
+        sincePicture.start();
+        emit changed();
     }
 }
 
@@ -96,31 +119,42 @@ void SceneLink::workOn()
 void SceneLink::goOn()
 {
     work.stop();
-    takeState();
+    if (document.selection().hasSelection()) {
+        city->features().setSelection(selectedFeatures());
+    }
     if (!attribute.isEmpty()) {
         readColours();
     }
     emit changed();
-    emit finished();
+    if (isComing) {
+        isComing = false;
+        emit finished();
+    }
 }
 
 void SceneLink::finish()
 {
     if (isBusy()) {
         city->addAll();
+        takeState();
         goOn();
     }
 }
 
-/// Takes over what is hidden and selected in the document.
+void SceneLink::setTheme(const QString& theme, bool isShown)
+{
+    city->setTheme(theme, isShown);
+    work.start(0);
+}
+
+/// Takes over which of the features that have come are hidden in the document.
 void SceneLink::takeState()
 {
     const CityGMLModel& model = document.model();
-    for (Slot slot = 0; slot < city->features().size(); ++slot) {
-        const int row = rowOf(slot);
-        city->features().setHidden(slot, row < 0 || !model.isVisible(model.index(row, 0)));
+    for (; stateCount < city->features().size(); ++stateCount) {
+        const int row = rowOf(stateCount);
+        city->features().setHidden(stateCount, row < 0 || !model.isVisible(model.index(row, 0)));
     }
-    city->features().setSelection(selectedFeatures());
 }
 
 int SceneLink::rowOf(Slot slot) const
@@ -168,7 +202,7 @@ void SceneLink::addRows(int first, int last)
     for (int row = first; row <= last; ++row) {
         city->add(*document.model().getFeature(row));
     }
-    work.start(waitingLength);
+    work.start(0);
 }
 
 void SceneLink::removeRows(int first, int last)
@@ -178,6 +212,9 @@ void SceneLink::removeRows(int first, int last)
         edited.remove(feature);
         city->remove(*feature);
     }
+    if (city->isBusy()) {
+        work.start(0);
+    }
     emit changed();
 }
 
@@ -186,8 +223,7 @@ void SceneLink::rebuild(const Feature* feature)
     CityGMLModel& model = document.model();
     city->rebuild(*feature);
     model.show(model.index(feature));
-    work.start(waitingLength);
-    emit changed();
+    work.start(0);
 }
 
 /// An edit of a property may concern the geometry as well as the colour.
@@ -208,11 +244,7 @@ void SceneLink::takeEdits()
         city->rebuild(*feature);
     }
     edited.clear();
-    if (!attribute.isEmpty()) {
-        readColours();
-    }
-    work.start(waitingLength);
-    emit changed();
+    work.start(0);
 }
 
 void SceneLink::colourBy(const QString& path)

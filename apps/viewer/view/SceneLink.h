@@ -26,10 +26,13 @@ public:
     ~SceneLink() override;
 
     scene::CityScene& scene() { return *city; }
-    /// Whether features are still being added.
+    /// Whether features are still being added, or made anew.
     bool isBusy() const { return work.isActive(); }
     /// Adds all that is left. For pictures that must show everything.
     void finish();
+
+    /// Uses another theme of the document's appearances, or none.
+    void setTheme(const QString& theme, bool isShown);
 
     /// The row of a feature in the document's list; -1 for none.
     int rowOf(scene::Slot slot) const;
@@ -52,7 +55,7 @@ signals:
     void begun();
     /// \param part from 0 to 1
     void progressed(double part);
-    /// All features have been added.
+    /// All features of a document have been added.
     void finished();
     /// The colours of an attribute, or what they mean, are others now.
     void coloursChanged();
@@ -61,6 +64,7 @@ private:
     void begin();
     void clear();
     void workOn();
+    void showTiles();
     void goOn();
     void takeState();
     void showVisibility(const QList<QModelIndex>& indexes);
@@ -78,7 +82,14 @@ private:
     std::unique_ptr<scene::CityScene> city;
     QTimer work;
     QTimer edits;
-    QElapsedTimer sinceChange;
+    /// Since the last picture while features are added, which is there when the next slice begins.
+    QElapsedTimer sincePicture;
+    qint64 pictureTime = 0;
+    bool isPictureAwaited = false;
+    bool areTilesNew = false;
+    bool isComing = false;
+    /// So many features have the visibility of the document.
+    scene::Slot stateCount = 0;
     QSet<const scene::Feature*> edited;
     SlicedWork reading;
     std::vector<QVariant> values;

@@ -68,11 +68,7 @@ void ViewPanel::makeView()
             emit told(tr("Building the view: %1 %").arg(static_cast<int>(part * 100)));
         }
     });
-    connect(sceneLink, &SceneLink::finished, this, [this] {
-        fillAttributes();
-        const scene::CityScene::Counts counts = sceneLink->scene().counts();
-        emit told(tr("%L1 triangles").arg(counts.triangles));
-    });
+    connect(sceneLink, &SceneLink::finished, this, &ViewPanel::showFinished);
 }
 
 void ViewPanel::showMessage(const QString& text)
@@ -295,9 +291,7 @@ void ViewPanel::chooseTheme(int index)
     if (index < 0) {
         return;
     }
-    sceneLink->finish();
-    sceneLink->scene().setTheme(themes->itemData(index).toString(), index > 0);
-    city->update();
+    sceneLink->setTheme(themes->itemData(index).toString(), index > 0);
 }
 
 void ViewPanel::chooseColours()
@@ -341,10 +335,17 @@ void ViewPanel::moveSection()
 void ViewPanel::showDocument()
 {
     marks->clearPlaces();
-    fillThemes();
     sectionAxis->setCurrentIndex(0);
     section->setValue(sectionSteps);
     coordinates->setText(sceneLink->scene().coordinateSystem());
+}
+
+/// Offers what a document has, as soon as all of it has been looked at.
+void ViewPanel::showFinished()
+{
+    fillThemes();
+    fillAttributes();
+    emit told(tr("%L1 triangles").arg(sceneLink->scene().counts().triangles));
     const QStringList missing = sceneLink->scene().looks().missing();
     if (!missing.isEmpty()) {
         emit noticed(

@@ -78,6 +78,7 @@ private:
     void chooseColours();
     void moveSection();
     void showDocument();
+    void showFinished();
     void showLegend();
     void fillThemes();
     void fillAttributes();
