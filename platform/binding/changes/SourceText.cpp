@@ -75,8 +75,10 @@ void SourceText::detect()
         encoding = Encoding::Utf16Little;
     } else if (startsWith(text, "\xFE\xFF"sv) || startsWith(text, "\0<"sv)) {
         encoding = Encoding::Utf16Big;
-    } else if (!startsWith(text, "\xEF\xBB\xBF"sv)) {
-        setSingleByte(upper(declaredEncoding(text)));
+    } else {
+        // What a document declares counts, even behind the byte order mark of UTF-8.
+        constexpr std::string_view mark = "\xEF\xBB\xBF";
+        setSingleByte(upper(declaredEncoding(startsWith(text, mark) ? text.substr(mark.size()) : text)));
     }
 }
 
