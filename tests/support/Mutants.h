@@ -44,7 +44,7 @@ struct Attribute
     bool isIdentifier;
 };
 
-/// Where the pieces of a document stand. The document must be well-formed, without a document type.
+/// Where the pieces of a document stand. The document must be well-formed.
 class Pieces
 {
 public:
@@ -56,6 +56,8 @@ public:
                 i = xml.indexOf("-->", i) + 3;
             } else if (xml.mid(i, 9) == "<![CDATA[") {
                 i = xml.indexOf("]]>", i) + 3;
+            } else if (xml.mid(i, 9) == "<!DOCTYPE") {
+                i = xml.indexOf("]>", i) + 2;
             } else if (xml[i + 1] == '?') {
                 i = xml.indexOf("?>", i) + 2;
             } else if (xml[i + 1] == '/') {

@@ -102,6 +102,12 @@ QByteArray withoutLines(const QByteArray& xml)
         [](const QByteArray& tag) { return tag.simplified(); });
 }
 
+QByteArray encodedBy(const QTextCodec& codec, const QString& text)
+{
+    QTextCodec::ConverterState withoutMark(QTextCodec::IgnoreHeader);
+    return codec.fromUnicode(text.constData(), text.size(), &withoutMark);
+}
+
 QByteArray inEncoding(const QByteArray& xml, const char* codec, const char* name)
 {
     QString text = QString::fromUtf8(xml);
@@ -113,11 +119,48 @@ QByteArray inEncoding(const QByteArray& xml, const char* codec, const char* name
         known += encoder->canEncode(c) ? QString(c) : QString("?");
     }
     known.prepend(QString("<?xml version=\"1.0\" encoding=\"%1\"?>").arg(name));
-    QTextCodec::ConverterState withoutMark(QTextCodec::IgnoreHeader);
-    return encoder->fromUnicode(known.constData(), known.size(), &withoutMark);
+    return encodedBy(*encoder, known);
+}
+
+/// The codec of a document that is not in UTF-8; null for one that is.
+QTextCodec* codecOf(const QByteArray& xml)
+{
+    if (xml.startsWith("\xFF\xFE")) {
+        return QTextCodec::codecForName("UTF-16LE");
+    }
+    if (xml.startsWith("\xFE\xFF")) {
+        return QTextCodec::codecForName("UTF-16BE");
+    }
+    // Behind the byte order mark of UTF-8, too.
+    const QRegularExpression declaration("^\\W*<\\?xml[^>]*encoding=[\"']([^\"']*)");
+    const QString name = declaration.match(QString::fromLatin1(xml.left(200))).captured(1).toUpper();
+    return name.isEmpty() || name == "UTF-8" ? nullptr : QTextCodec::codecForName(name.toLatin1());
 }
 
 } // namespace
+
+QByteArray Variant::text() const
+{
+    const QTextCodec* const codec = codecOf(xml);
+    // The byte order mark stays.
+    QTextCodec::ConverterState asItIs(QTextCodec::IgnoreHeader);
+    return codec != nullptr ? codec->toUnicode(xml.constData(), xml.size(), &asItIs).toUtf8() : xml;
+}
+
+QByteArray Variant::encoded(const QByteArray& text) const
+{
+    const QTextCodec* const codec = codecOf(xml);
+    if (codec == nullptr) {
+        return text;
+    }
+    // A byte order mark is no part of a string.
+    QString known = text.startsWith("\xEF\xBB\xBF") ? QString(QChar::ByteOrderMark) : QString();
+    for (const uint character : QString::fromUtf8(text).toUcs4()) {
+        const QString whole = QString::fromUcs4(&character, 1);
+        known += codec->canEncode(whole) ? whole : QStringLiteral("&#%1;").arg(character);
+    }
+    return encodedBy(*codec, known);
+}
 
 QVector<Variant> variantsOf(const QByteArray& document)
 {

@@ -10,6 +10,12 @@ struct Variant
 {
     const char* name;
     QByteArray xml;
+
+    /// The document in UTF-8.
+    QByteArray text() const;
+    /// Another such text in the encoding of the document. What the encoding does not have is written as a
+    /// reference.
+    QByteArray encoded(const QByteArray& text) const;
 };
 
 /// Variants of a document in UTF-8 without CDATA sections: other line ends, quotes, references, prefixes,
