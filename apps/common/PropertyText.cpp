@@ -4,6 +4,7 @@
 #include "framework/CoreProperty.h"
 
 #include <algorithm>
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -12,6 +13,11 @@
 namespace tolvik::apps {
 
 namespace {
+
+struct Refusal
+{
+    Q_DECLARE_TR_FUNCTIONS(tolvik::apps::PropertyText)
+};
 
 /// The entries of a list: those of a JSON array, or the text as the only one. An entry is a text, a number or
 /// a truth value.
@@ -72,7 +78,7 @@ void verifyCharacters(const QString& property, const QVariant& value)
 {
     if (const auto character = characterOutsideXml(value)) {
         const QString code = QString::number(*character, 16).toUpper();
-        throw EditError(QStringLiteral("%1 cannot hold the character U+%2, as XML has no such character")
+        throw EditError(Refusal::tr("%1 cannot hold the character U+%2, as XML has no such character")
                             .arg(property, code.rightJustified(4, '0')));
     }
 }
@@ -82,7 +88,7 @@ void verifyCharacters(const QString& property, const QVariant& value)
 void setFromText(CoreProperty& property, const QString& text)
 {
     if (typeid(property) == typeid(CoreProperty)) {
-        throw EditError(QStringLiteral("%1 cannot be edited").arg(property.name()));
+        throw EditError(Refusal::tr("%1 cannot be edited").arg(property.name()));
     }
     verifyCharacters(property.name(), text);
     const QVariant current = property.value();
@@ -95,12 +101,12 @@ void setFromText(CoreProperty& property, const QString& text)
     const bool isOneText = property.unit() != nullptr || current.toList().isEmpty();
     if (!value.isValid() || (!literals.isEmpty() && !literals.contains(value)) ||
         (value.userType() == QMetaType::QVariantList && isOneText && !areWords(value.toList()))) {
-        throw EditError(QStringLiteral("%1 cannot be \"%2\"").arg(property.name(), text));
+        throw EditError(Refusal::tr("%1 cannot be \"%2\"").arg(property.name(), text));
     }
     verifyCharacters(property.name(), value);
     property.setValue(value);
     if (!isSame(property.value(), value)) {
-        throw EditError(QStringLiteral("%1 cannot be set to \"%2\"").arg(property.name(), text));
+        throw EditError(Refusal::tr("%1 cannot be set to \"%2\"").arg(property.name(), text));
     }
 }
 

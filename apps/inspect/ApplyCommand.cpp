@@ -2,6 +2,7 @@
 
 #include "apps/tables/TableError.h"
 #include "apps/tables/TableImport.h"
+#include "apps/tables/TableReading.h"
 #include "framework/OperationStatus.h"
 #include "UI/Models/CityGMLModel/CityGMLModel.h"
 
@@ -64,8 +65,8 @@ private:
 
     void tellProblems()
     {
-        for (const QString& problem : values.problems()) {
-            tell(problem);
+        for (const tables::ImportProblem& problem : values.problems()) {
+            tell(problem.text());
             code = 1;
         }
     }
@@ -170,7 +171,7 @@ int runApply(const ApplyOptions& options, const TableDocuments& documents)
         tables::ImportOptions wanted;
         wanted.absentWord = options.absent;
         wanted.create = options.create;
-        tables::TableImport values(tables::EditTable::read(source, remarks), wanted, documents.files);
+        tables::TableImport values(tables::readTables(source, remarks), wanted, documents.files);
         for (const QString& remark : qAsConst(remarks)) {
             *documents.err << "tolvik-inspect: " << remark.toStdString() << '\n';
         }

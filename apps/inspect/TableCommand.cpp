@@ -47,6 +47,16 @@ tables::TableTarget targetOf(const TableOptions& options)
     return target;
 }
 
+void add(const CityGMLModel& model, const QString& file, tables::TableExport& result)
+{
+    result.begin(model, file);
+    const int count = model.rowCount();
+    for (int number = 0; number < count; ++number) {
+        result.addFeature(number);
+    }
+    result.end();
+}
+
 } // namespace
 
 int runTable(const TableOptions& options, const TableDocuments& documents)
@@ -69,7 +79,7 @@ int runTable(const TableOptions& options, const TableDocuments& documents)
             const log4cplus::NDCContextCreator context(count > 1 ? file.toStdString() + ": " : "");
             CityGMLModel model(nullptr, nullptr);
             if (documents.load(model, file)) {
-                result.add(model, file);
+                add(model, file, result);
             } else {
                 code = 1;
             }

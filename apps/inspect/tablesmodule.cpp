@@ -29,7 +29,7 @@ public:
 
 extern "C" __attribute__((visibility("default"))) tolvik::inspect::TableModule* tolvikTableModule();
 
-/// The only entry of the module.
+/// The entry of the module for the terminal tool.
 tolvik::inspect::TableModule* tolvikTableModule()
 {
     static Commands commands;

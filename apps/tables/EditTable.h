@@ -5,19 +5,10 @@
 
 #include <optional>
 #include <QString>
-#include <QStringList>
 #include <QVector>
 #include <vector>
 
 namespace tolvik::tables {
-
-/// Where a table of new values is read from.
-struct EditSource
-{
-    QString path; ///< what OGR opens: a file, a folder of CSV files, a database
-    QString idColumn = QStringLiteral("gml:id"); ///< column that names the feature
-    QString query; ///< SQL that makes the table; empty for all tables of the source
-};
 
 /// New values for the attributes of features.
 struct EditTable
@@ -48,13 +39,9 @@ struct EditTable
         QVector<QString> cells; ///< in the order of the columns; an empty one says nothing
     };
 
-    /// Reads all tables that a source has for features.
-    /// \param remarks gets what was left out, a line each
-    /// \throws TableError where it cannot be read, or none of its tables has the column of identifiers
-    static std::vector<EditTable> read(const EditSource& source, QStringList& remarks);
-
     /// The type that all cells of a column fit, where the source has no types.
-    CellType typeOf(int column) const;
+    /// \param absentWord cell that has no value; so has an empty one
+    CellType typeOf(int column, const QString& absentWord) const;
 
     QString name;
     /// How people count the rows of the source: as lines of a text or spreadsheet, or as rows.

@@ -1,5 +1,6 @@
 #include "apps/tables/FeatureGeometry.h"
 
+#include "apps/tables/FeaturePlace.h"
 #include "citygml/GeometryWalk.h"
 #include "gml/AbstractFeatureType.hxx"
 #include "UI/Models/CityGMLModel/CityGMLModel.h"
@@ -70,12 +71,6 @@ std::unique_ptr<OGRGeometry> united(std::unique_ptr<OGRMultiPolygon> polygons)
 }
 
 } // namespace
-
-const gml::AbstractFeatureType* featureOutside(const gml::AbstractFeatureType& feature)
-{
-    const auto* const around = dynamic_cast<const xml_schema::type*>(feature._container());
-    return around != nullptr ? citygml::featureAround(*around) : nullptr;
-}
 
 FeatureGeometry::FeatureGeometry(const CityGMLModel& model)
 {

@@ -16,9 +16,6 @@ class CityGMLModel;
 
 namespace tolvik::tables {
 
-/// The feature in which a feature stands; null for the root of a document.
-const gml::AbstractFeatureType* featureOutside(const gml::AbstractFeatureType& feature);
-
 /// One geometry for each feature of a document, for programs that know maps.
 class FeatureGeometry
 {

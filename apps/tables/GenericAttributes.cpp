@@ -7,6 +7,7 @@
 #include "gml/MeasureType.hxx"
 #include "UI/Models/CityGMLModel/properties/XmlCharacters.h"
 
+#include <QCoreApplication>
 #include <QDate>
 
 namespace tolvik::tables {
@@ -15,12 +16,17 @@ namespace {
 
 using apps::EditError;
 
+struct Refusal
+{
+    Q_DECLARE_TR_FUNCTIONS(tolvik::tables::GenericAttributes)
+};
+
 double realOf(const QString& text)
 {
     bool isNumber = false;
     const double number = text.toDouble(&isNumber);
     if (!isNumber) {
-        throw EditError(QStringLiteral("\"%1\" is no number").arg(text));
+        throw EditError(Refusal::tr("\"%1\" is no number").arg(text));
     }
     return number;
 }
@@ -29,7 +35,7 @@ xml_schema::date dateOf(const QString& text)
 {
     const QDate day = QDate::fromString(text, Qt::ISODate);
     if (!day.isValid()) {
-        throw EditError(QStringLiteral("\"%1\" is no date").arg(text));
+        throw EditError(Refusal::tr("\"%1\" is no date").arg(text));
     }
     return xml_schema::date(day.year(), static_cast<unsigned short>(day.month()),
                             static_cast<unsigned short>(day.day()));
@@ -40,7 +46,7 @@ qlonglong wholeOf(const QString& text)
     bool isNumber = false;
     const qlonglong number = text.toLongLong(&isNumber);
     if (!isNumber) {
-        throw EditError(QStringLiteral("\"%1\" is no whole number").arg(text));
+        throw EditError(Refusal::tr("\"%1\" is no whole number").arg(text));
     }
     return number;
 }
@@ -67,11 +73,10 @@ void addGenericAttribute(gml::AbstractFeatureType& feature, const ColumnPath& pa
 {
     auto* const object = dynamic_cast<core::AbstractCityObjectType*>(&feature);
     if (object == nullptr || path.steps.size() != 1 || path.steps.first().occurrence != 1) {
-        throw EditError(
-            QStringLiteral("the feature has no such attribute, and none can be made of the name"));
+        throw EditError(Refusal::tr("the feature has no such attribute, and none can be made of the name"));
     }
     if (firstCharacterNotInXml(text) || firstCharacterNotInXml(path.steps.first().label)) {
-        throw EditError(QStringLiteral("XML has no such characters"));
+        throw EditError(Refusal::tr("XML has no such characters"));
     }
     const std::string name = path.steps.first().label.toStdString();
     auto& attributes = object->_GenericApplicationPropertyOfCityObject();
@@ -87,6 +92,16 @@ void addGenericAttribute(gml::AbstractFeatureType& feature, const ColumnPath& pa
         attributes.push_back(gen::DateAttributeType(name, dateOf(text)));
     } else {
         attributes.push_back(gen::StringAttributeType(name, text.toStdString()));
+    }
+}
+
+void removeLastGenericAttribute(gml::AbstractFeatureType& feature)
+{
+    if (auto* const object = dynamic_cast<core::AbstractCityObjectType*>(&feature)) {
+        auto& attributes = object->_GenericApplicationPropertyOfCityObject();
+        if (!attributes.empty()) {
+            citygml::Member::holding(attributes.back()).clear();
+        }
     }
 }
 

@@ -18,6 +18,9 @@ namespace tolvik::tables {
 void addGenericAttribute(gml::AbstractFeatureType& feature, const ColumnPath& path, CellType type,
                          const QString& unit, const QString& text);
 
+/// Takes the attribute that was added last out of a feature again.
+void removeLastGenericAttribute(gml::AbstractFeatureType& feature);
+
 /// Takes a generic attribute out of a feature, as a whole.
 /// \return whether it had such a one
 bool removeGenericAttribute(gml::AbstractFeatureType& feature, const ColumnPath& path);

@@ -1,6 +1,6 @@
 #include "apps/tables/TableExport.h"
 
-#include "apps/tables/FeatureGeometry.h"
+#include "apps/tables/FeaturePlace.h"
 #include "apps/tables/TableError.h"
 #include "core/CityModelType.hxx"
 #include "framework/CoreProperty.h"
@@ -13,18 +13,11 @@
 #include <ogr_spatialref.h>
 #include <ogrsf_frmts.h>
 #include <QFileInfo>
-#include <QHash>
 #include <utility>
 
 namespace tolvik::tables {
 
 namespace {
-
-QString idOf(const gml::AbstractFeatureType* feature)
-{
-    return feature != nullptr && feature->id().present() ? QString::fromStdString(feature->id().get())
-                                                         : QString();
-}
 
 /// Name of the coordinate system of a document; empty where it tells none.
 QString referenceNameOf(core::CityModelType& document)
@@ -60,44 +53,43 @@ TableExport::TableExport(ExportOptions wanted) : options(std::move(wanted))
 
 TableExport::~TableExport() = default;
 
-void TableExport::add(const CityGMLModel& model, const QString& file)
+void TableExport::begin(const CityGMLModel& document, const QString& name)
 {
-    std::unique_ptr<FeatureGeometry> geometries;
+    model = &document;
+    file = name;
     if (options.target.hasGeometry) {
-        noteReference(model, file);
+        noteReference();
         if (placesCount) {
-            geometries = std::make_unique<FeatureGeometry>(model);
+            geometries = std::make_unique<FeatureGeometry>(*model);
         }
     }
-    const OgrErrors quiet;
-    QHash<QString, int> withoutTable;
-    const int count = model.rowCount();
-    for (int number = 0; number < count; ++number) {
-        const gml::AbstractFeatureType& feature = *model.getFeature(number);
-        FeatureRow row;
-        row.type = QString::fromStdString(feature.typeLabel);
-        if (!options.types.isEmpty() && !options.types.contains(row.type)) {
-            continue;
-        }
-        if (catalogue.treeOf(row.type) == nullptr) {
-            ++withoutTable[row.type];
-            continue;
-        }
-        readRow(model, number, row);
-        if (geometries != nullptr) {
-            const FeatureGeometry::Result result =
-                options.hasHeights ? geometries->surfaces(feature) : geometries->onMap(feature);
-            if (result.geometry != nullptr) {
-                row.geometry = binaryOf(*result.geometry);
-                row.geometryFrom = QString::fromLatin1(result.madeFrom);
-            }
-        }
-        if (spool != nullptr) {
-            spool->add(file, row);
-        } else if (options.target.format != nullptr) {
-            openWriter().write(file, row);
-        }
+}
+
+void TableExport::addFeature(int number)
+{
+    const gml::AbstractFeatureType& feature = *model->getFeature(number);
+    FeatureRow row;
+    row.type = QString::fromStdString(feature.typeLabel);
+    if (!options.types.isEmpty() && !options.types.contains(row.type)) {
+        return;
     }
+    if (catalogue.treeOf(row.type) == nullptr) {
+        ++withoutTable[row.type];
+        return;
+    }
+    readRow(number, row);
+    if (geometries != nullptr) {
+        addGeometry(feature, row);
+    }
+    if (spool != nullptr) {
+        spool->add(file, row);
+    } else if (options.target.format != nullptr) {
+        openWriter().write(file, row);
+    }
+}
+
+void TableExport::end()
+{
     if (spool == nullptr && options.target.format != nullptr) {
         openWriter().endDocument();
     }
@@ -107,11 +99,25 @@ void TableExport::add(const CityGMLModel& model, const QString& file)
                      .arg(it.value())
                      .arg(it.key(), options.columnsFile);
     }
+    withoutTable.clear();
+    geometries.reset();
+    model = nullptr;
 }
 
-void TableExport::readRow(const CityGMLModel& model, int number, FeatureRow& row)
+void TableExport::addGeometry(const gml::AbstractFeatureType& feature, FeatureRow& row) const
 {
-    gml::AbstractFeatureType& feature = *model.getFeature(number);
+    const OgrErrors quiet;
+    const FeatureGeometry::Result result =
+        options.hasHeights ? geometries->surfaces(feature) : geometries->onMap(feature);
+    if (result.geometry != nullptr) {
+        row.geometry = binaryOf(*result.geometry);
+        row.geometryFrom = QString::fromLatin1(result.madeFrom);
+    }
+}
+
+void TableExport::readRow(int number, FeatureRow& row)
+{
+    gml::AbstractFeatureType& feature = *model->getFeature(number);
     row.id = idOf(&feature);
     row.parent = idOf(featureOutside(feature));
     if (!feature.name().empty()) {
@@ -119,15 +125,15 @@ void TableExport::readRow(const CityGMLModel& model, int number, FeatureRow& row
     }
     const Fondo::RefPtr<CoreProperty> root = GmlCorePropertyCreator::createProperty(&feature, true);
     if (options.otherContent) {
-        model.addPropertiesFromProviders(model.index(number, 0), *root);
+        model->addPropertiesFromProviders(model->index(number, 0), *root);
     }
     catalogue.treeOf(row.type)->read(*root, row);
 }
 
 /// The geometries of all documents are in one coordinate system: that of the first.
-void TableExport::noteReference(const CityGMLModel& model, const QString& file)
+void TableExport::noteReference()
 {
-    const QString name = referenceNameOf(*model.cityGML());
+    const QString name = referenceNameOf(*model->cityGML());
     if (!referenceName) {
         referenceName = name;
         auto known = std::make_unique<OGRSpatialReference>();

@@ -1,239 +1,24 @@
 #include "apps/tables/TableImport.h"
 
 #include "apps/common/PropertyText.h"
-#include "apps/tables/ColumnTree.h"
-#include "apps/tables/FeatureGeometry.h"
-#include "apps/tables/GenericAttributes.h"
-#include "framework/AbstractUnit.h"
-#include "framework/CoreProperty.h"
+#include "apps/tables/FeaturePlace.h"
 #include "gml/AbstractFeatureType.hxx"
-#include "gml/CodeType.hxx"
 #include "UI/Models/CityGMLModel/CityGMLModel.h"
-#include "UI/Models/CityGMLModel/properties/BoundProperty.h"
-#include "UI/Models/CityGMLModel/properties/GmlCorePropertyCreator.h"
-#include "UI/Models/CityGMLModel/properties/XmlCharacters.h"
 
+#include <algorithm>
+#include <optional>
 #include <QFileInfo>
-#include <QJsonArray>
-#include <QJsonDocument>
 #include <utility>
 
 namespace tolvik::tables {
 
-namespace {
-
-using apps::EditError;
-
-/// The child of a label that is the n-th of its kind, where those of generic attributes are a kind of their
-/// own.
-CoreProperty* childAt(const CoreProperty& parent, const ColumnPath::Step& step, bool isGeneric)
+QString ImportProblem::text() const
 {
-    int met = 0;
-    for (const auto& child : parent.properties()) {
-        if (child->name() == step.label && isGenericAttribute(*child) == isGeneric &&
-            ++met == step.occurrence) {
-            return child.get();
-        }
-    }
-    return nullptr;
+    return QStringLiteral("%1: %2 %3: %4%5: %6")
+        .arg(table, lineWord)
+        .arg(line)
+        .arg(id, column.isEmpty() ? QString() : QStringLiteral(": ") + column, reason);
 }
-
-/// The property that a path leads to; null where there is none.
-CoreProperty* propertyAt(const CoreProperty& root, const ColumnPath& path)
-{
-    const CoreProperty* at = path.isGeneric ? root.getProperty(QStringLiteral("Fields"), false) : &root;
-    for (int i = 0; at != nullptr && i + 1 < path.steps.size(); ++i) {
-        at = childAt(*at, path.steps[i], false);
-    }
-    if (at == nullptr) {
-        return nullptr;
-    }
-    CoreProperty* const found = childAt(*at, path.steps.last(), path.isGeneric);
-    // `set` takes a generic attribute among the fields.
-    return found != nullptr || path.isGeneric ? found : childAt(*at, path.steps.last(), true);
-}
-
-/// Whether a cell says what a property shows. Numbers are compared as far as tables write them.
-bool isShown(const QVariant& value, const QString& cell)
-{
-    const std::optional<CellType> type = cellType(value);
-    if (!type) {
-        return false;
-    }
-    bool isNumber = false;
-    switch (*type) {
-    case CellType::Real: {
-        const double number = cell.toDouble(&isNumber);
-        return isNumber && QString::number(number, 'g', 15) == QString::number(value.toDouble(), 'g', 15);
-    }
-    case CellType::Whole: {
-        const double number = cell.toDouble(&isNumber);
-        return cell == value.toString() || (isNumber && number == value.toDouble());
-    }
-    case CellType::List: {
-        const QJsonDocument list = QJsonDocument::fromJson(cell.toUtf8());
-        return list.isArray() && list == QJsonDocument::fromJson(cellText(value).toUtf8());
-    }
-    default:
-        return cell == cellText(value);
-    }
-}
-
-QString unitOf(const CoreProperty& property)
-{
-    return property.unit() != nullptr ? property.unit()->name() : QString();
-}
-
-/// \throws EditError
-void verifyUnit(const CoreProperty& property, const QString& unit)
-{
-    if (!unit.isEmpty() && unitOf(property) != unit) {
-        throw EditError(
-            property.unit() != nullptr
-                ? QStringLiteral("the unit is \"%1\", and not \"%2\"").arg(unitOf(property), unit)
-                : QStringLiteral("there is no value with the unit \"%1\" that could be changed").arg(unit));
-    }
-}
-
-} // namespace
-
-/// Sets the attributes of one feature.
-class TableImport::Edit
-{
-public:
-    Edit(CityGMLModel& model, gml::AbstractFeatureType& feature, const ImportOptions& options,
-         bool hasOtherContent)
-        : model(model), feature(feature), options(options), hasOtherContent(hasOtherContent)
-    {
-    }
-
-    /// \return whether the document has changed
-    /// \throws EditError where the cell cannot be set; the document is as before then
-    bool set(const EditTable::Column& column, CellType type, const QString& unit, const QString& cell)
-    {
-        switch (column.role) {
-        case EditTable::Role::Name:
-            return rename(cell);
-        case EditTable::Role::Parent:
-            return verifyTold(idOf(featureOutside(feature)), cell);
-        case EditTable::Role::Type:
-            return verifyTold(QString::fromStdString(feature.typeLabel), cell);
-        case EditTable::Role::Value:
-            break;
-        }
-        CoreProperty* const property = propertyAt(existing(), column.path);
-        if (!options.absentWord.isEmpty() && cell == options.absentWord) {
-            return property != nullptr && remove(*property, column.path);
-        }
-        if (property != nullptr) {
-            return change(*property, unit, cell);
-        }
-        CoreProperty* const possible = propertyAt(all(), column.path);
-        if (possible != nullptr) {
-            return change(*possible, unit, cell);
-        }
-        if (!options.create) {
-            throw EditError(QStringLiteral("the feature has no such attribute"));
-        }
-        addGenericAttribute(feature, column.path, type, unit, cell);
-        forgetTrees();
-        return true;
-    }
-
-private:
-    static QString idOf(const gml::AbstractFeatureType* object)
-    {
-        return object != nullptr && object->id().present() ? QString::fromStdString(object->id().get())
-                                                           : QString();
-    }
-
-    bool rename(const QString& cell)
-    {
-        const auto& names = feature.name();
-        if (!names.empty() && QString::fromStdString(names.front()) == cell) {
-            return false;
-        }
-        if (firstCharacterNotInXml(cell)) {
-            throw EditError(QStringLiteral("a name cannot have characters that XML has not"));
-        }
-        return model.setData(model.index(&feature), cell, Qt::EditRole);
-    }
-
-    static bool verifyTold(const QString& told, const QString& cell)
-    {
-        if (told != cell) {
-            throw EditError(QStringLiteral("it is \"%1\", which a table cannot change").arg(told));
-        }
-        return false;
-    }
-
-    bool change(CoreProperty& property, const QString& unit, const QString& cell)
-    {
-        verifyUnit(property, unit);
-        if (isShown(property.value(), cell)) {
-            return false;
-        }
-        auto* const bound = dynamic_cast<BoundProperty*>(&property);
-        const citygml::MemberState before = bound != nullptr ? bound->capture() : citygml::MemberState();
-        try {
-            apps::setFromText(property, cell);
-        } catch (const EditError&) {
-            if (bound != nullptr) {
-                bound->restore(before);
-            }
-            throw;
-        }
-        return true;
-    }
-
-    bool remove(CoreProperty& property, const ColumnPath& path)
-    {
-        auto* const bound = dynamic_cast<BoundProperty*>(&property);
-        if (bound == nullptr) {
-            throw EditError(QStringLiteral("it cannot be removed"));
-        }
-        if (!isGenericAttribute(property)) {
-            bound->clear();
-        } else if (!removeGenericAttribute(feature, path)) {
-            throw EditError(QStringLiteral("it cannot be removed"));
-        }
-        forgetTrees();
-        return true;
-    }
-
-    const CoreProperty& existing()
-    {
-        if (existingTree.get() == nullptr) {
-            existingTree = GmlCorePropertyCreator::createProperty(&feature, true);
-            if (hasOtherContent) {
-                model.addPropertiesFromProviders(model.index(&feature), *existingTree);
-            }
-        }
-        return *existingTree;
-    }
-
-    const CoreProperty& all()
-    {
-        if (fullTree.get() == nullptr) {
-            fullTree = GmlCorePropertyCreator::createProperty(&feature, false);
-        }
-        return *fullTree;
-    }
-
-    /// Attributes that come and go leave the trees with properties of what is no more.
-    void forgetTrees()
-    {
-        existingTree = nullptr;
-        fullTree = nullptr;
-    }
-
-    CityGMLModel& model;
-    gml::AbstractFeatureType& feature;
-    const ImportOptions& options;
-    const bool hasOtherContent;
-    Fondo::RefPtr<CoreProperty> existingTree;
-    Fondo::RefPtr<CoreProperty> fullTree;
-};
 
 TableImport::TableImport(std::vector<EditTable> given, ImportOptions options, const QStringList& files)
     : tables(std::move(given)), options(std::move(options)), files(files.begin(), files.end())
@@ -243,7 +28,8 @@ TableImport::TableImport(std::vector<EditTable> given, ImportOptions options, co
         matches.emplace_back(table.rows.size());
         types.emplace_back();
         for (int column = 0; column < table.columns.size(); ++column) {
-            types.back() += this->options.create ? table.typeOf(column) : CellType::Text;
+            types.back() +=
+                this->options.create ? table.typeOf(column, this->options.absentWord) : CellType::Text;
             hasOtherContent = hasOtherContent || table.columns[column].path.steps.first().label ==
                                                      QLatin1String("Other content");
         }
@@ -251,6 +37,21 @@ TableImport::TableImport(std::vector<EditTable> given, ImportOptions options, co
             byId[table.rows[row].id] += Place{static_cast<int>(i), static_cast<int>(row)};
         }
     }
+}
+
+const EditTable& TableImport::tableOf(const Place& place) const
+{
+    return tables[static_cast<std::size_t>(place.table)];
+}
+
+const EditTable::Row& TableImport::rowOf(const Place& place) const
+{
+    return tableOf(place).rows[static_cast<std::size_t>(place.row)];
+}
+
+const QString& TableImport::textOf(const CellPlace& place) const
+{
+    return rowOf(place.row).cells[place.column];
 }
 
 /// Whether a row is for a document. A file that was told under another folder is known by its name.
@@ -268,9 +69,9 @@ QVector<TableImport::Place> TableImport::rowsOf(const QString& id, const QString
         return places;
     }
     for (const Place& place : *found) {
-        const auto table = static_cast<std::size_t>(place.table);
-        const auto row = static_cast<std::size_t>(place.row);
-        if (!matches[table][row].isLost && isMeant(tables[table].rows[row], file)) {
+        const Match& match =
+            matches[static_cast<std::size_t>(place.table)][static_cast<std::size_t>(place.row)];
+        if (!match.isLost && isMeant(rowOf(place), file)) {
             places += place;
         }
     }
@@ -279,12 +80,9 @@ QVector<TableImport::Place> TableImport::rowsOf(const QString& id, const QString
 
 void TableImport::tell(const Place& place, const QString& column, const QString& reason)
 {
-    const EditTable& table = tables[static_cast<std::size_t>(place.table)];
-    const EditTable::Row& row = table.rows[static_cast<std::size_t>(place.row)];
-    wrong += QStringLiteral("%1: %2 %3: %4%5: %6")
-                 .arg(table.name, table.lineWord)
-                 .arg(row.line)
-                 .arg(row.id, column.isEmpty() ? QString() : QStringLiteral(": ") + column, reason);
+    const EditTable& table = tableOf(place);
+    const EditTable::Row& row = rowOf(place);
+    wrong += ImportProblem{table.name, table.lineWord, row.line, row.id, column, reason};
 }
 
 /// Notes in which document a row has found its feature.
@@ -293,11 +91,90 @@ void TableImport::noteMatch(const Place& place, const QString& file)
     Match& match = matches[static_cast<std::size_t>(place.table)][static_cast<std::size_t>(place.row)];
     if (!match.file.isNull() && match.file != file && !match.isLost) {
         tell(place, QString(),
-             QStringLiteral("the feature is in %1 and in %2; a column \"file\" tells which is meant")
+             tr("the feature is in %1 and in %2; a column \"file\" tells which is meant")
                  .arg(match.file, file));
         match.isLost = true;
     }
     match.file = file;
+}
+
+/// The cells of a feature's rows that say something. Attributes that go come last and the later of equal ones
+/// first, so that the paths of the others hold.
+QVector<TableImport::CellPlace> TableImport::cellsOf(const QVector<Place>& rows)
+{
+    QVector<CellPlace> cells;
+    for (const Place& row : rows) {
+        const EditTable& table = tableOf(row);
+        for (int column = 0; column < table.columns.size(); ++column) {
+            if (!rowOf(row).cells[column].isEmpty() && !table.columns[column].path.isUnit) {
+                cells += CellPlace{row, column};
+            }
+        }
+    }
+    if (rows.size() > 1) {
+        cells = withoutContradictions(cells);
+    }
+    if (!options.absentWord.isEmpty()) {
+        const auto going = std::stable_partition(cells.begin(), cells.end(), [this](const CellPlace& cell) {
+            return textOf(cell) != options.absentWord;
+        });
+        std::reverse(going, cells.end());
+    }
+    return cells;
+}
+
+/// Leaves out cells that say what another row has said of the same feature, and those that say otherwise.
+QVector<TableImport::CellPlace> TableImport::withoutContradictions(const QVector<CellPlace>& cells)
+{
+    QHash<QString, CellPlace> first;
+    QSet<QString> contradicted;
+    for (const CellPlace& cell : cells) {
+        const QString path = tableOf(cell.row).columns[cell.column].path.text();
+        const auto former = first.constFind(path);
+        if (former == first.constEnd()) {
+            first.insert(path, cell);
+        } else if (textOf(*former) != textOf(cell)) {
+            const bool isText = tableOf(former->row).lineWord == QLatin1String("line");
+            tell(cell.row, tableOf(cell.row).columns[cell.column].name,
+                 (isText ? tr("\"%1\" contradicts \"%2\" of line %3")
+                         : tr("\"%1\" contradicts \"%2\" of row %3"))
+                     .arg(textOf(cell), textOf(*former), QString::number(rowOf(former->row).line)));
+            contradicted += path;
+        }
+    }
+    QVector<CellPlace> agreed;
+    for (const CellPlace& cell : cells) {
+        const QString path = tableOf(cell.row).columns[cell.column].path.text();
+        const CellPlace& kept = first[path];
+        if (!contradicted.contains(path) && kept.row.table == cell.row.table &&
+            kept.row.row == cell.row.row) {
+            agreed += cell;
+        }
+    }
+    return agreed;
+}
+
+/// Does a step for each cell that says something of a feature, and notes what is wrong with it.
+void TableImport::forEachCell(const gml::AbstractFeatureType& feature, const QString& file,
+                              const EachCell& step)
+{
+    if (!feature.id().present()) {
+        return;
+    }
+    const QVector<Place> rows = rowsOf(idOf(&feature), file);
+    for (const Place& row : rows) {
+        noteMatch(row, file);
+    }
+    for (const CellPlace& place : cellsOf(rows)) {
+        const EditTable::Column& column = tableOf(place.row).columns[place.column];
+        const CellType type = types[static_cast<std::size_t>(place.row.table)][place.column];
+        const QString unit = column.unitColumn >= 0 ? rowOf(place.row).cells[column.unitColumn] : column.unit;
+        try {
+            step(place, {column, type, unit, textOf(place)});
+        } catch (const apps::EditError& error) {
+            tell(place.row, column.name, QString::fromUtf8(error.what()));
+        }
+    }
 }
 
 qint64 TableImport::apply(CityGMLModel& model, const QString& file)
@@ -306,37 +183,26 @@ qint64 TableImport::apply(CityGMLModel& model, const QString& file)
     const int count = model.rowCount();
     for (int number = 0; number < count; ++number) {
         gml::AbstractFeatureType& feature = *model.getFeature(number);
-        if (!feature.id().present()) {
-            continue;
-        }
-        const QVector<Place> places = rowsOf(QString::fromStdString(feature.id().get()), file);
-        if (places.isEmpty()) {
-            continue;
-        }
-        Edit edit(model, feature, options, hasOtherContent);
-        for (const Place& place : places) {
-            noteMatch(place, file);
-            const EditTable& table = tables[static_cast<std::size_t>(place.table)];
-            const EditTable::Row& row = table.rows[static_cast<std::size_t>(place.row)];
-            for (int i = 0; i < table.columns.size(); ++i) {
-                const EditTable::Column& column = table.columns[i];
-                if (row.cells[i].isEmpty() || column.path.isUnit) {
-                    continue;
-                }
-                const QString unit = column.unitColumn >= 0 ? row.cells[column.unitColumn] : column.unit;
-                try {
-                    changes +=
-                        edit.set(column, types[static_cast<std::size_t>(place.table)][i], unit, row.cells[i]);
-                } catch (const EditError& error) {
-                    tell(place, column.name, QString::fromUtf8(error.what()));
-                }
-            }
-        }
+        CellEdit edit(model, feature, options, hasOtherContent);
+        forEachCell(feature, file,
+                    [&](const CellPlace&, const CellEdit::Cell& cell) { changes += edit.set(cell) ? 1 : 0; });
     }
     if (changes > 0) {
         model.dirty(true);
     }
     return changes;
+}
+
+void TableImport::plan(CityGMLModel& model, int number, const QString& file,
+                       const std::function<void(const PlannedChange&)>& receive)
+{
+    gml::AbstractFeatureType& feature = *model.getFeature(number);
+    CellEdit edit(model, feature, options, hasOtherContent);
+    forEachCell(feature, file, [&](const CellPlace& place, const CellEdit::Cell& cell) {
+        if (const std::optional<CellChange> change = edit.plan(cell)) {
+            receive({number, rowOf(place.row).id, cell.column.name, cell.text, *change});
+        }
+    });
 }
 
 void TableImport::finish()
@@ -345,7 +211,7 @@ void TableImport::finish()
         for (std::size_t row = 0; row < tables[table].rows.size(); ++row) {
             if (matches[table][row].file.isNull()) {
                 tell({static_cast<int>(table), static_cast<int>(row)}, QString(),
-                     QStringLiteral("no document has such a feature"));
+                     tr("no document has such a feature"));
             }
         }
     }

@@ -2,8 +2,8 @@
 
 #include "apps/tables/FeatureRow.h"
 #include "apps/tables/OgrErrors.h"
-#include "apps/tables/TableFormat.h"
 #include "apps/tables/TableLayout.h"
+#include "apps/tables/TableTarget.h"
 
 #include <functional>
 #include <memory>
@@ -19,19 +19,6 @@ class OGRLayer;
 class OGRSpatialReference;
 
 namespace tolvik::tables {
-
-/// Where tables go.
-struct TableTarget
-{
-    /// A file; a folder, for a format that has a file for each table; or a database.
-    QString path;
-    const TableFormat* format = nullptr;
-    /// Whether the file is the table of the only type of features; tables of groups then stand beside it.
-    bool isOneType = false;
-    bool hasGeometry = false;
-    /// Whether tables that are in the database get more rows, in place of being written anew.
-    bool append = false;
-};
 
 /// Writes tables through OGR. Files come into being as a whole, at the end, in place of those of the same
 /// name. A database gets the rows of each document as a whole.
