@@ -199,6 +199,11 @@ void AttributeTable::showType(const QString& type)
     }
 }
 
+QString AttributeTable::type() const
+{
+    return isStale ? QString() : types->currentData().toString();
+}
+
 /// Offers the types of the document's features. The one that is shown stays, if it is among them.
 void AttributeTable::fillTypes()
 {

@@ -32,6 +32,10 @@ public:
     /// Shows the features of a type, if the document has any.
     void showType(const QString& type);
 
+    /// The type of the features that it shows; empty for none.
+    QString type() const;
+    const QVector<PropertyPath>& columns() const { return model->columns(); }
+
 public slots:
     /// Puts the selected cells on the clipboard, as text with tabs between them.
     void copy();

@@ -199,6 +199,25 @@
     </message>
 </context>
 <context>
+    <name>tolvik::apps::PropertyText</name>
+    <message>
+        <source>%1 cannot hold the character U+%2, as XML has no such character</source>
+        <translation>%1 kann das Zeichen U+%2 nicht enthalten, da XML es nicht kennt</translation>
+    </message>
+    <message>
+        <source>%1 cannot be edited</source>
+        <translation>%1 kann nicht bearbeitet werden</translation>
+    </message>
+    <message>
+        <source>%1 cannot be &quot;%2&quot;</source>
+        <translation>%1 kann nicht „%2“ sein</translation>
+    </message>
+    <message>
+        <source>%1 cannot be set to &quot;%2&quot;</source>
+        <translation>%1 kann nicht auf „%2“ gesetzt werden</translation>
+    </message>
+</context>
+<context>
     <name>tolvik::scene::AttributeColours</name>
     <message>
         <source>no value</source>
@@ -207,6 +226,75 @@
     <message>
         <source>other values</source>
         <translation>andere Werte</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::tables::CellEdit</name>
+    <message>
+        <source>the unit is &quot;%1&quot;, and not &quot;%2&quot;</source>
+        <translation>die Einheit ist „%1“ und nicht „%2“</translation>
+    </message>
+    <message>
+        <source>there is no value with the unit &quot;%1&quot; that could be changed</source>
+        <translation>es gibt keinen Wert mit der Einheit „%1“, der geändert werden könnte</translation>
+    </message>
+    <message>
+        <source>it is &quot;%1&quot;, which a table cannot change</source>
+        <translation>es ist „%1“, was eine Tabelle nicht ändern kann</translation>
+    </message>
+    <message>
+        <source>a name cannot have characters that XML has not</source>
+        <translation>ein Name kann keine Zeichen haben, die XML nicht kennt</translation>
+    </message>
+    <message>
+        <source>it cannot be removed</source>
+        <translation>es kann nicht entfernt werden</translation>
+    </message>
+    <message>
+        <source>the feature has no such attribute</source>
+        <translation>das Objekt hat kein solches Attribut</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::tables::GenericAttributes</name>
+    <message>
+        <source>&quot;%1&quot; is no number</source>
+        <translation>„%1“ ist keine Zahl</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no date</source>
+        <translation>„%1“ ist kein Datum</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no whole number</source>
+        <translation>„%1“ ist keine ganze Zahl</translation>
+    </message>
+    <message>
+        <source>the feature has no such attribute, and none can be made of the name</source>
+        <translation>das Objekt hat kein solches Attribut, und aus dem Namen kann keines gemacht werden</translation>
+    </message>
+    <message>
+        <source>XML has no such characters</source>
+        <translation>XML kennt solche Zeichen nicht</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::tables::TableImport</name>
+    <message>
+        <source>the feature is in %1 and in %2; a column &quot;file&quot; tells which is meant</source>
+        <translation>das Objekt ist in %1 und in %2; eine Spalte „file“ sagt, welches gemeint ist</translation>
+    </message>
+    <message>
+        <source>no document has such a feature</source>
+        <translation>kein Dokument hat ein solches Objekt</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; contradicts &quot;%2&quot; of line %3</source>
+        <translation>„%1“ widerspricht „%2“ aus Zeile %3</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; contradicts &quot;%2&quot; of row %3</source>
+        <translation>„%1“ widerspricht „%2“ aus Datensatz %3</translation>
     </message>
 </context>
 <context>
@@ -353,6 +441,65 @@
     <message>
         <source>&amp;None</source>
         <translation>&amp;Keine</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::ExportDialog</name>
+    <message>
+        <source>Text with commas</source>
+        <translation>Text mit Kommas</translation>
+    </message>
+    <message>
+        <source>GeoJSON with a line a feature</source>
+        <translation>GeoJSON mit einer Zeile je Objekt</translation>
+    </message>
+    <message>
+        <source>Spreadsheet</source>
+        <translation>Tabellenkalkulation</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>&amp;Exportieren...</translation>
+    </message>
+    <message>
+        <source>Export Table</source>
+        <translation>Tabelle exportieren</translation>
+    </message>
+    <message>
+        <source>&amp;Features</source>
+        <translation>&amp;Objekte</translation>
+    </message>
+    <message>
+        <source>&amp;Columns</source>
+        <translation>&amp;Spalten</translation>
+    </message>
+    <message>
+        <source>All types, a table each</source>
+        <translation>Alle Typen, je eine Tabelle</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>All that the features have</source>
+        <translation>Alle, die die Objekte haben</translation>
+    </message>
+    <message>
+        <source>Those of the table (%1)</source>
+        <translation>Die der Tabelle (%1)</translation>
+    </message>
+    <message>
+        <source>Reading the features…</source>
+        <translation>Die Objekte werden gelesen …</translation>
+    </message>
+    <message>
+        <source>Writing %1…</source>
+        <translation>%1 wird geschrieben …</translation>
+    </message>
+    <message>
+        <source>The table could not be written: %1</source>
+        <translation>Die Tabelle konnte nicht geschrieben werden: %1</translation>
     </message>
 </context>
 <context>
@@ -724,6 +871,113 @@ height&gt;3, function=1000 für Attribute. Eingabe führt zum nächsten Treffer.
     </message>
 </context>
 <context>
+    <name>tolvik::viewer::ImportDialog</name>
+    <message>
+        <source>&amp;Make generic attributes of columns that features have no attribute for</source>
+        <translation>&amp;Generische Attribute aus Spalten machen, für die Objekte kein Attribut haben</translation>
+    </message>
+    <message>
+        <source>&amp;Skip what cannot be set</source>
+        <translation>&amp;Überspringen, was nicht gesetzt werden kann</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Importieren</translation>
+    </message>
+    <message>
+        <source>Import %1</source>
+        <translation>%1 importieren</translation>
+    </message>
+    <message>
+        <source>no word: empty cells leave the attribute alone</source>
+        <translation>kein Wort: leere Zellen lassen das Attribut, wie es ist</translation>
+    </message>
+    <message>
+        <source>Column that &amp;names the feature</source>
+        <translation>Spalte, die das Objekt &amp;nennt</translation>
+    </message>
+    <message>
+        <source>&amp;Word that takes an attribute away</source>
+        <translation>&amp;Wort, das ein Attribut entfernt</translation>
+    </message>
+    <message>
+        <source>What the import changes</source>
+        <translation>Was der Import ändert</translation>
+    </message>
+    <message>
+        <source>Reading the table…</source>
+        <translation>Die Tabelle wird gelesen …</translation>
+    </message>
+    <message>
+        <source>Comparing the table with the document…</source>
+        <translation>Die Tabelle wird mit dem Dokument verglichen …</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln change(s)</source>
+        <translation>
+            <numerusform>%Ln Änderung</numerusform>
+            <numerusform>%Ln Änderungen</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>Joins the number of changes and the number of problems</extracomment>
+        <translation>%1, %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln problem(s)</source>
+        <translation>
+            <numerusform>%Ln Problem</numerusform>
+            <numerusform>%Ln Probleme</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>import of %1</source>
+        <translation>Import von %1</translation>
+    </message>
+    <message>
+        <source>Importing…</source>
+        <translation>Import läuft …</translation>
+    </message>
+    <message>
+        <source>Nothing was imported: %1: %2: %3</source>
+        <extracomment>Feature, attribute and reason</extracomment>
+        <translation>Nichts wurde importiert: %1: %2: %3</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::ImportPreview</name>
+    <message>
+        <source>Line %1: %2</source>
+        <extracomment>Number of the line or row of a table, and why it cannot be imported</extracomment>
+        <translation>Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>Row %1: %2</source>
+        <translation>Datensatz %1: %2</translation>
+    </message>
+    <message>
+        <source>absent</source>
+        <translation>fehlt</translation>
+    </message>
+    <message>
+        <source>Feature</source>
+        <translation>Objekt</translation>
+    </message>
+    <message>
+        <source>Attribute</source>
+        <translation>Attribut</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Jetzt</translation>
+    </message>
+    <message>
+        <source>After the import</source>
+        <translation>Nach dem Import</translation>
+    </message>
+</context>
+<context>
     <name>tolvik::viewer::ListEditor</name>
     <message>
         <source>Entries of the list</source>
@@ -1042,6 +1296,14 @@ height&gt;3, function=1000 für Attribute. Eingabe führt zum nächsten Treffer.
         <source>&amp;City</source>
         <translation>S&amp;tadt</translation>
     </message>
+    <message>
+        <source>&amp;Export Table...</source>
+        <translation>Tabelle &amp;exportieren...</translation>
+    </message>
+    <message>
+        <source>&amp;Import Table...</source>
+        <translation>Tabelle &amp;importieren...</translation>
+    </message>
 </context>
 <context>
     <name>tolvik::viewer::NoticeBar</name>
@@ -1291,6 +1553,33 @@ height&gt;3, function=1000 für Attribute. Eingabe führt zum nächsten Treffer.
     <message>
         <source>Give up what is going on</source>
         <translation>Abbrechen, was gerade läuft</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::TableCommands</name>
+    <message>
+        <source>%1 is written.</source>
+        <translation>%1 ist geschrieben.</translation>
+    </message>
+    <message>
+        <source>Import Table</source>
+        <translation>Tabelle importieren</translation>
+    </message>
+    <message>
+        <source>Tables (*.csv *.gpkg *.geojson *.geojsonl *.fgb *.xlsx *.ods *.dbf);;All files (*)</source>
+        <translation>Tabellen (*.csv *.gpkg *.geojson *.geojsonl *.fgb *.xlsx *.ods *.dbf);;Alle Dateien (*)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln cell(s) of %1 are imported.</source>
+        <extracomment>Name of a file</extracomment>
+        <translation>
+            <numerusform>%Ln Zelle von %1 ist importiert.</numerusform>
+            <numerusform>%Ln Zellen von %1 sind importiert.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 could not be imported: %2</source>
+        <translation>%1 konnte nicht importiert werden: %2</translation>
     </message>
 </context>
 <context>

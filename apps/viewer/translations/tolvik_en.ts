@@ -59,6 +59,23 @@
     </message>
 </context>
 <context>
+    <name>tolvik::viewer::ImportDialog</name>
+    <message numerus="yes">
+        <source>%Ln change(s)</source>
+        <translation>
+            <numerusform>%Ln change</numerusform>
+            <numerusform>%Ln changes</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln problem(s)</source>
+        <translation>
+            <numerusform>%Ln problem</numerusform>
+            <numerusform>%Ln problems</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>tolvik::viewer::MainWindow</name>
     <message numerus="yes">
         <source>The program has ended with %Ln unsaved change(s) of %1.</source>
@@ -99,6 +116,17 @@
         <translation>
             <numerusform>%n feature</numerusform>
             <numerusform>%n features</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::TableCommands</name>
+    <message numerus="yes">
+        <source>%Ln cell(s) of %1 are imported.</source>
+        <extracomment>Name of a file</extracomment>
+        <translation>
+            <numerusform>%Ln cell of %1 is imported.</numerusform>
+            <numerusform>%Ln cells of %1 are imported.</numerusform>
         </translation>
     </message>
 </context>

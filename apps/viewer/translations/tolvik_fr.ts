@@ -199,6 +199,25 @@
     </message>
 </context>
 <context>
+    <name>tolvik::apps::PropertyText</name>
+    <message>
+        <source>%1 cannot hold the character U+%2, as XML has no such character</source>
+        <translation>%1 ne peut pas contenir le caractère U+%2, que XML ne connaît pas</translation>
+    </message>
+    <message>
+        <source>%1 cannot be edited</source>
+        <translation>%1 ne peut pas être modifié</translation>
+    </message>
+    <message>
+        <source>%1 cannot be &quot;%2&quot;</source>
+        <translation>%1 ne peut pas être « %2 »</translation>
+    </message>
+    <message>
+        <source>%1 cannot be set to &quot;%2&quot;</source>
+        <translation>%1 ne peut pas recevoir « %2 »</translation>
+    </message>
+</context>
+<context>
     <name>tolvik::scene::AttributeColours</name>
     <message>
         <source>no value</source>
@@ -207,6 +226,75 @@
     <message>
         <source>other values</source>
         <translation>autres valeurs</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::tables::CellEdit</name>
+    <message>
+        <source>the unit is &quot;%1&quot;, and not &quot;%2&quot;</source>
+        <translation>l&apos;unité est « %1 », et non « %2 »</translation>
+    </message>
+    <message>
+        <source>there is no value with the unit &quot;%1&quot; that could be changed</source>
+        <translation>il n&apos;y a pas de valeur d&apos;unité « %1 » à modifier</translation>
+    </message>
+    <message>
+        <source>it is &quot;%1&quot;, which a table cannot change</source>
+        <translation>c&apos;est « %1 », ce qu&apos;une table ne peut pas changer</translation>
+    </message>
+    <message>
+        <source>a name cannot have characters that XML has not</source>
+        <translation>un nom ne peut pas avoir de caractères que XML ne connaît pas</translation>
+    </message>
+    <message>
+        <source>it cannot be removed</source>
+        <translation>cela ne peut pas être enlevé</translation>
+    </message>
+    <message>
+        <source>the feature has no such attribute</source>
+        <translation>l&apos;objet n&apos;a pas cet attribut</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::tables::GenericAttributes</name>
+    <message>
+        <source>&quot;%1&quot; is no number</source>
+        <translation>« %1 » n&apos;est pas un nombre</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no date</source>
+        <translation>« %1 » n&apos;est pas une date</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no whole number</source>
+        <translation>« %1 » n&apos;est pas un nombre entier</translation>
+    </message>
+    <message>
+        <source>the feature has no such attribute, and none can be made of the name</source>
+        <translation>l&apos;objet n&apos;a pas cet attribut, et le nom ne permet pas d&apos;en créer un</translation>
+    </message>
+    <message>
+        <source>XML has no such characters</source>
+        <translation>XML ne connaît pas de tels caractères</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::tables::TableImport</name>
+    <message>
+        <source>the feature is in %1 and in %2; a column &quot;file&quot; tells which is meant</source>
+        <translation>l&apos;objet est dans %1 et dans %2 ; une colonne « file » dit lequel est visé</translation>
+    </message>
+    <message>
+        <source>no document has such a feature</source>
+        <translation>aucun document n&apos;a un tel objet</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; contradicts &quot;%2&quot; of line %3</source>
+        <translation>« %1 » contredit « %2 » de la ligne %3</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; contradicts &quot;%2&quot; of row %3</source>
+        <translation>« %1 » contredit « %2 » de l&apos;enregistrement %3</translation>
     </message>
 </context>
 <context>
@@ -353,6 +441,65 @@
     <message>
         <source>&amp;None</source>
         <translation>&amp;Aucune</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::ExportDialog</name>
+    <message>
+        <source>Text with commas</source>
+        <translation>Texte à virgules</translation>
+    </message>
+    <message>
+        <source>GeoJSON with a line a feature</source>
+        <translation>GeoJSON, une ligne par objet</translation>
+    </message>
+    <message>
+        <source>Spreadsheet</source>
+        <translation>Feuille de calcul</translation>
+    </message>
+    <message>
+        <source>&amp;Export...</source>
+        <translation>&amp;Exporter...</translation>
+    </message>
+    <message>
+        <source>Export Table</source>
+        <translation>Exporter une table</translation>
+    </message>
+    <message>
+        <source>&amp;Features</source>
+        <translation>&amp;Objets</translation>
+    </message>
+    <message>
+        <source>&amp;Columns</source>
+        <translation>&amp;Colonnes</translation>
+    </message>
+    <message>
+        <source>All types, a table each</source>
+        <translation>Tous les types, une table chacun</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>All that the features have</source>
+        <translation>Toutes celles des objets</translation>
+    </message>
+    <message>
+        <source>Those of the table (%1)</source>
+        <translation>Celles de la table (%1)</translation>
+    </message>
+    <message>
+        <source>Reading the features…</source>
+        <translation>Lecture des objets…</translation>
+    </message>
+    <message>
+        <source>Writing %1…</source>
+        <translation>Écriture de %1…</translation>
+    </message>
+    <message>
+        <source>The table could not be written: %1</source>
+        <translation>La table n&apos;a pas pu être écrite : %1</translation>
     </message>
 </context>
 <context>
@@ -724,6 +871,113 @@ height&gt;3, function=1000 pour les attributs. Entrée mène au résultat suivan
     </message>
 </context>
 <context>
+    <name>tolvik::viewer::ImportDialog</name>
+    <message>
+        <source>&amp;Make generic attributes of columns that features have no attribute for</source>
+        <translation>&amp;Créer des attributs génériques pour les colonnes sans attribut</translation>
+    </message>
+    <message>
+        <source>&amp;Skip what cannot be set</source>
+        <translation>&amp;Sauter ce qui ne peut pas être écrit</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>&amp;Importer</translation>
+    </message>
+    <message>
+        <source>Import %1</source>
+        <translation>Importer %1</translation>
+    </message>
+    <message>
+        <source>no word: empty cells leave the attribute alone</source>
+        <translation>aucun mot : les cellules vides laissent l&apos;attribut tel quel</translation>
+    </message>
+    <message>
+        <source>Column that &amp;names the feature</source>
+        <translation>Colonne qui &amp;nomme l&apos;objet</translation>
+    </message>
+    <message>
+        <source>&amp;Word that takes an attribute away</source>
+        <translation>&amp;Mot qui enlève un attribut</translation>
+    </message>
+    <message>
+        <source>What the import changes</source>
+        <translation>Ce que l&apos;importation change</translation>
+    </message>
+    <message>
+        <source>Reading the table…</source>
+        <translation>Lecture de la table…</translation>
+    </message>
+    <message>
+        <source>Comparing the table with the document…</source>
+        <translation>Comparaison de la table et du document…</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln change(s)</source>
+        <translation>
+            <numerusform>%Ln changement</numerusform>
+            <numerusform>%Ln changements</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>Joins the number of changes and the number of problems</extracomment>
+        <translation>%1, %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln problem(s)</source>
+        <translation>
+            <numerusform>%Ln problème</numerusform>
+            <numerusform>%Ln problèmes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>import of %1</source>
+        <translation>importation de %1</translation>
+    </message>
+    <message>
+        <source>Importing…</source>
+        <translation>Importation…</translation>
+    </message>
+    <message>
+        <source>Nothing was imported: %1: %2: %3</source>
+        <extracomment>Feature, attribute and reason</extracomment>
+        <translation>Rien n&apos;a été importé : %1 : %2 : %3</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::ImportPreview</name>
+    <message>
+        <source>Line %1: %2</source>
+        <extracomment>Number of the line or row of a table, and why it cannot be imported</extracomment>
+        <translation>Ligne %1 : %2</translation>
+    </message>
+    <message>
+        <source>Row %1: %2</source>
+        <translation>Enregistrement %1 : %2</translation>
+    </message>
+    <message>
+        <source>absent</source>
+        <translation>absent</translation>
+    </message>
+    <message>
+        <source>Feature</source>
+        <translation>Objet</translation>
+    </message>
+    <message>
+        <source>Attribute</source>
+        <translation>Attribut</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Maintenant</translation>
+    </message>
+    <message>
+        <source>After the import</source>
+        <translation>Après l&apos;importation</translation>
+    </message>
+</context>
+<context>
     <name>tolvik::viewer::ListEditor</name>
     <message>
         <source>Entries of the list</source>
@@ -1042,6 +1296,14 @@ height&gt;3, function=1000 pour les attributs. Entrée mène au résultat suivan
         <source>&amp;City</source>
         <translation>&amp;Ville</translation>
     </message>
+    <message>
+        <source>&amp;Export Table...</source>
+        <translation>&amp;Exporter une table...</translation>
+    </message>
+    <message>
+        <source>&amp;Import Table...</source>
+        <translation>&amp;Importer une table...</translation>
+    </message>
 </context>
 <context>
     <name>tolvik::viewer::NoticeBar</name>
@@ -1291,6 +1553,33 @@ height&gt;3, function=1000 pour les attributs. Entrée mène au résultat suivan
     <message>
         <source>Give up what is going on</source>
         <translation>Abandonner l&apos;opération en cours</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::TableCommands</name>
+    <message>
+        <source>%1 is written.</source>
+        <translation>%1 est écrit.</translation>
+    </message>
+    <message>
+        <source>Import Table</source>
+        <translation>Importer une table</translation>
+    </message>
+    <message>
+        <source>Tables (*.csv *.gpkg *.geojson *.geojsonl *.fgb *.xlsx *.ods *.dbf);;All files (*)</source>
+        <translation>Tables (*.csv *.gpkg *.geojson *.geojsonl *.fgb *.xlsx *.ods *.dbf);;Tous les fichiers (*)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln cell(s) of %1 are imported.</source>
+        <extracomment>Name of a file</extracomment>
+        <translation>
+            <numerusform>%Ln cellule de %1 est importée.</numerusform>
+            <numerusform>%Ln cellules de %1 sont importées.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 could not be imported: %2</source>
+        <translation>%1 n&apos;a pas pu être importé : %2</translation>
     </message>
 </context>
 <context>

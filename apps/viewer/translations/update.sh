@@ -10,7 +10,7 @@ folder=${1:-apps/viewer/translations}
 update() {
     # The compiler's include paths, without which texts would be listed under other classes than theirs.
     lupdate -silent -no-obsolete -locations none -source-language en_US -I . -I interfaces \
-        apps/common apps/viewer plugin platform scene UI "$@" 2>/dev/null
+        apps/common apps/tables apps/viewer plugin platform scene UI "$@" 2>/dev/null
 }
 
 update -target-language fr_FR -ts "$folder/tolvik_fr.ts"

@@ -2,8 +2,10 @@
 
 #include "apps/viewer/application/Colours.h"
 #include "apps/viewer/document/Document.h"
+#include "apps/viewer/edits/EditGroup.h"
 #include "apps/viewer/edits/FeatureRemoval.h"
 #include "apps/viewer/edits/PropertyEdit.h"
+#include "apps/viewer/exchange/TableCommands.h"
 #include "apps/viewer/features/FeatureActions.h"
 #include "apps/viewer/features/FeatureBrowser.h"
 #include "apps/viewer/features/FeatureReferences.h"
@@ -236,8 +238,10 @@ QDockWidget* MainWindow::addEditingPanels()
 {
     PropertyEdit::addMaker();
     FeatureRemoval::addMaker();
+    EditGroup::addMaker();
     auto* const properties = new PropertyPanel(*shown);
     auto* const table = new AttributeTable(*shown);
+    tableCommands = new TableCommands(*shown, *table, *this);
     addPanel(tr("Properties"), QStringLiteral("properties"), properties, Qt::RightDockWidgetArea);
     connect(properties, &PropertyPanel::linkActivated, this, &MainWindow::follow);
     connect(table, &AttributeTable::linkActivated, this, &MainWindow::follow);
@@ -324,6 +328,11 @@ QMenu* MainWindow::makeFileMenu()
     saveAsAction = menu->addAction(tr("Save &As..."), files, &FileCommands::saveAs);
     saveAsAction->setShortcut(QKeySequence::SaveAs);
     saveAsAction->setObjectName(QStringLiteral("saveAs"));
+    menu->addSeparator();
+    exportAction = menu->addAction(tr("&Export Table..."), tableCommands, &TableCommands::exportTable);
+    exportAction->setObjectName(QStringLiteral("exportTable"));
+    importAction = menu->addAction(tr("&Import Table..."), tableCommands, &TableCommands::importTable);
+    importAction->setObjectName(QStringLiteral("importTable"));
     menu->addSeparator();
     action = menu->addAction(tr("&Close Window"), this, &QWidget::close);
     action->setShortcut(QKeySequence::Close);
@@ -431,9 +440,8 @@ void MainWindow::connectDocument()
         updateTitle();
         showFindings();
     });
-    connect(fileCommands.get(), &FileCommands::told, log, &LogModel::add);
-    connect(fileCommands.get(), &FileCommands::told, this,
-            [this](int, const QString& text) { statusBar()->showMessage(text, messageMilliseconds); });
+    connect(fileCommands.get(), &FileCommands::told, this, &MainWindow::tell);
+    connect(tableCommands, &TableCommands::told, this, &MainWindow::tell);
     connect(fileCommands.get(), &FileCommands::savingChanged, this, &MainWindow::holdEdits);
     connect(journal, &Journal::failed, this, [this](const QString& reason) {
         log->add(LogModel::Warning, tr("Changes are not kept for a recovery: %1").arg(reason));
@@ -444,15 +452,20 @@ void MainWindow::connectDocument()
     connect(&LogSource::instance(), &LogSource::logged, log, &LogModel::add);
 }
 
+/// Tells something that may be looked up later.
+void MainWindow::tell(int level, const QString& text)
+{
+    log->add(level, text);
+    statusBar()->showMessage(text, messageMilliseconds);
+}
+
 /// Edits wait while the document is being written.
 void MainWindow::holdEdits(bool hold)
 {
     for (const char* const name : {"propertiesDock", "tableDock"}) {
         findChild<QDockWidget*>(QLatin1String(name))->widget()->setEnabled(!hold);
     }
-    for (QAction* const action : {saveAction, saveAsAction, reloadAction}) {
-        action->setEnabled(!hold && shown->isOpen());
-    }
+    enableFileActions(!hold && shown->isOpen());
     actionsOfFeatures->remove->setEnabled(!hold && shown->selection().hasSelection());
     findChild<QAction*>(QStringLiteral("open"))->setEnabled(!hold);
     findChild<QAction*>(QStringLiteral("undo"))->setEnabled(!hold && shown->undoStack().canUndo());
@@ -466,9 +479,15 @@ void MainWindow::updateTitle()
     setWindowTitle(file.isEmpty() ? tr("Tolvik") : tr("%1[*] - Tolvik").arg(file));
     setWindowFilePath(shown->fileName());
     setWindowModified(shown->isModified());
-    saveAction->setEnabled(shown->isOpen());
-    saveAsAction->setEnabled(shown->isOpen());
-    reloadAction->setEnabled(shown->isOpen());
+    enableFileActions(shown->isOpen());
+}
+
+/// The actions that need a document which nobody is writing.
+void MainWindow::enableFileActions(bool enable)
+{
+    for (QAction* const action : {saveAction, saveAsAction, reloadAction, exportAction, importAction}) {
+        action->setEnabled(enable);
+    }
 }
 
 void MainWindow::showFindings()

@@ -20,6 +20,7 @@ class NoticeBar;
 class Recovery;
 class ReferrerSearch;
 class StatusProgress;
+class TableCommands;
 class ViewPanel;
 
 /// One window with one document: the city in its middle, the features at its left, their properties at its
@@ -77,7 +78,9 @@ private:
     QString describe(int row) const;
     void fillRecentFiles(QMenu& menu);
     void connectDocument();
+    void tell(int level, const QString& text);
     void holdEdits(bool hold);
+    void enableFileActions(bool enable);
     void updateTitle();
     void showFindings();
     void showAbout();
@@ -94,11 +97,14 @@ private:
     ReferrerSearch* referrers;
     FindingsPanel* findings = nullptr;
     ViewPanel* city = nullptr;
+    TableCommands* tableCommands = nullptr;
     std::unique_ptr<FileCommands> fileCommands;
     QVector<QDockWidget*> panels;
     QAction* saveAction = nullptr;
     QAction* saveAsAction = nullptr;
     QAction* reloadAction = nullptr;
+    QAction* exportAction = nullptr;
+    QAction* importAction = nullptr;
 };
 
 } // namespace tolvik::viewer
