@@ -8,6 +8,7 @@
 #include "gml/CodeType.hxx"
 #include "gml/FeaturePropertyType.hxx"
 #include "gml/LengthType.hxx"
+#include "platform/binding/kept/KeptContent.h"
 #include "support/Documents.h"
 #include "support/Files.h"
 #include "support/Mutants.h"
@@ -59,6 +60,20 @@ Q_DECLARE_METATYPE(Edit)
 class DocumentChangesTest : public QObject
 {
     Q_OBJECT
+
+private:
+    /// Makes the edit of a row, which is to show as other bytes at one place.
+    static void verifyEdit(const QByteArray& original)
+    {
+        QFETCH(Edit, edit);
+        QFETCH(QByteArray, from);
+        QFETCH(QByteArray, to);
+        const Document document = read(original);
+        edit(*document);
+        const QByteArray actual = saved(original, *document);
+        const QByteArray expected = QByteArray(original).replace(from, to);
+        QVERIFY2(actual == expected, parting(actual, expected));
+    }
 
 private slots:
     void anUneditedDocumentComesBack_data() { addPathRows(exampleAndSharedDocuments()); }
@@ -207,15 +222,135 @@ private slots:
     void onlyTheEditShows()
     {
         QFETCH(QByteArray, members);
-        QFETCH(Edit, edit);
-        QFETCH(QByteArray, from);
-        QFETCH(QByteArray, to);
-        const QByteArray original = documentText(members);
+        verifyEdit(documentText(members));
+    }
+
+    void onlyTheEditsShowInAnyEncoding_data()
+    {
+        QTest::addColumn<QByteArray>("start");
+        QTest::addColumn<QByteArray>("lineEnd");
+        const QVector<QPair<const char*, QByteArray>> starts{
+            {"UTF-8", ""},
+            {"UTF-8 with a mark", "\xEF\xBB\xBF"},
+            {"UTF-16, little", "\xFF\xFE"},
+            {"UTF-16, big", "\xFE\xFF"},
+            {"ISO-8859-1", "<?xml version='1.0' encoding='ISO-8859-1'?>"},
+            {"ISO-8859-15 with a mark", "\xEF\xBB\xBF<?xml version='1.0' encoding='ISO-8859-15'?>"},
+            {"US-ASCII", "<?xml version='1.0' encoding=\"us-ascii\"?>"},
+            {"document type", "<!DOCTYPE core:CityModel [<!ENTITY e 'x'><!ENTITY f 'y'>]>"}};
+        for (const auto& start : starts) {
+            for (const QByteArray lineEnd : {"\n\t", "\r\n  ", ""}) {
+                const QByteArray name = lineEnd.isEmpty() ? ", one line" : lineEnd == "\n\t" ? "" : ", CRLF";
+                QTest::newRow(start.first + name) << start.second << lineEnd;
+            }
+        }
+    }
+
+    /// Each kind of edit, with characters of which many encodings have none.
+    void onlyTheEditsShowInAnyEncoding()
+    {
+        QFETCH(QByteArray, start);
+        QFETCH(QByteArray, lineEnd);
+        const auto member = [&](const QByteArray& content) {
+            return lineEnd + "<core:cityObjectMember ><bldg:Building >" + content +
+                   "</bldg:Building></core:cityObjectMember>";
+        };
+        const QByteArray special = "\xC3\xA4\xE2\x82\xAC\xF0\x90\x90\xB7";
+        const QByteArray function = lineEnd + "<bldg:function >1</bldg:function>";
+        const QByteArray height = lineEnd + "<bldg:measuredHeight uom = 'm' >  12.50 </bldg:measuredHeight>";
+        const QByteArray gone = member(lineEnd + "<bldg:class>gone</bldg:class>");
+        const QByteArray before = documentText(
+            gone + member(lineEnd + "<bldg:class  codeSpace='c'>\xC3\xB6<!--\xC3\xBC--></bldg:class>" +
+                          function + height + lineEnd));
+        const QByteArray after = documentText(member(
+            lineEnd + "<bldg:class  codeSpace='&lt;&apos;" + special + "'>" +
+            "\xC3\xB6<!--\xC3\xBC--></bldg:class>" + function + lineEnd + "<bldg:function>" + special +
+            "</bldg:function>" +
+            QByteArray(height).replace("12.50", "13.5").replace("'m'", "'" + special + "'") + lineEnd));
+
+        const auto encoded = [&](const QByteArray& text) { return start + Variant{"", start}.encoded(text); };
+        const QByteArray original = encoded(before);
         const Document document = read(original);
-        edit(*document);
-        const QByteArray actual = saved(original, *document);
-        const QByteArray expected = QByteArray(original).replace(from, to);
-        QVERIFY2(actual == expected, parting(actual, expected));
+        document->featureMember().erase(document->featureMember().begin());
+        bldg::BuildingType& building = buildingIn(*document);
+        building.class_()->codeSpace("<'" + special.toStdString());
+        building.function().push_back(gml::CodeType(special.toStdString()));
+        static_cast<double&>(*building.measuredHeight()) = 13.5;
+        building.measuredHeight()->uom(special.toStdString());
+        const QByteArray actual = saved(original, *document), expected = encoded(after);
+        QVERIFY2(actual == expected, parting(Variant{"", actual}.text(), Variant{"", expected}.text()));
+    }
+
+    void onlyTheEditShowsInAnyDocument_data()
+    {
+        QTest::addColumn<QByteArray>("original");
+        QTest::addColumn<Edit>("edit");
+        QTest::addColumn<QByteArray>("from");
+        QTest::addColumn<QByteArray>("to");
+        const auto setClass = [](const std::string& text) {
+            return Edit([text](core::CityModelType& document) {
+                static_cast<std::string&>(*buildingIn(document).class_()) = text;
+            });
+        };
+        const QByteArray section = buildingMember("<bldg:class><![CDATA[1]]></bldg:class>");
+        QTest::newRow("CDATA section with what the encoding lacks")
+            << "<?xml version='1.0' encoding='ISO-8859-1'?>" + documentText(section)
+            << setClass("<\xE2\x82\xAC") << QByteArray("<![CDATA[1]]>") << QByteArray("&lt;&#8364;");
+        QTest::newRow("CDATA section with what ends it")
+            << documentText(section) << setClass("]]>") << QByteArray("<![CDATA[1]]>")
+            << QByteArray("]]&gt;");
+
+        const QByteArray entities = "<!DOCTYPE core:CityModel [<!ENTITY e 'x'>"
+                                    "<!ENTITY f '<bldg:function>1</bldg:function>'>]>\n";
+        const QByteArray useOfEntities =
+            entities +
+            documentText(buildingMember("<bldg:class>&e;1</bldg:class>\n <bldg:function>&e;</bldg:function>"
+                                        "\n <bldg:roofType >&e;</bldg:roofType>\n"));
+        QTest::newRow("value with an entity")
+            << useOfEntities << setClass("2") << QByteArray(">&e;1<") << QByteArray(">2<");
+        QTest::newRow("value beside entities")
+            << useOfEntities
+            << Edit([](core::CityModelType& document) { buildingIn(document).function().pop_back(); })
+            << QByteArray("\n <bldg:function>&e;</bldg:function>") << QByteArray();
+        const QByteArray elementOfEntity =
+            entities + documentText(buildingMember("&f;") + buildingMember(section, "c"));
+        QTest::newRow("element of an entity")
+            << elementOfEntity << Edit([](core::CityModelType& document) {
+                   buildingIn(document).function().push_back(gml::CodeType("2"));
+               })
+            << QByteArray(">&f;<")
+            << QByteArray("><bldg:function>1</bldg:function><bldg:function>2</bldg:function><");
+
+        const QByteArray prefixes =
+            "<CityModel xmlns='http://www.opengis.net/citygml/2.0' xmlns:g='http://www.opengis.net/gml'>\n"
+            " <cityObjectMember><b:Building xmlns:b='http://www.opengis.net/citygml/building/2.0'>\n"
+            "  <b:class g:codeSpace='c'>1</b:class>\n </b:Building></cityObjectMember>\n</CityModel>";
+        QTest::newRow("other prefixes") << prefixes << Edit([](core::CityModelType& document) {
+            bldg::BuildingType& building = buildingIn(document);
+            building.id("i");
+            building.name().push_back(gml::CodeType("n"));
+            building.creationDate(xml_schema::date(2001, 2, 3));
+        }) << QByteArray("2.0'>\n  <b:")
+                                        << QByteArray("2.0' g:id=\"i\">\n  <g:name>n</g:name>\n"
+                                                      "  <creationDate>2001-02-03</creationDate>\n  <b:");
+    }
+
+    void onlyTheEditShowsInAnyDocument()
+    {
+        QFETCH(QByteArray, original);
+        verifyEdit(original);
+    }
+
+    void aCommentHasNoReferences()
+    {
+        const QByteArray original =
+            "<?xml version='1.0' encoding='ISO-8859-1'?>" + documentText(buildingMember("<!--a-->"));
+        const Document document = read(original);
+        std::string& comment = citygml::binding::KeptContent::find(buildingIn(*document))->node(0)->xml;
+        comment = "<!--\xC3\xA4-->";
+        QCOMPARE(saved(original, *document), QByteArray(original).replace("<!--a-->", "<!--\xE4-->"));
+        comment = "<!--\xE2\x82\xAC-->";
+        QVERIFY(saved(original, *document).isNull());
     }
 };
 
