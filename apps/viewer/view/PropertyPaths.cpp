@@ -4,10 +4,6 @@
 #include "gml/AbstractFeatureType.hxx"
 #include "UI/Models/CityGMLModel/CityGMLModel.h"
 
-#include <map>
-#include <QSet>
-#include <typeindex>
-
 namespace tolvik::viewer {
 
 namespace {
@@ -27,16 +23,21 @@ void collect(CoreProperty& parent, const QString& prefix, QSet<QString>& paths)
 
 } // namespace
 
-QStringList propertyPathsOf(const CityGMLModel& model)
+void PropertyPaths::look(const CityGMLModel& model, int row)
 {
-    std::map<std::type_index, int> seen;
-    QSet<QString> paths;
-    for (int row = 0; row < model.rowCount(); ++row) {
-        const gml::AbstractFeatureType& feature = *model.getFeature(row);
-        if (seen[typeid(feature)]++ < featuresOfType) {
-            collect(*model.getProperty(model.index(row, 0)), QString(), paths);
-        }
+    if (row >= model.rowCount()) {
+        return;
     }
+    const gml::AbstractFeatureType& feature = *model.getFeature(row);
+    int& count = seen[typeid(feature)];
+    if (count < featuresOfType) {
+        ++count;
+        collect(*model.getProperty(model.index(row, 0)), QString(), paths);
+    }
+}
+
+QStringList PropertyPaths::sorted() const
+{
     QStringList sorted = paths.values();
     sorted.sort();
     return sorted;

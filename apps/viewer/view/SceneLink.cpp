@@ -18,6 +18,8 @@ namespace {
 
 /// Of a slice of work, in milliseconds: short enough that nobody sees the window stand still.
 constexpr int sliceLength = 12;
+/// Between two steps of the progress, in milliseconds: the whole window is composed anew for each.
+constexpr qint64 progressInterval = 250;
 /// Between two looks whether other threads are ready, in milliseconds.
 constexpr int waitingLength = 10;
 /// Between two pictures while features are added, in milliseconds.
@@ -74,6 +76,7 @@ void SceneLink::begin()
     stateCount = 0;
     pictureTime = 0;
     sincePicture.invalidate();
+    sinceProgress.start();
     isPictureAwaited = areTilesNew = false;
     isComing = count > 0;
     emit begun();
@@ -91,7 +94,8 @@ void SceneLink::workOn()
     const bool isMore = city->addSome(sliceLength);
     takeState();
     areTilesNew = city->takeFinished() || areTilesNew;
-    if (isComing) {
+    if (isComing && sinceProgress.elapsed() > progressInterval) {
+        sinceProgress.start();
         emit progressed(city->progress());
     }
     if (!isMore && !city->isBusy()) {

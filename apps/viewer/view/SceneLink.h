@@ -85,6 +85,7 @@ private:
     /// Since the last picture while features are added, which is there when the next slice begins.
     QElapsedTimer sincePicture;
     qint64 pictureTime = 0;
+    QElapsedTimer sinceProgress;
     bool isPictureAwaited = false;
     bool areTilesNew = false;
     bool isComing = false;

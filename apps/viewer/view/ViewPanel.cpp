@@ -4,7 +4,6 @@
 #include "apps/viewer/features/FeatureRows.h"
 #include "apps/viewer/view/CityView.h"
 #include "apps/viewer/view/PictureDialog.h"
-#include "apps/viewer/view/PropertyPaths.h"
 #include "apps/viewer/view/SceneLink.h"
 #include "apps/viewer/view/ViewOverlay.h"
 
@@ -335,6 +334,7 @@ void ViewPanel::moveSection()
 void ViewPanel::showDocument()
 {
     marks->clearPlaces();
+    lookingForPaths.stop();
     sectionAxis->setCurrentIndex(0);
     section->setValue(sectionSteps);
     coordinates->setText(sceneLink->scene().coordinateSystem());
@@ -344,7 +344,10 @@ void ViewPanel::showDocument()
 void ViewPanel::showFinished()
 {
     fillThemes();
-    fillAttributes();
+    paths = PropertyPaths();
+    lookingForPaths.start(
+        document.model().rowCount(), [this](int row) { paths.look(document.model(), row); },
+        [this] { fillAttributes(); });
     emit told(tr("%L1 triangles").arg(sceneLink->scene().counts().triangles));
     const QStringList missing = sceneLink->scene().looks().missing();
     if (!missing.isEmpty()) {
@@ -371,7 +374,7 @@ void ViewPanel::fillAttributes()
     const QString chosen = sceneLink->colourPath();
     attributes->clear();
     attributes->addItem(tr("Colours of the types"), QString());
-    for (const QString& path : propertyPathsOf(document.model())) {
+    for (const QString& path : paths.sorted()) {
         attributes->addItem(path.section('/', 1), path);
     }
     if (!chosen.isEmpty() && attributes->findData(chosen) < 0) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "apps/viewer/features/SlicedWork.h"
+#include "apps/viewer/view/PropertyPaths.h"
 #include "scene/Camera.h"
 
 #include <QWidget>
@@ -87,6 +89,8 @@ private:
     SceneLink* sceneLink = nullptr;
     CityView* city = nullptr;
     ViewOverlay* marks = nullptr;
+    PropertyPaths paths;
+    SlicedWork lookingForPaths;
     QVBoxLayout* layout;
     QVector<QAction*> actionsOfView; // in the order of the menu, null for a line between
     QComboBox* lods = nullptr;
