@@ -104,7 +104,7 @@ private:
         if (expected < 0) {
             return;
         }
-        if (expected == 0 && QFileInfo(file).isFile()) {
+        if (expected == 0 && !options.isPlain && QFileInfo(file).isFile()) {
             copy(file, output);
             return;
         }

@@ -49,6 +49,7 @@ struct ApplyOptions
     QString absent;   ///< empty where no cell removes an attribute
     bool create = false;
     bool skipBad = false;
+    bool isPlain = false; ///< whether documents without changes are written anew, too
 };
 
 /// The options contradict each other or the target.

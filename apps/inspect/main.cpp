@@ -81,7 +81,7 @@ FILE is a CityGML 2.0 document; `-` reads one from standard input.
                          --all adds "Other content"; --append adds rows to tables of a database
   columns OUT FILE...    join such files of the parts of a city to one for the whole
   apply TABLE FILE... (--out OUT | --out-dir DIR) [--id-column COLUMN] [--sql QUERY] [--create]
-        [--absent WORD] [--skip-bad]
+        [--absent WORD] [--skip-bad] [--plain]
                          set attributes from a table that GDAL reads, with a row a feature and columns
                          as `table` writes them: gml:id, or COLUMN, names the feature, and `file` its
                          document. Empty cells leave an attribute alone, and WORD removes it. --create
@@ -315,12 +315,12 @@ public:
         sources[&model] = source;
         return isLoaded;
     }
-    bool save(CityGMLModel& model, const QString& output)
+    bool save(CityGMLModel& model, const QString& output, apps::DocumentSaving::Form form)
     {
         std::unique_lock<std::mutex> lock(mutex);
         apps::DocumentSaving saving(model, sources[&model]);
         lock.unlock();
-        return saveDocument(saving, output, apps::DocumentSaving::Form::Changes, std::cerr);
+        return saveDocument(saving, output, form, std::cerr);
     }
 
 private:
@@ -328,12 +328,15 @@ private:
     std::map<const CityGMLModel*, apps::SourceFile> sources;
 };
 
-TableDocuments tableDocuments(const DocumentFiles& files)
+TableDocuments tableDocuments(const DocumentFiles& files,
+                              apps::DocumentSaving::Form form = apps::DocumentSaving::Form::Changes)
 {
     const auto sources = std::make_shared<Sources>();
     return {files.paths(),
             [sources](CityGMLModel& model, const QString& file) { return sources->load(model, file); },
-            [sources](CityGMLModel& model, const QString& output) { return sources->save(model, output); },
+            [sources, form](CityGMLModel& model, const QString& output) {
+                return sources->save(model, output, form);
+            },
             &std::cerr};
 }
 
@@ -379,8 +382,9 @@ int columns(const QStringList& given)
 
 int apply(const QStringList& given)
 {
-    const Arguments arguments(given, {"TABLE", "FILE..."},
-                              {"out=", "out-dir=", "id-column=", "sql=", "absent=", "create", "skip-bad"});
+    const Arguments arguments(
+        given, {"TABLE", "FILE..."},
+        {"out=", "out-dir=", "id-column=", "sql=", "absent=", "create", "skip-bad", "plain"});
     ApplyOptions options;
     options.table = arguments.at("TABLE");
     options.sql = arguments.value("sql");
@@ -390,9 +394,10 @@ int apply(const QStringList& given)
     options.absent = arguments.value("absent");
     options.create = arguments.has("create");
     options.skipBad = arguments.has("skip-bad");
+    options.isPlain = arguments.has("plain");
     const DocumentFiles files = arguments.documents();
     try {
-        const int code = TableModule::load().applyTables(options, tableDocuments(files));
+        const int code = TableModule::load().applyTables(options, tableDocuments(files, formOf(arguments)));
         return files.areComplete() ? code : failure;
     } catch (const TableUsageError& error) {
         throw UsageError(error.what());

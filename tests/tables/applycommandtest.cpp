@@ -78,6 +78,20 @@ private slots:
         QCOMPARE(written(">8.25<", ">7<"), saved("a.gml"));
     }
 
+    void aPlainDocumentIsWrittenAnew()
+    {
+        const auto plain = [this](const QString& name) {
+            return inspect({"save", path(name), path("plain.gml"), "--plain"}).code == 0
+                       ? contentOf(path("plain.gml"))
+                       : QByteArray();
+        };
+        QCOMPARE(apply("gml:id,Fields/MeasuredHeight\ntwo,8.25\n", {"--plain"}).code, 0);
+        QCOMPARE(written(">8.25<", ">7<"), plain("a.gml"));
+        QVERIFY(plain("a.gml") != contentOf(path("a.gml")));
+        QCOMPARE(apply("gml:id,Fields/MeasuredHeight\ntwo,7\n", {"--plain"}).code, 0);
+        QCOMPARE(contentOf(path("out.gml")), plain("a.gml"));
+    }
+
     void whatIsShownAlreadyChangesNothing()
     {
         const ProcessResult result =
