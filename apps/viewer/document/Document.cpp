@@ -41,6 +41,7 @@ Document::~Document()
 
 void Document::open(apps::DocumentReading& reading)
 {
+    runner.abandon();
     emit aboutToBeOpened();
     edits.clear();
     file = reading.source();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "apps/common/SourceFile.h"
+#include "apps/viewer/document/EditRunner.h"
 #include "apps/viewer/selection/RowSelectionModel.h"
 #include "UI/Models/CityGMLModel/CityGMLModel.h"
 #include "UI/Models/CityGMLModel/CityGMLTreeModel.h"
@@ -43,6 +44,9 @@ public:
     /// Every edit goes through it: the document counts as modified while the stack is not clean.
     QUndoStack& undoStack() { return edits; }
 
+    /// Makes the edits, and undoes them.
+    EditRunner& editRunner() { return runner; }
+
     /// Whether there is a document.
     bool isOpen() const { return list->cityGML() != nullptr; }
     /// Path of the document's file; empty before one is opened, and for one that has no file.
@@ -84,6 +88,7 @@ private:
     std::unique_ptr<CityGMLTreeModel> features;
     std::unique_ptr<RowSelectionModel> selected;
     QUndoStack edits;
+    EditRunner runner{edits};
     apps::SourceFile file;
 };
 

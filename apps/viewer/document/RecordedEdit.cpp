@@ -12,7 +12,11 @@ QHash<QString, RecordedEdit::Maker>& makers()
     return byKind;
 }
 
+int lastNumber = 0;
+
 } // namespace
+
+RecordedEdit::RecordedEdit() : ownNumber(++lastNumber) {}
 
 RecordedEdit::~RecordedEdit() = default;
 

@@ -19,8 +19,11 @@ public:
     /// Makes an edit of what record() wrote; null where it does not fit the document.
     using Maker = std::function<std::unique_ptr<RecordedEdit>(Document& document, const QJsonObject& record)>;
 
-    using QUndoCommand::QUndoCommand;
+    RecordedEdit();
     ~RecordedEdit() override;
+
+    /// Tells the edit from all others of the program.
+    int number() const { return ownNumber; }
 
     /// The kind of the edit, under which its maker is registered.
     virtual QString kind() const = 0;
@@ -35,6 +38,9 @@ public:
     /// \return null for a kind that nobody has registered, and where the maker refuses
     static std::unique_ptr<RecordedEdit> make(const QString& kind, Document& document,
                                               const QJsonObject& record);
+
+private:
+    const int ownNumber;
 };
 
 } // namespace tolvik::viewer

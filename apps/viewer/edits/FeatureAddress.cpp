@@ -21,6 +21,12 @@ gml::AbstractFeatureType* featureAround(gml::AbstractFeatureType& feature)
 
 } // namespace
 
+QJsonValue FeatureAddress::toJson() const
+{
+    const QString start = QString::fromStdString(identifier);
+    return step == 0 ? QJsonValue(start) : QJsonValue(QJsonArray{start, step});
+}
+
 FeatureAddress FeatureLocator::addressOf(gml::AbstractFeatureType& feature)
 {
     gml::AbstractFeatureType* start = &feature;
@@ -60,7 +66,10 @@ std::vector<gml::AbstractFeatureType*> FeatureLocator::findAll(const QJsonArray&
 {
     std::vector<gml::AbstractFeatureType*> features;
     for (const QJsonValue each : addresses) {
-        gml::AbstractFeatureType* const feature = find({each[0].toString().toStdString(), each[1].toInt()});
+        const FeatureAddress address =
+            each.isString() ? FeatureAddress{each.toString().toStdString(), 0}
+                            : FeatureAddress{each[0].toString().toStdString(), each[1].toInt()};
+        gml::AbstractFeatureType* const feature = find(address);
         if (feature == nullptr) {
             return {};
         }

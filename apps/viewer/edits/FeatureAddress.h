@@ -30,8 +30,8 @@ struct FeatureAddress
         return a.identifier == b.identifier && a.step == b.step;
     }
 
-    /// For FeatureLocator::findAll().
-    QJsonArray toJson() const { return {QString::fromStdString(identifier), step}; }
+    /// For FeatureLocator::findAll(). Of most features it is the identifier alone.
+    QJsonValue toJson() const;
 };
 
 /// Finds the addresses of features, and the features at addresses. It remembers the walks that it has done,

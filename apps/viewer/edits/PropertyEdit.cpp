@@ -5,7 +5,6 @@
 #include "apps/viewer/edits/GenericAttributes.h"
 #include "apps/viewer/edits/MemberText.h"
 #include "apps/viewer/features/FeatureTexts.h"
-#include "framework/OperationStatus.h"
 #include "gen/AbstractGenericAttributeType.hxx"
 #include "gml/AbstractFeatureType.hxx"
 #include "UI/Models/CityGMLModel/properties/BoundProperty.h"
@@ -58,14 +57,20 @@ bool isOneText(const EditedMember& member)
 
 } // namespace
 
+std::unique_ptr<PropertyEdit> PropertyEdit::prepare(Document& document, const Features& features,
+                                                    Action action, const MemberPlace& place,
+                                                    const QVariant& value)
+{
+    return std::unique_ptr<PropertyEdit>(new PropertyEdit(document, features, action, place, value));
+}
+
 std::unique_ptr<PropertyEdit> PropertyEdit::make(Document& document, const Features& features, Action action,
                                                  const MemberPlace& place, const QVariant& value,
                                                  QString& refusal)
 {
-    std::unique_ptr<PropertyEdit> edit(new PropertyEdit(document, action, place, value));
-    edit->nameEdit(features);
-    refusal = edit->perform(features);
-    return edit->changes.empty() ? nullptr : std::move(edit);
+    std::unique_ptr<PropertyEdit> edit = prepare(document, features, action, place, value);
+    refusal = edit->performAll();
+    return refusal.isEmpty() && edit->changes() > 0 ? std::move(edit) : nullptr;
 }
 
 void PropertyEdit::addMaker()
@@ -83,23 +88,11 @@ void PropertyEdit::addMaker()
     });
 }
 
-PropertyEdit::PropertyEdit(Document& document, Action action, const MemberPlace& place, const QVariant& value)
-    : document(document), action(action), place(place), value(value)
+PropertyEdit::PropertyEdit(Document& document, Features features, Action action, const MemberPlace& place,
+                           const QVariant& value)
+    : document(document), action(action), place(place), value(value), features(std::move(features))
 {
-}
-
-void PropertyEdit::redo()
-{
-    if (!isDone) {
-        swapStates();
-        isDone = true;
-    }
-}
-
-void PropertyEdit::undo()
-{
-    swapStates();
-    isDone = false;
+    nameEdit();
 }
 
 QString PropertyEdit::kind() const
@@ -109,77 +102,68 @@ QString PropertyEdit::kind() const
 
 QJsonObject PropertyEdit::record() const
 {
-    QJsonArray features;
-    for (const Change& change : changes) {
-        features += change.feature.toJson();
+    QJsonArray addresses;
+    for (const Change& change : changed) {
+        addresses += change.feature.toJson();
     }
-    return {{"features", features}, {"action", action}, {"place", place.toJson()}, {"value", packed(value)}};
+    return {{"features", addresses}, {"action", action}, {"place", place.toJson()}, {"value", packed(value)}};
 }
 
-/// Does the edit on each feature, or on none.
-/// \return why it is refused, or nothing
-QString PropertyEdit::perform(const Features& features)
+QString PropertyEdit::perform(int number)
 {
-    FeatureLocator locator(document.model());
-    OperationStatus status(tr("Editing"), static_cast<long long>(features.size()), true);
-    for (gml::AbstractFeatureType* const feature : features) {
-        status.addStep(1);
-        std::optional<EditedMember> member = EditedMember::find(document.model(), *feature, editedPlace());
-        if (!member || isAlreadyDone(*member)) {
-            continue;
-        }
-        const MemberPlace lasting = member->lastingPlace(*feature, editedPlace());
-        const bool isLost = member->isLostWhenEmpty(*feature);
-        const CapturedState before = member->capture();
-        QString refusal = performOn(*feature, *member);
-        if (refusal.isEmpty() && isLost && member->member()->size() == 0) {
-            refusal = tr("%1 cannot be absent.").arg(place.path.last().name);
-        }
-        if (!refusal.isEmpty()) {
-            member->restore(before);
-            swapMembers();
-            changes.clear();
-            return refusal;
-        }
-        changes.push_back({locator.addressOf(*feature), lasting, before});
+    gml::AbstractFeatureType& feature = *features[static_cast<std::size_t>(number)];
+    std::optional<EditedMember> member = EditedMember::find(document.model(), feature, editedPlace());
+    if (!member || isAlreadyDone(*member)) {
+        return QString();
     }
-    announce();
+    const MemberPlace lasting = member->lastingPlace(feature, editedPlace());
+    const bool isLost = member->isLostWhenEmpty(feature);
+    const CapturedState before = member->capture();
+    QString refusal = performOn(feature, *member);
+    if (refusal.isEmpty() && isLost && member->member()->size() == 0) {
+        refusal = tr("%1 cannot be absent.").arg(place.path.last().name);
+    }
+    if (!refusal.isEmpty()) {
+        member->restore(before);
+        return refusal;
+    }
+    changed.push_back({locator().addressOf(feature), lasting, before});
+    announce(feature);
     return QString();
 }
 
-/// Puts back what the members said at the other end of the edit.
-void PropertyEdit::swapStates()
+void PropertyEdit::turn(int change)
 {
-    swapMembers();
-    announce();
-}
-
-void PropertyEdit::swapMembers()
-{
-    FeatureLocator locator(document.model());
-    OperationStatus status(tr("Editing"), static_cast<long long>(changes.size()), true);
-    for (Change& change : changes) {
-        status.addStep(1);
-        gml::AbstractFeatureType* const feature = locator.find(change.feature);
-        std::optional<EditedMember> member =
-            feature != nullptr ? EditedMember::find(document.model(), *feature, change.place) : std::nullopt;
-        if (member) {
-            const CapturedState now = member->capture();
-            member->restore(change.other);
-            change.other = now;
-        }
+    Change& turned = changed[static_cast<std::size_t>(change)];
+    gml::AbstractFeatureType* const feature = locator().find(turned.feature);
+    std::optional<EditedMember> member =
+        feature != nullptr ? EditedMember::find(document.model(), *feature, turned.place) : std::nullopt;
+    if (member) {
+        const CapturedState now = member->capture();
+        member->restore(turned.other);
+        turned.other = now;
+        announce(*feature);
     }
 }
 
-/// Tells everybody which rows have changed.
-void PropertyEdit::announce() const
+void PropertyEdit::endWalk()
 {
-    FeatureLocator locator(document.model());
-    OperationStatus status(tr("Showing Edits"), static_cast<long long>(changes.size()), true);
-    for (const Change& change : changes) {
-        status.addStep(1);
-        document.model().propertyChanged(document.model().index(locator.find(change.feature)), true);
+    features = Features();
+    located.reset();
+}
+
+FeatureLocator& PropertyEdit::locator()
+{
+    if (located == nullptr) {
+        located = std::make_unique<FeatureLocator>(document.model());
     }
+    return *located;
+}
+
+/// Tells everybody that the feature's row has changed.
+void PropertyEdit::announce(gml::AbstractFeatureType& feature) const
+{
+    document.model().propertyChanged(document.model().index(&feature), true);
 }
 
 /// The member that the edit changes. An attribute that is renamed or removed is an entry of the list of them
@@ -294,7 +278,7 @@ QString PropertyEdit::changeAttribute(gml::AbstractFeatureType& feature) const
 }
 
 /// Says in the history what is undone.
-void PropertyEdit::nameEdit(const Features& features)
+void PropertyEdit::nameEdit()
 {
     const QString what = place.path.isEmpty() ? QString() : place.path.last().name;
     const QString where = features.size() == 1

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "apps/viewer/document/RecordedEdit.h"
+#include "apps/viewer/document/SlicedEdit.h"
 #include "apps/viewer/edits/EditedMember.h"
 #include "apps/viewer/edits/FeatureAddress.h"
 
@@ -15,7 +15,7 @@ class Document;
 
 /// One edit of one member of any number of features, as a step of the history. It keeps what the members said
 /// before and after, and the addresses of the features, and so outlives the objects of the document.
-class PropertyEdit : public RecordedEdit
+class PropertyEdit : public SlicedEdit
 {
     Q_DECLARE_TR_FUNCTIONS(tolvik::viewer::PropertyEdit)
 
@@ -32,8 +32,12 @@ public:
         RemoveAttribute  ///< the generic attribute of the property leaves the document
     };
 
-    /// Does the edit.
+    /// An edit that is yet to be done, for EditRunner.
     /// \param features those that have the member; none may be null
+    static std::unique_ptr<PropertyEdit> prepare(Document& document, const Features& features, Action action,
+                                                 const MemberPlace& place, const QVariant& value);
+
+    /// Does the edit at once.
     /// \param[out] refusal why it cannot be done, with nothing changed; empty where it is done
     /// \return the step for the history, whose first redo() does nothing; null where nothing has changed
     static std::unique_ptr<PropertyEdit> make(Document& document, const Features& features, Action action,
@@ -43,10 +47,15 @@ public:
     /// Registers the kind with RecordedEdit.
     static void addMaker();
 
-    void redo() override;
-    void undo() override;
+    int size() const override { return static_cast<int>(features.size()); }
+    QString perform(int number) override;
+    int changes() const override { return static_cast<int>(changed.size()); }
+    void turn(int change) override;
     QString kind() const override;
     QJsonObject record() const override;
+
+protected:
+    void endWalk() override;
 
 private:
     struct Change
@@ -56,11 +65,10 @@ private:
         CapturedState other; ///< what the member said before the edit, or after it when it is undone
     };
 
-    PropertyEdit(Document& document, Action action, const MemberPlace& place, const QVariant& value);
-    QString perform(const Features& features);
-    void swapStates();
-    void swapMembers();
-    void announce() const;
+    PropertyEdit(Document& document, Features features, Action action, const MemberPlace& place,
+                 const QVariant& value);
+    FeatureLocator& locator();
+    void announce(gml::AbstractFeatureType& feature) const;
     MemberPlace editedPlace() const;
     bool isAlreadyDone(const EditedMember& member) const;
     bool hasValue(const EditedMember& member) const;
@@ -68,14 +76,15 @@ private:
     QString setValue(EditedMember& member) const;
     QString makeAbsent(EditedMember& member) const;
     QString changeAttribute(gml::AbstractFeatureType& feature) const;
-    void nameEdit(const Features& features);
+    void nameEdit();
 
     Document& document;
     const Action action;
     const MemberPlace place;
     const QVariant value;
-    std::vector<Change> changes;
-    bool isDone = true;
+    Features features; ///< until the edit is done for the first time
+    std::vector<Change> changed;
+    std::unique_ptr<FeatureLocator> located; ///< for one walk over the features
 };
 
 } // namespace tolvik::viewer

@@ -9,8 +9,8 @@ namespace {
 
 // A quarter of what a user feels as a hitch, so that painting has its share.
 constexpr int sliceMilliseconds = 12;
-// Steps are short, and so the clock is not asked for each.
-constexpr int stepsToClock = 64;
+// Most steps are short, and so the clock is not asked for each.
+constexpr int stepsToClock = 8;
 
 } // namespace
 
@@ -40,7 +40,8 @@ void SlicedWork::runSlice()
 {
     QElapsedTimer clock;
     clock.start();
-    while (done < steps && (done % stepsToClock != 0 || clock.elapsed() < sliceMilliseconds)) {
+    // A step may stop the work.
+    while (done < steps && timer.isActive()) {
         step(done++);
         if (done % stepsToClock == 0 && clock.elapsed() >= sliceMilliseconds) {
             break;

@@ -24,7 +24,7 @@ public:
 
     /// Begins anew; what is under way is given up.
     /// \param steps number of steps
-    /// \param step  does the step of a number, from 0 on
+    /// \param step  does the step of a number, from 0 on. It may stop the work, but not start another one.
     /// \param end   called once when all steps are done. It may start the next work.
     void start(int steps, Step step, End end);
     void stop();

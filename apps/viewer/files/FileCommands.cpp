@@ -59,9 +59,10 @@ FileCommands::FileCommands(const Surroundings& surroundings)
     : document(surroundings.document), window(surroundings.window), tree(surroundings.tree),
       notice(surroundings.notice), progress(surroundings.progress)
 {
-    connect(&loader, &DocumentLoader::progressed, &progress, &StatusProgress::showBeside);
+    connect(&loader, &DocumentLoader::progressed, this,
+            [this](qint64 done, qint64 total) { progress.showBeside(shownReading, done, total); });
     connect(&loader, &DocumentLoader::finished, this, &FileCommands::take);
-    connect(&progress, &StatusProgress::cancelRequested, this, &FileCommands::cancelReading);
+    connect(&document.editRunner(), &EditRunner::ended, this, &FileCommands::takeDelayed);
     connect(&watch, &FileWatch::changed, this, &FileCommands::offerReload);
 }
 
@@ -79,7 +80,7 @@ void FileCommands::chooseAndOpen()
 
 void FileCommands::open(const QString& path)
 {
-    if (isWriting || !letGo()) {
+    if (isHeld() || !letGo()) {
         return;
     }
     agreedEdits = document.undoStack().index();
@@ -88,7 +89,7 @@ void FileCommands::open(const QString& path)
         loader.cancel();
         return;
     }
-    progress.beginBeside(tr("Reading %1").arg(nameOf(next)), true);
+    shownReading = progress.beginBeside(tr("Reading %1").arg(nameOf(next)), [this] { cancelReading(); });
     loader.start(next);
     next.clear();
 }
@@ -114,12 +115,12 @@ bool FileCommands::isSameFile(const QString& path) const
 /// Puts what was read in place, unless there is nothing or the user has edited on meanwhile.
 void FileCommands::take()
 {
-    if (isWriting) {
-        // What is being written must not be replaced.
+    if (isHeld()) {
+        // What is being written or edited must not be replaced.
         isTakeDelayed = true;
         return;
     }
-    progress.endBeside();
+    progress.endBeside(shownReading);
     apps::DocumentReading& reading = loader.reading();
     if (!next.isEmpty()) {
         const QString path = next;
@@ -201,20 +202,30 @@ void FileCommands::workBeside(const QString& title, const std::function<void()>&
 {
     isWriting = true;
     emit savingChanged(true);
-    progress.beginBeside(title, false);
+    const int shown = progress.beginBeside(title);
     QEventLoop waiting;
     const std::unique_ptr<QThread> thread(QThread::create(work));
     connect(thread.get(), &QThread::finished, &waiting, &QEventLoop::quit);
     thread->start();
     waiting.exec();
     thread->wait();
-    progress.endBeside();
+    progress.endBeside(shown);
     isWriting = false;
     emit savingChanged(false);
+    takeDelayed();
+}
+
+void FileCommands::takeDelayed()
+{
     if (isTakeDelayed) {
         isTakeDelayed = false;
         QTimer::singleShot(0, this, &FileCommands::take);
     }
+}
+
+bool FileCommands::isHeld() const
+{
+    return isWriting || document.editRunner().isRunning();
 }
 
 void FileCommands::offerReload()
@@ -250,7 +261,7 @@ bool FileCommands::letGo()
 
 bool FileCommands::save()
 {
-    if (isWriting || !document.isOpen()) {
+    if (isHeld() || !document.isOpen()) {
         return false;
     }
     if (document.fileName().isEmpty() || document.fileName() == QLatin1String("-")) {
@@ -272,7 +283,7 @@ bool FileCommands::save()
 
 bool FileCommands::saveAs()
 {
-    if (isWriting || !document.isOpen()) {
+    if (isHeld() || !document.isOpen()) {
         return false;
     }
     const QString path =

@@ -36,6 +36,9 @@ public:
     bool isReading() const { return loader.isRunning(); }
     /// Whether a file is being written beside the window: the document must not change meanwhile.
     bool isSaving() const { return isWriting; }
+    /// Whether a file is being written, or an edit of many features is under way: nobody else may change the
+    /// document, or replace it.
+    bool isHeld() const;
 
     /// Reads a document and shows it, beside the present one until it is there. One that cannot be read
     /// leaves everything as it is.
@@ -63,6 +66,7 @@ signals:
 
 private:
     void take();
+    void takeDelayed();
     void tellFailure();
     void offerReload();
     void repairCopy(const QString& path);
@@ -78,7 +82,8 @@ private:
     DocumentLoader loader;
     FileWatch watch;
     bool isWriting = false;
-    bool isTakeDelayed = false; // a document was read while another one was written
+    bool isTakeDelayed = false; // a document was read while another one was written or edited
+    int shownReading = 0;       // names the reading in the progress
     QString next;               // to be read when the present reading has ended
     int agreedEdits = -1;       // the edits of which the user has agreed that they may be lost
 };

@@ -142,6 +142,16 @@ void PropertyPanel::follow()
                     refreshSoon();
                 }
             });
+    connect(&document.editRunner(), &EditRunner::begun, this, [this] {
+        reading.stop();
+        refreshTimer.stop();
+    });
+    connect(&document.editRunner(), &EditRunner::ended, this, [this](const QString& refusal) {
+        refreshSoon();
+        if (!refusal.isEmpty()) {
+            tell(refusal);
+        }
+    });
     connect(&document, &Document::aboutToBeOpened, this, [this] {
         reading.stop();
         properties->setTree(nullptr);
@@ -154,11 +164,16 @@ void PropertyPanel::showEvent(QShowEvent* event)
     refreshSoon();
 }
 
-/// Nothing is read as long as nobody looks.
+bool PropertyPanel::isComplete() const
+{
+    return !reading.isRunning() && !refreshTimer.isActive() && !document.editRunner().isRunning();
+}
+
+/// Nothing is read as long as nobody looks, nor while an edit of many features is under way.
 void PropertyPanel::refreshSoon()
 {
     reading.stop();
-    if (isVisible()) {
+    if (isVisible() && !document.editRunner().isRunning()) {
         refreshTimer.start();
     }
 }
@@ -320,15 +335,11 @@ const PropertyNode* PropertyPanel::currentNode() const
 /// \return why it is refused, or nothing
 QString PropertyPanel::edit(PropertyEdit::Action action, const MemberPlace& place, const QVariant& value)
 {
-    if (!isComplete()) {
+    if (!isComplete() && !document.editRunner().isRunning()) {
         return tr("The features are still being read.");
     }
-    QString refusal;
-    auto step = PropertyEdit::make(document, selectedFeatures(), action, place, value, refusal);
-    if (step) {
-        document.undoStack().push(step.release());
-    }
-    return refusal;
+    return document.editRunner().perform(
+        PropertyEdit::prepare(document, selectedFeatures(), action, place, value));
 }
 
 void PropertyPanel::editOrTell(PropertyEdit::Action action, const MemberPlace& place, const QVariant& value)

@@ -36,7 +36,7 @@ public:
     ~PropertyPanel() override;
 
     /// Whether what is shown is of all selected features.
-    bool isComplete() const { return !reading.isRunning() && !refreshTimer.isActive(); }
+    bool isComplete() const;
 
 public slots:
     /// Makes the current attribute absent; a generic attribute leaves the feature.

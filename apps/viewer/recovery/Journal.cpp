@@ -19,6 +19,13 @@ QByteArray lineOf(const QJsonObject& object)
     return QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
 }
 
+QByteArray textOf(const RecordedEdit* edit)
+{
+    return edit == nullptr
+               ? lineOf({{QStringLiteral("kind"), QString()}})
+               : lineOf({{QStringLiteral("kind"), edit->kind()}, {QStringLiteral("edit"), edit->record()}});
+}
+
 } // namespace
 
 Journal::Journal(Document& document, QObject* parent) : QObject(parent), document(document)
@@ -54,13 +61,10 @@ void Journal::beginAnew()
     }
 }
 
-QByteArray Journal::textOf(int command) const
+/// \return null for an edit of another class
+const RecordedEdit* Journal::editAt(int command) const
 {
-    const auto* const edit = dynamic_cast<const RecordedEdit*>(document.undoStack().command(command));
-    if (edit == nullptr) {
-        return lineOf({{QStringLiteral("kind"), QString()}});
-    }
-    return lineOf({{QStringLiteral("kind"), edit->kind()}, {QStringLiteral("edit"), edit->record()}});
+    return dynamic_cast<const RecordedEdit*>(document.undoStack().command(command));
 }
 
 void Journal::follow(int index)
@@ -71,10 +75,12 @@ void Journal::follow(int index)
     }
     const int done = index - base;
     const int last = done - 1;
+    const RecordedEdit* const edit = editAt(index - 1);
+    const int number = edit != nullptr ? edit->number() : 0;
     if (done < 0) {
         // Undone is what the file has: nobody can do that from the file alone.
         note({{QStringLiteral("kind"), QString()}});
-    } else if (done < current || last < 0 || (last < noted.size() && noted[last] == textOf(index - 1))) {
+    } else if (done < current || last < 0 || (last < noted.size() && noted[last] == number)) {
         note({{QStringLiteral("index"), done}});
     } else {
         if (done == current) {
@@ -82,8 +88,8 @@ void Journal::follow(int index)
             note({{QStringLiteral("index"), last}});
         }
         noted.resize(last);
-        noted.append(textOf(index - 1));
-        pending += noted.last();
+        noted.append(number);
+        pending += textOf(edit);
         write();
     }
     current = done;

@@ -13,6 +13,7 @@
 namespace tolvik::viewer {
 
 class Document;
+class RecordedEdit;
 
 /// Writes each edit of a document into a file as it is made, so that the edits are not lost when the program
 /// is. The file is there while the document has edits that are not saved.
@@ -47,16 +48,16 @@ private:
     bool openFile();
     void write();
     void close();
-    QByteArray textOf(int command) const;
+    const RecordedEdit* editAt(int command) const;
 
     Document& document;
     QFutureWatcher<FileMark> marking;
     QByteArray pending; // lines that wait for the mark of the file
     QFile file;
     std::unique_ptr<QLockFile> lock;
-    int base = 0;              // number of edits of the history that the file has
-    QVector<QByteArray> noted; // of each further one
-    int current = 0;           // number of edits that are done, as noted
+    int base = 0;       // number of edits of the history that the file has
+    QVector<int> noted; // the number() of each further one
+    int current = 0;    // number of edits that are done, as noted
 };
 
 } // namespace tolvik::viewer

@@ -137,6 +137,10 @@ void AttributeTable::makeTable()
     connect(delegate, &ValueDelegate::refused, this, &AttributeTable::tell);
     connect(delegate, &ValueDelegate::entered, this, [this] { tell(QString()); });
     connect(delegate, &ValueDelegate::linkActivated, this, &AttributeTable::linkActivated);
+    figureTimer.setSingleShot(true);
+    figureTimer.setInterval(0);
+    connect(&figureTimer, &QTimer::timeout, this, &AttributeTable::beginFigures);
+    connect(&document.editRunner(), &EditRunner::ended, this, &AttributeTable::figureSoon);
     connect(view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &AttributeTable::figureSoon);
     connect(model, &QAbstractItemModel::modelReset, this, &AttributeTable::figureSoon);
@@ -144,10 +148,8 @@ void AttributeTable::makeTable()
     connect(model, &QAbstractItemModel::layoutChanged, this, &AttributeTable::figureSoon);
     connect(model, &AttributeTableModel::progressed, this, [this](int done, int count) {
         figuresLabel->setText(tr("Reading: %1 of %2").arg(done).arg(count));
-        if (done == count) {
-            figureSoon();
-        }
     });
+    connect(model, &AttributeTableModel::arranged, this, &AttributeTable::figureSoon);
 
     const auto add = [this](const QString& text, const QKeySequence& keys, auto slot) {
         auto* const action = new QAction(text, view);
@@ -185,6 +187,7 @@ void AttributeTable::stop()
 {
     columnSearch.stop();
     figuring.stop();
+    figureTimer.stop();
     model->setType(std::string());
 }
 
@@ -341,7 +344,16 @@ QVector<AttributeTable::CellRun> AttributeTable::selectedCells() const
     return runs;
 }
 
+/// An edit of many features sends a signal for each.
 void AttributeTable::figureSoon()
+{
+    figuring.stop();
+    if (!document.editRunner().isRunning()) {
+        figureTimer.start();
+    }
+}
+
+void AttributeTable::beginFigures()
 {
     if (model->isBusy()) {
         return;

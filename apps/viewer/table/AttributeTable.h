@@ -71,6 +71,7 @@ private:
     void findColumns();
     void setColumns(const QVector<PropertyPath>& columns);
     void figureSoon();
+    void beginFigures();
     void figure(const CellRun& run);
     void showFigures();
     void copyCells(bool withTitles);
@@ -91,6 +92,7 @@ private:
     QHash<QString, QVector<PropertyPath>> chosenColumns;
     QTimer filterTimer;
     QTimer refreshTimer;
+    QTimer figureTimer;
     /// Whether the document has changed since the types were looked for.
     bool isStale = true;
     SlicedWork columnSearch;

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <QtConcurrentRun>
 #include <utility>
 
 namespace tolvik::viewer {
@@ -28,14 +29,18 @@ AttributeTableModel::AttributeTableModel(Document& document, QObject* parent)
     : QAbstractTableModel(parent), document(document), rows(document.model())
 {
     connect(&work, &SlicedWork::progressed, this, &AttributeTableModel::progressed);
+    connect(&sorting, &QFutureWatcherBase::finished, this, &AttributeTableModel::takeOrder);
     connect(&document.model(), &QAbstractItemModel::dataChanged, this, &AttributeTableModel::noteChange);
 }
 
-AttributeTableModel::~AttributeTableModel() = default;
+AttributeTableModel::~AttributeTableModel()
+{
+    sorting.waitForFinished();
+}
 
 void AttributeTableModel::setType(const std::string& label)
 {
-    work.stop();
+    stop();
     if (label.empty() && all.isEmpty()) {
         return;
     }
@@ -50,7 +55,7 @@ void AttributeTableModel::setType(const std::string& label)
 
 void AttributeTableModel::setColumns(const QVector<PropertyPath>& newPaths)
 {
-    work.stop();
+    stop();
     beginResetModel();
     paths = newPaths;
     rows.setColumns(paths);
@@ -67,14 +72,9 @@ void AttributeTableModel::setFilter(const QString& newFilter)
 
 QString AttributeTableModel::enter(const QModelIndex& index, const QVariant& value)
 {
-    QString refusal;
-    auto step = PropertyEdit::make(document, {document.model().getFeature(shown[index.row()])},
-                                   PropertyEdit::SetValue, {MemberPlace::Property, paths[index.column()]},
-                                   value, refusal);
-    if (step) {
-        document.undoStack().push(step.release());
-    }
-    return refusal;
+    return document.editRunner().perform(
+        PropertyEdit::prepare(document, {document.model().getFeature(shown[index.row()])},
+                              PropertyEdit::SetValue, {MemberPlace::Property, paths[index.column()]}, value));
 }
 
 const AttributeCell& AttributeTableModel::cell(const QModelIndex& index) const
@@ -200,14 +200,20 @@ QVector<int> AttributeTableModel::rowsOf(const std::string& label) const
 /// Begins to filter and to sort.
 void AttributeTableModel::arrange()
 {
-    keys.clear();
+    stop();
     if (sortPath.isEmpty() && !isFiltered()) {
-        work.stop();
         showRows(all);
         return;
     }
     work.start(
-        all.size(), [this](int step) { readRow(all[step]); }, [this] { showArranged(); });
+        all.size(), [this](int step) { readRow(all[step]); }, [this] { sortRead(); });
+}
+
+void AttributeTableModel::stop()
+{
+    work.stop();
+    sorting.cancel();
+    keys.clear();
 }
 
 void AttributeTableModel::readRow(int row)
@@ -223,22 +229,36 @@ void AttributeTableModel::readRow(int row)
     }
 }
 
-void AttributeTableModel::showArranged()
+void AttributeTableModel::sortRead()
+{
+    sorting.setFuture(
+        QtConcurrent::run(&AttributeTableModel::sortedRows, std::exchange(keys, {}), sortOrder));
+}
+
+/// May run in any thread.
+QVector<int> AttributeTableModel::sortedRows(QVector<Key> keys, Qt::SortOrder order)
 {
     const auto isBefore = [](const Key& a, const Key& b) {
         return a.number != b.number ? a.number < b.number : a.text < b.text;
     };
-    const bool isAscending = sortOrder == Qt::AscendingOrder;
+    const bool isAscending = order == Qt::AscendingOrder;
     std::stable_sort(keys.begin(), keys.end(), [&](const Key& a, const Key& b) {
         return a.rank != b.rank ? a.rank < b.rank : isAscending ? isBefore(a, b) : isBefore(b, a);
     });
-    QVector<int> wanted;
-    wanted.reserve(keys.size());
+    QVector<int> rows;
+    rows.reserve(keys.size());
     for (const Key& key : std::as_const(keys)) {
-        wanted.append(key.row);
+        rows.append(key.row);
     }
-    keys = QVector<Key>();
-    showRows(std::move(wanted));
+    return rows;
+}
+
+void AttributeTableModel::takeOrder()
+{
+    if (!sorting.isCanceled()) {
+        showRows(sorting.result());
+        emit arranged();
+    }
 }
 
 /// Shows rows in another order, or others. Where they are the same, cursor and selection stay with them.
@@ -260,21 +280,22 @@ void AttributeTableModel::showRows(QVector<int> wanted)
         formerRows.append(shown[index.row()]);
     }
     setShown(std::move(wanted));
+    QModelIndexList present;
+    present.reserve(former.size());
     for (int i = 0; i < former.size(); ++i) {
-        const auto place = places.constFind(formerRows[i]);
-        changePersistentIndex(former[i], place != places.constEnd() ? createIndex(*place, former[i].column())
-                                                                    : QModelIndex());
+        const int place = placeOf(formerRows[i]);
+        present.append(place >= 0 ? createIndex(place, former[i].column()) : QModelIndex());
     }
+    changePersistentIndexList(former, present);
     emit layoutChanged();
 }
 
 void AttributeTableModel::setShown(QVector<int> wanted)
 {
     shown = std::move(wanted);
-    places.clear();
-    places.reserve(shown.size());
+    places.fill(-1, document.model().rowCount());
     for (int place = 0; place < shown.size(); ++place) {
-        places.insert(shown[place], place);
+        places[shown[place]] = place;
     }
 }
 
@@ -286,9 +307,9 @@ void AttributeTableModel::noteChange(const QModelIndex& first, const QModelIndex
     }
     for (int row = first.row(); row <= last.row(); ++row) {
         rows.forget(row);
-        const auto place = places.constFind(row);
-        if (place != places.constEnd() && !paths.isEmpty()) {
-            emit dataChanged(index(*place, 0), index(*place, paths.size() - 1));
+        const int place = placeOf(row);
+        if (place >= 0 && !paths.isEmpty()) {
+            emit dataChanged(index(place, 0), index(place, paths.size() - 1));
         }
     }
 }

@@ -5,6 +5,7 @@
 #include "apps/viewer/table/AttributeRows.h"
 
 #include <QAbstractTableModel>
+#include <QFutureWatcher>
 #include <QHash>
 #include <string>
 
@@ -13,8 +14,8 @@ namespace tolvik::viewer {
 class Document;
 
 /// All features of one type as rows, with attributes of them as columns. Values are read from the document
-/// when a view asks for them. Sorting and filtering read all rows, in slices, and take effect at the end of
-/// that.
+/// when a view asks for them. Sorting and filtering read all rows, in slices, and sort them beside the
+/// window; they take effect at the end of that.
 class AttributeTableModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -54,7 +55,7 @@ public:
         return rows.valuesOf(shown[row], firstColumn, lastColumn);
     }
 
-    bool isBusy() const { return work.isRunning(); }
+    bool isBusy() const { return work.isRunning() || sorting.isRunning(); }
 
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;
     int columnCount(const QModelIndex& parent = QModelIndex()) const override;
@@ -64,8 +65,10 @@ public:
     void sort(int column, Qt::SortOrder order = Qt::AscendingOrder) override;
 
 signals:
-    /// How far sorting and filtering have come; the same number twice at the end.
+    /// How far sorting and filtering have come with reading.
     void progressed(int done, int count);
+    /// A sorting or filtering shows.
+    void arranged();
 
 private:
     struct Key
@@ -75,12 +78,16 @@ private:
         QString text;
         int row = 0;
     };
+    static QVector<int> sortedRows(QVector<Key> keys, Qt::SortOrder order);
 
     QVector<int> rowsOf(const std::string& label) const;
     void arrange();
     bool isEditable(int column) const;
     void readRow(int row);
-    void showArranged();
+    void stop();
+    void sortRead();
+    void takeOrder();
+    int placeOf(int row) const { return row < places.size() ? places[row] : -1; }
     void showRows(QVector<int> wanted);
     void setShown(QVector<int> wanted);
     void noteChange(const QModelIndex& first, const QModelIndex& last, const QVector<int>& roles);
@@ -96,15 +103,16 @@ private:
     mutable QHash<int, bool> editable;
     ValueText text;
 
-    QVector<int> all;       ///< rows of the document's model
-    QVector<int> shown;     ///< those of them that the filter leaves, in the order of the sorting
-    QHash<int, int> places; ///< where each of these is shown
+    QVector<int> all;    ///< rows of the document's model
+    QVector<int> shown;  ///< those of them that the filter leaves, in the order of the sorting
+    QVector<int> places; ///< where each row of the document's model is shown; -1 for nowhere
     QString filter;
     PropertyPath sortPath; ///< empty for the order of the document
     Qt::SortOrder sortOrder = Qt::AscendingOrder;
 
     SlicedWork work;
     QVector<Key> keys;
+    QFutureWatcher<QVector<int>> sorting;
 };
 
 } // namespace tolvik::viewer

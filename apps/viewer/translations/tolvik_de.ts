@@ -444,6 +444,29 @@
     </message>
 </context>
 <context>
+    <name>tolvik::viewer::EditRunner</name>
+    <message>
+        <source>Another edit is still under way.</source>
+        <translation>Eine andere Änderung ist noch im Gang.</translation>
+    </message>
+    <message>
+        <source>Editing</source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Undoing</source>
+        <translation>Rückgängig machen</translation>
+    </message>
+    <message>
+        <source>Redoing</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Taking back</source>
+        <translation>Zurücknehmen</translation>
+    </message>
+</context>
+<context>
     <name>tolvik::viewer::ExportDialog</name>
     <message>
         <source>Text with commas</source>
@@ -1391,14 +1414,6 @@ height&gt;3, function=1000 für Attribute. Eingabe führt zum nächsten Treffer.
     <message>
         <source>remove attribute %1 of %2</source>
         <translation>Attribut %1 von %2 entfernen</translation>
-    </message>
-    <message>
-        <source>Editing</source>
-        <translation>Bearbeiten</translation>
-    </message>
-    <message>
-        <source>Showing Edits</source>
-        <translation>Änderungen zeigen</translation>
     </message>
 </context>
 <context>

@@ -444,6 +444,29 @@
     </message>
 </context>
 <context>
+    <name>tolvik::viewer::EditRunner</name>
+    <message>
+        <source>Another edit is still under way.</source>
+        <translation>Une autre modification est encore en cours.</translation>
+    </message>
+    <message>
+        <source>Editing</source>
+        <translation>Modification</translation>
+    </message>
+    <message>
+        <source>Undoing</source>
+        <translation>Annulation</translation>
+    </message>
+    <message>
+        <source>Redoing</source>
+        <translation>Rétablissement</translation>
+    </message>
+    <message>
+        <source>Taking back</source>
+        <translation>Retour à l’état précédent</translation>
+    </message>
+</context>
+<context>
     <name>tolvik::viewer::ExportDialog</name>
     <message>
         <source>Text with commas</source>
@@ -1391,14 +1414,6 @@ height&gt;3, function=1000 pour les attributs. Entrée mène au résultat suivan
     <message>
         <source>remove attribute %1 of %2</source>
         <translation>supprimer l’attribut %1 de %2</translation>
-    </message>
-    <message>
-        <source>Editing</source>
-        <translation>Modification</translation>
-    </message>
-    <message>
-        <source>Showing Edits</source>
-        <translation>Affichage des modifications</translation>
     </message>
 </context>
 <context>

@@ -23,6 +23,7 @@
 #include "apps/viewer/selection/SelectionLink.h"
 #include "apps/viewer/table/AttributeTable.h"
 #include "apps/viewer/view/ViewPanel.h"
+#include "apps/viewer/window/EditProgress.h"
 #include "apps/viewer/window/NoticeBar.h"
 #include "apps/viewer/window/StatusProgress.h"
 #include "framework/EditRangeDialog.h"
@@ -58,6 +59,8 @@ MainWindow::MainWindow(QWidget* parent)
       features(new FeatureBrowser(*shown)), actionsOfFeatures(new FeatureActions(*shown, this)),
       journal(new Journal(*shown, this)), referrers(new ReferrerSearch(*shown, this))
 {
+    // The progress owns it.
+    new EditProgress(shown->editRunner(), *progress);
     setAcceptDrops(true);
     setCentralWidget(makeMiddle());
     makePanels();
@@ -262,7 +265,7 @@ void MainWindow::follow(const QUrl& link)
 
 void MainWindow::removeFeatures(const QVector<int>& rows)
 {
-    if (fileCommands->isSaving()) {
+    if (fileCommands->isHeld()) {
         return;
     }
     FeatureRemoval::Features going;
@@ -358,9 +361,14 @@ QMenu* MainWindow::makeEditMenu()
 {
     auto* const menu = new QMenu(tr("&Edit"), this);
     QAction* const undo = shown->undoStack().createUndoAction(this, tr("&Undo"));
+    // The history itself would block the window.
+    undo->disconnect(&shown->undoStack());
+    connect(undo, &QAction::triggered, &shown->editRunner(), &EditRunner::undo);
     undo->setShortcut(QKeySequence::Undo);
     undo->setObjectName(QStringLiteral("undo"));
     QAction* const redo = shown->undoStack().createRedoAction(this, tr("&Redo"));
+    redo->disconnect(&shown->undoStack());
+    connect(redo, &QAction::triggered, &shown->editRunner(), &EditRunner::redo);
     redo->setShortcuts({QKeySequence(QKeySequence::Redo), QKeySequence(tr("Ctrl+Y"))});
     redo->setObjectName(QStringLiteral("redo"));
     menu->addAction(undo);
@@ -443,6 +451,8 @@ void MainWindow::connectDocument()
     connect(fileCommands.get(), &FileCommands::told, this, &MainWindow::tell);
     connect(tableCommands, &TableCommands::told, this, &MainWindow::tell);
     connect(fileCommands.get(), &FileCommands::savingChanged, this, &MainWindow::holdEdits);
+    connect(&shown->editRunner(), &EditRunner::begun, this, [this] { holdCommands(true); });
+    connect(&shown->editRunner(), &EditRunner::ended, this, [this] { holdCommands(false); });
     connect(journal, &Journal::failed, this, [this](const QString& reason) {
         log->add(LogModel::Warning, tr("Changes are not kept for a recovery: %1").arg(reason));
     });
@@ -465,6 +475,12 @@ void MainWindow::holdEdits(bool hold)
     for (const char* const name : {"propertiesDock", "tableDock"}) {
         findChild<QDockWidget*>(QLatin1String(name))->widget()->setEnabled(!hold);
     }
+    holdCommands(hold);
+}
+
+/// The commands that read or change the whole document wait.
+void MainWindow::holdCommands(bool hold)
+{
     enableFileActions(!hold && shown->isOpen());
     actionsOfFeatures->remove->setEnabled(!hold && shown->selection().hasSelection());
     findChild<QAction*>(QStringLiteral("open"))->setEnabled(!hold);
@@ -536,7 +552,7 @@ void MainWindow::restoreLayout()
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    if (fileCommands->isSaving() || !fileCommands->letGo()) {
+    if (fileCommands->isHeld() || !fileCommands->letGo()) {
         event->ignore();
         return;
     }

@@ -81,6 +81,7 @@ private:
     void tell(int level, const QString& text);
     void holdEdits(bool hold);
     void enableFileActions(bool enable);
+    void holdCommands(bool hold);
     void updateTitle();
     void showFindings();
     void showAbout();

@@ -2,11 +2,13 @@
 
 #include "framework/OperationStatus.h"
 
+#include <algorithm>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QProgressBar>
 #include <QStyle>
 #include <QToolButton>
+#include <utility>
 
 namespace tolvik::viewer {
 
@@ -33,7 +35,7 @@ StatusProgress::StatusProgress(QWidget* parent)
     cancelButton->setObjectName(QStringLiteral("cancel"));
     cancelButton->setText(tr("Cancel"));
     cancelButton->setToolTip(tr("Give up what is going on"));
-    connect(cancelButton, &QToolButton::clicked, this, &StatusProgress::cancelRequested);
+    connect(cancelButton, &QToolButton::clicked, this, &StatusProgress::cancelLast);
     hide();
 }
 
@@ -46,23 +48,51 @@ void StatusProgress::showNow(const QString& title, qint64 done, qint64 total)
     bar->setValue(total > 0 ? static_cast<int>(qMin(done, total) * barLength / total) : 0);
 }
 
-void StatusProgress::beginBeside(const QString& title, bool isCancellable)
+int StatusProgress::beginBeside(const QString& title, std::function<void()> cancel)
 {
-    besideTitle = title;
-    cancelButton->setVisible(isCancellable);
-    showNow(title, 0, 0);
-    show();
+    besides.append({++lastNumber, title, std::move(cancel)});
+    showLast();
+    return lastNumber;
 }
 
-void StatusProgress::showBeside(qint64 done, qint64 total)
+void StatusProgress::showBeside(int work, qint64 done, qint64 total)
 {
-    showNow(besideTitle, done, total);
+    for (Beside& each : besides) {
+        if (each.number == work) {
+            each.done = done;
+            each.total = total;
+        }
+    }
+    if (!besides.isEmpty() && besides.last().number == work) {
+        showNow(besides.last().title, done, total);
+    }
 }
 
-void StatusProgress::endBeside()
+void StatusProgress::endBeside(int work)
 {
-    besideTitle.clear();
-    hide();
+    besides.erase(std::remove_if(besides.begin(), besides.end(),
+                                 [work](const Beside& each) { return each.number == work; }),
+                  besides.end());
+    showLast();
+}
+
+void StatusProgress::showLast()
+{
+    setVisible(!besides.isEmpty());
+    if (!besides.isEmpty()) {
+        const Beside& last = besides.last();
+        cancelButton->setVisible(last.cancel != nullptr);
+        showNow(last.title, last.done, last.total);
+    }
+}
+
+void StatusProgress::cancelLast()
+{
+    if (!besides.isEmpty() && besides.last().cancel) {
+        // It may end the work, and with it what is called here.
+        const std::function<void()> cancel = besides.last().cancel;
+        cancel();
+    }
 }
 
 void StatusProgress::begin(const QString& title, long long totalSteps, bool /*blocking*/, int /*level*/)
@@ -85,8 +115,8 @@ void StatusProgress::progress(long long doneSteps, int level)
 void StatusProgress::end(int /*level*/)
 {
     operations.removeLast();
-    if (operations.isEmpty() && besideTitle.isEmpty()) {
-        hide();
+    if (operations.isEmpty()) {
+        showLast();
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "framework/OperationListener.h"
 
+#include <functional>
 #include <QVector>
 #include <QWidget>
 
@@ -11,8 +12,8 @@ class QToolButton;
 
 namespace tolvik::viewer {
 
-/// Shows in the status bar how far a reading is, and how far the operations of the models are that block the
-/// window.
+/// Shows in the status bar how far work beside the window is, such as a reading, and how far the operations
+/// of the models are that block the window.
 class StatusProgress : public QWidget, public OperationListener
 {
     Q_OBJECT
@@ -21,22 +22,32 @@ public:
     explicit StatusProgress(QWidget* parent = nullptr);
     ~StatusProgress() override;
 
-    /// Shows work that goes on beside the window.
-    /// \param isCancellable whether the button to cancel it is there
-    void beginBeside(const QString& title, bool isCancellable);
+    /// Shows work that goes on beside the window; of several the last one.
+    /// \param cancel what the button to cancel does; without it there is no button
+    /// \return names the work in the other calls
+    int beginBeside(const QString& title, std::function<void()> cancel = {});
     /// \param total 0 where it is not known
-    void showBeside(qint64 done, qint64 total);
-    void endBeside();
+    void showBeside(int work, qint64 done, qint64 total);
+    /// \param work may have ended already
+    void endBeside(int work);
 
     void begin(const QString& title, long long totalSteps, bool blocking, int level) override;
     void progress(long long doneSteps, int level) override;
     void end(int level) override;
 
-signals:
-    void cancelRequested();
-
 private:
+    struct Beside
+    {
+        int number;
+        QString title;
+        std::function<void()> cancel;
+        qint64 done = 0;
+        qint64 total = 0;
+    };
+
     void showNow(const QString& title, qint64 done, qint64 total);
+    void showLast();
+    void cancelLast();
 
     struct Operation
     {
@@ -44,7 +55,8 @@ private:
         long long totalSteps;
     };
     QVector<Operation> operations;
-    QString besideTitle;
+    QVector<Beside> besides;
+    int lastNumber = 0;
     QLabel* label;
     QProgressBar* bar;
     QToolButton* cancelButton;

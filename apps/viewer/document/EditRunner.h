@@ -1,0 +1,66 @@
+#pragma once
+
+#include "apps/viewer/document/SlicedEdit.h"
+#include "apps/viewer/features/SlicedWork.h"
+
+#include <memory>
+#include <QObject>
+#include <QUndoStack>
+
+namespace tolvik::viewer {
+
+/// Makes edits of a document as steps of its history, and goes back and forth in that. What concerns many
+/// features goes in slices, so that the window stays alive, and can be cancelled: then all is as it was.
+///
+/// As long as it runs, nobody else may change the document.
+class EditRunner : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// \param history lives longer
+    explicit EditRunner(QUndoStack& history, QObject* parent = nullptr);
+    ~EditRunner() override;
+
+    bool isRunning() const { return edit != nullptr; }
+
+    /// Makes an edit. One that changes nothing leaves no step in the history.
+    /// \return why it is refused, with nothing changed. An edit of many features is refused by ended().
+    QString perform(std::unique_ptr<SlicedEdit> next);
+
+    /// Gives up what is under way, where it stands: the document is about to go.
+    void abandon();
+
+public slots:
+    void undo();
+    void redo();
+    /// Takes back what is under way.
+    void cancel();
+
+signals:
+    /// An edit of many features is under way.
+    /// \param title what is being done
+    void begun(const QString& title);
+    void progressed(int done, int count);
+    /// It is done, or taken back.
+    /// \param refusal why it was refused; else empty
+    void ended(const QString& refusal);
+
+private:
+    void performStep(int number);
+    void push(std::unique_ptr<SlicedEdit> done);
+    bool turnInSlices(const QUndoCommand* command, bool isUndo);
+    void takeBack();
+    void end();
+
+    QUndoStack& history;
+    SlicedEdit* edit = nullptr;       // what is under way
+    std::unique_ptr<SlicedEdit> made; // the same, as long as it is not in the history
+    SlicedWork work;
+    int turned = 0;       // number of its changes that are at the other end
+    bool wasDone = false; // whether it was done before
+    bool isTakingBack = false;
+    QString refusal;
+};
+
+} // namespace tolvik::viewer
