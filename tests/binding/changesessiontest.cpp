@@ -535,12 +535,14 @@ private:
     {
         QFETCH(QString, path);
         const bool isLong = qEnvironmentVariableIsSet("TOLVIK_LONG_RUNS");
+        const QByteArrayList pieceSizes{"1", "3000", ""};
         int sessions = 0, edits = 0;
         // Half of the variants do for a quick run, others of each document.
         int number = QFileInfo(path).fileName().size() + (canTell ? 1 : 0);
         for (const Variant& variant : variantsOf(contentOf(path))) {
             const int rounds = isLong ? 6 : number++ % 2;
             for (int round = 0; round < rounds; ++round) {
+                qputenv("TOLVIK_PIECE_SIZE", pieceSizes[sessions % pieceSizes.size()]);
                 Session session(variant, static_cast<unsigned>(1000 * round + sessions), canTell);
                 QVERIFY2(session.isPossible(), variant.name);
                 const QByteArray problem = problemOf(session, variant, canTell);

@@ -3,6 +3,7 @@
 #include "bldg/BoundarySurfacePropertyType.hxx"
 #include "bldg/BuildingType.hxx"
 #include "citygml/Member.h"
+#include "citygml/ReadingThreads.h"
 #include "core/CityModelType.hxx"
 #include "energy/poly_isLandmarked.hxx"
 #include "gml/CodeType.hxx"
@@ -339,6 +340,54 @@ private slots:
     {
         QFETCH(QByteArray, original);
         verifyEdit(original);
+    }
+
+    void childrenAreComparedInPieces_data()
+    {
+        QTest::addColumn<int>("threads");
+        QTest::addColumn<QByteArray>("pieceSize");
+        for (const int threads : {1, 3}) {
+            for (const char* const size : {"1", "700", "5000", ""}) {
+                QTest::addRow("%d threads, pieces of '%s'", threads, size) << threads << QByteArray(size);
+            }
+        }
+    }
+
+    /// Children that are gone, edited, new and elsewhere, among many that stay.
+    void childrenAreComparedInPieces()
+    {
+        QFETCH(int, threads);
+        QFETCH(QByteArray, pieceSize);
+        QByteArrayList members;
+        for (int i = 0; i < 100; ++i) {
+            const QByteArray number = QByteArray::number(i);
+            const QByteArray id = i % 3 != 0 ? "gml:id='b" + number + '\'' : QByteArray();
+            members += "\n <core:cityObjectMember  >\n  <bldg:Building  " + id + ">\n   <bldg:class  >" +
+                       number + "</bldg:class>\n  </bldg:Building>\n </core:cityObjectMember>";
+        }
+        members[60] += "\n <!-- behind 60 -->";
+        const QByteArray original = documentText(members.join() + '\n');
+        const Document document = read(original);
+        auto& list = document->featureMember();
+        static_cast<std::string&>(*buildingIn(*document, 90).class_()) = "edited";
+        const gml::FeaturePropertyType last = list.back();
+        list.pop_back();
+        list.insert(list.begin() + 70, last);
+        list.insert(list.begin() + 50, gml::FeaturePropertyType());
+        list.erase(list.begin() + 20, list.begin() + 35);
+        list.erase(list.begin());
+
+        members[90].replace(">90<", ">edited<");
+        members.move(99, 70);
+        members[70].replace("  >", ">").replace("  gml", " gml").replace('\'', '"');
+        members.insert(50, "\n <gml:featureMember/>");
+        const QByteArray expected = documentText((members.mid(1, 19) + members.mid(35)).join() + '\n');
+        citygml::setReadingThreads(static_cast<unsigned>(threads));
+        qputenv("TOLVIK_PIECE_SIZE", pieceSize);
+        const QByteArray actual = saved(original, *document);
+        qunsetenv("TOLVIK_PIECE_SIZE");
+        citygml::setReadingThreads(0);
+        QVERIFY2(actual == expected, parting(actual, expected));
     }
 
     void aCommentHasNoReferences()
