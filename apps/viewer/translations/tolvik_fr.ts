@@ -1321,7 +1321,7 @@ height&gt;3, function=1000 pour les attributs. Entrée mène au résultat suivan
     </message>
     <message>
         <source>&amp;Export Table...</source>
-        <translation>&amp;Exporter une table...</translation>
+        <translation>E&amp;xporter une table...</translation>
     </message>
     <message>
         <source>&amp;Import Table...</source>
