@@ -10,7 +10,8 @@
 #include <log4cplus/logger.h>
 
 #include <optional>
-#include <sstream>
+#include <string_view>
+#include <vector>
 
 namespace citygml {
 
@@ -19,7 +20,10 @@ namespace binding {
 namespace {
 
 /// What the writer makes of a document that is read; nothing for one of the older version.
-std::optional<std::string> rewritten(const std::string& bytes, const NamespaceMap& prefixes)
+///
+/// \param pieces of the bytes of the document
+std::optional<std::string> rewritten(const std::vector<std::string_view>& pieces,
+                                     const NamespaceMap& prefixes)
 {
     NamespaceScopes scopes(SchemaIndex::instance());
     KeptContentLog log(log4cplus::Logger::getRoot());
@@ -28,53 +32,82 @@ std::optional<std::string> rewritten(const std::string& bytes, const NamespaceMa
     // A document that has been repaired is compared with one in which an identifier stands twice.
     std::vector<xml_schema::id*> identifiers;
     handler.listIdentifiersIn(identifiers);
-    parser.feed(bytes, handler, true);
+    for (const std::string_view piece : pieces) {
+        parser.feed(piece, handler);
+    }
+    parser.feed(std::string_view(), handler, true);
     const std::unique_ptr<core::CityModelType> document = handler.takeRoot();
     return handler.isOlderVersion()
                ? std::nullopt
                : std::optional<std::string>(textForComparison(*document, prefixes, nullptr));
 }
 
-std::string edited(const std::string& bytes, const std::vector<ByteEdit>& edits)
+std::vector<std::string_view> edited(std::string_view bytes, const std::vector<ByteEdit>& edits)
 {
-    std::string result;
+    std::vector<std::string_view> pieces;
     std::size_t at = 0;
     for (const ByteEdit& edit : edits) {
-        result.append(bytes, at, edit.begin - at).append(edit.bytes);
+        pieces.push_back(bytes.substr(at, edit.begin - at));
+        pieces.push_back(edit.bytes);
         at = edit.end;
     }
-    return result.append(bytes, at, std::string::npos);
+    pieces.push_back(bytes.substr(at));
+    return pieces;
 }
 
-/// How the bytes of a document must change to be those of another one; nothing where that cannot be told.
-///
-/// \param before what the writer makes of the bytes
-/// \param after  what it makes of the other document
-std::optional<std::vector<ByteEdit>> editsFor(const std::string& bytes, const std::string& before,
-                                              const std::string& after, const NamespaceMap& prefixes)
+/// What the writer makes of the original and of the document.
+struct Comparison
 {
-    const XmlOutline afterOutline(after);
-    const XmlOutline originalOutline(bytes);
-    const XmlOutline beforeOutline(before);
-    OutlineMerge merge(originalOutline, beforeOutline, afterOutline);
-    if (!merge.run()) {
-        return std::nullopt;
+    std::string before, after;
+
+    /// How the bytes of the original must change to be those of the document; nothing where that cannot be
+    /// told.
+    std::optional<std::vector<ByteEdit>> edits(const std::string& bytes, const CommonEnds& closed) const
+    {
+        const XmlOutline beforeOutline(before, closed);
+        const XmlOutline afterOutline(after, closed);
+        const XmlOutline originalOutline(bytes, beforeOutline);
+        OutlineMerge merge(originalOutline, beforeOutline, afterOutline);
+        return merge.run() ? std::optional<std::vector<ByteEdit>>(merge.edits()) : std::nullopt;
     }
-    const std::optional<std::string> result = rewritten(edited(bytes, merge.edits()), prefixes);
-    const bool isRight = result && (*result == after || haveSameContent(XmlOutline(*result), afterOutline));
-    return isRight ? std::optional<std::vector<ByteEdit>>(merge.edits()) : std::nullopt;
+
+    /// Whether another text says what the document says.
+    bool isAfter(const std::string& text) const
+    {
+        if (text == after) {
+            return true;
+        }
+        const CommonEnds ends = CommonEnds::of(text, after);
+        return haveSameContent(XmlOutline(text, ends), XmlOutline(after, ends));
+    }
+};
+
+std::optional<std::vector<ByteEdit>> editsFor(const std::string& bytes, const Comparison& comparison,
+                                              const NamespaceMap& prefixes)
+{
+    // Most of a document is as it was, so that few elements have to be open. Where more are needed, all are.
+    for (const CommonEnds& closed : {CommonEnds::of(comparison.before, comparison.after), CommonEnds()}) {
+        std::optional<std::vector<ByteEdit>> edits = comparison.edits(bytes, closed);
+        const std::optional<std::string> result =
+            edits ? rewritten(edited(bytes, *edits), prefixes) : std::nullopt;
+        if (result && comparison.isAfter(*result)) {
+            return edits;
+        }
+    }
+    return std::nullopt;
 }
 
 std::optional<std::vector<ByteEdit>> editsFor(const std::string& bytes, const core::CityModelType& document,
                                               WrittenChildren& children, const NamespaceMap& prefixes)
 {
-    const std::string after = textForComparison(document, prefixes, &children);
     try {
-        const std::optional<std::string> before = rewritten(bytes, prefixes);
-        if (before == after) {
-            return std::vector<ByteEdit>();
+        std::optional<std::string> before = rewritten({bytes}, prefixes);
+        if (!before) {
+            return std::nullopt;
         }
-        return before ? editsFor(bytes, *before, after, prefixes) : std::nullopt;
+        const Comparison comparison{std::move(*before), textForComparison(document, prefixes, &children)};
+        return comparison.before == comparison.after ? std::vector<ByteEdit>()
+                                                     : editsFor(bytes, comparison, prefixes);
     } catch (const xsd::cxx::tree::exception<char>&) {
         // The original is no document that can be read.
         return std::nullopt;

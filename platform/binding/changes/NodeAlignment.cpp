@@ -53,6 +53,10 @@ void collectPieces(const XmlOutline& outline, const OutlineElement& element, std
                    NodeAlignment::Pieces& pieces)
 {
     const std::size_t path = combined(combined(outerPath, element.local), *element.uri);
+    if (element.isClosed) {
+        pieces[combined(path, outline.bytesOf(element))] += outline.bytesOf(element).size();
+        return;
+    }
     pieces[path] += 2 * element.local.size();
     for (const OutlineAttribute& attribute : element.attributes) {
         if (!attribute.isDeclaration) {

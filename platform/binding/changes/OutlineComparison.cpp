@@ -18,6 +18,9 @@ public:
 
     bool areSame(const OutlineElement& a, const OutlineElement& b) const
     {
+        if (a.isClosed || b.isClosed) {
+            return outlineA.bytesOf(a) == outlineB.bytesOf(b);
+        }
         return a.local == b.local && *a.uri == *b.uri && haveSameAttributes(a, b) && haveSameTexts(a, b) &&
                haveSameNodes(a, b);
     }

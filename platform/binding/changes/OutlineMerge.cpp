@@ -93,7 +93,8 @@ bool OutlineMerge::run()
     declareNamespaces();
     std::stable_sort(changes.begin(), changes.end(), comesFirst);
     const auto overlap = [](const ByteEdit& a, const ByteEdit& b) { return b.begin < a.end; };
-    return std::adjacent_find(changes.begin(), changes.end(), overlap) == changes.end();
+    return isOpen && inserted.isOpen() &&
+           std::adjacent_find(changes.begin(), changes.end(), overlap) == changes.end();
 }
 
 void OutlineMerge::merge(const Element& place, const Element& was, const Element& is)
@@ -158,6 +159,10 @@ bool OutlineMerge::hasSameContent(const Element& was, const Element& is) const
 
 void OutlineMerge::mergeContent(const Element& place, const Element& was, const Element& is)
 {
+    if (place.isClosed || was.isClosed || is.isClosed) {
+        isOpen = false;
+        return;
+    }
     const bool areLeaves = place.nodes.empty() && was.nodes.empty() && is.nodes.empty();
     const bool isLaidOut = place.isBlank() && was.isBlank() && is.isBlank();
     if (!isSame(place, was)) {

@@ -31,7 +31,8 @@ public:
     {
     }
 
-    /// \return whether that is possible; then edits() are there
+    /// \return whether that is possible; then edits() are there. It may be impossible because of a closed
+    /// element
     bool run();
     /// In the order of the bytes; none overlaps another one.
     const std::vector<ByteEdit>& edits() const { return changes; }
@@ -68,6 +69,7 @@ private:
     const XmlOutline& after;
     InsertedMarkup inserted;
     std::vector<ByteEdit> changes;
+    bool isOpen = true;
     mutable std::optional<std::string> knownUnit;
 };
 

@@ -12,17 +12,42 @@
 namespace citygml {
 namespace binding {
 
+namespace {
+
+// These stay open, to show how a document is indented.
+constexpr std::size_t elementsOfSample = 100;
+
+} // namespace
+
+CommonEnds CommonEnds::of(std::string_view a, std::string_view b)
+{
+    const auto first = std::mismatch(a.begin(), a.end(), b.begin(), b.end()).first - a.begin();
+    a.remove_prefix(static_cast<std::size_t>(first));
+    b.remove_prefix(static_cast<std::size_t>(first));
+    const auto last = std::mismatch(a.rbegin(), a.rend(), b.rbegin(), b.rend()).first - a.rbegin();
+    return {static_cast<std::size_t>(first), static_cast<std::size_t>(last)};
+}
+
 /// Makes the elements from what the parser tells.
 class XmlOutline::Builder : public XmlHandler
 {
 public:
-    Builder(XmlOutline& outline, const XmlParser& parser, const NamespaceScopes& scopes)
-        : outline(outline), source(outline.text), parser(parser), scopes(scopes)
+    /// \param model may be null
+    Builder(XmlOutline& outline, const XmlParser& parser, const NamespaceScopes& scopes,
+            const CommonEnds& closed, const XmlOutline* model)
+        : outline(outline), source(outline.text), parser(parser), scopes(scopes), closed(closed)
     {
+        if (model != nullptr) {
+            models.push_back(model->top.get());
+        }
     }
 
     void startElement(const char* name, const XmlAttributes& attributes) override
     {
+        if (open != nullptr && open->isClosed) {
+            ++depthInClosed;
+            return;
+        }
         auto element = std::make_unique<OutlineElement>();
         OutlineElement& opened = *element;
         const PrefixedName parts(name);
@@ -36,32 +61,50 @@ public:
             open->hasEntityMarkup = true;
         }
         readAttributes(opened, attributes);
+        followModel(opened);
         if (open != nullptr) {
             addNode(opened.begin).element = std::move(element);
         } else {
             outline.top = std::move(element);
         }
         open = &opened;
+        ++elements;
     }
 
     void endElement(const char*) override
     {
+        if (depthInClosed != 0) {
+            --depthInClosed;
+            return;
+        }
         open->contentEnd = std::max(parser.byteIndex(), open->contentBegin);
         open->isOneTag = source.at(open->contentBegin - 2 * source.unit()) == '/';
         open->end = open->isOneTag ? open->contentBegin : open->contentEnd + parser.byteCount();
         const std::size_t end = open->end;
+        if (elements > elementsOfSample &&
+            (end <= closed.first || open->begin >= source.bytes().size() - closed.last)) {
+            close(*open);
+        }
+        if (!models.empty()) {
+            models.pop_back();
+        }
         open = open->parent;
         if (open != nullptr) {
             open->nodes.back().end = end;
         }
     }
 
-    void characters(std::string_view characters) override { open->texts.back() += characters; }
+    void characters(std::string_view characters) override
+    {
+        if (!open->isClosed) {
+            open->texts.back() += characters;
+        }
+    }
     void comment(std::string) override { addMarkup(); }
     void processingInstruction(std::string markup) override
     {
         if (markup == XmlOutline::keptMark) {
-            isNextKept = true;
+            isNextKept = open == nullptr || !open->isClosed;
         } else {
             addMarkup();
         }
@@ -69,6 +112,29 @@ public:
     std::string path() const override { return std::string(); }
 
 private:
+    static void close(OutlineElement& element)
+    {
+        element.isClosed = true;
+        element.nodes = std::vector<OutlineNode>();
+        element.texts = std::vector<std::string>(1);
+    }
+
+    /// Closes an element if the one in the same place of the model is closed.
+    void followModel(OutlineElement& opened)
+    {
+        if (models.empty()) {
+            return;
+        }
+        const OutlineElement* model = models.back();
+        if (open != nullptr) {
+            const std::size_t number = open->nodes.size();
+            model = model != nullptr && number < model->nodes.size() ? model->nodes[number].element.get()
+                                                                     : nullptr;
+            models.push_back(model);
+        }
+        opened.isClosed = model != nullptr && model->isClosed && model->local == opened.local;
+    }
+
     OutlineNode& addNode(std::size_t begin)
     {
         OutlineNode& node = open->nodes.emplace_back();
@@ -81,7 +147,7 @@ private:
 
     void addMarkup()
     {
-        if (open == nullptr) {
+        if (open == nullptr || open->isClosed) {
             return;
         }
         OutlineNode& node = addNode(parser.byteIndex());
@@ -152,7 +218,12 @@ private:
     const SourceText& source;
     const XmlParser& parser;
     const NamespaceScopes& scopes;
+    const CommonEnds closed;
+    // Those in the places of the open elements, null where there is none; empty without a model.
+    std::vector<const OutlineElement*> models;
     OutlineElement* open = nullptr;
+    std::size_t depthInClosed = 0;
+    std::size_t elements = 0;
     bool isNextKept = false;
 };
 
@@ -173,12 +244,22 @@ const OutlineAttribute* OutlineElement::attribute(std::string_view attributeUri,
     return found != attributes.end() ? &*found : nullptr;
 }
 
-XmlOutline::XmlOutline(std::string_view bytes) : text(bytes)
+XmlOutline::XmlOutline(std::string_view bytes, const CommonEnds& closed) : text(bytes)
+{
+    build(closed, nullptr);
+}
+
+XmlOutline::XmlOutline(std::string_view bytes, const XmlOutline& model) : text(bytes)
+{
+    build(CommonEnds(), &model);
+}
+
+void XmlOutline::build(const CommonEnds& closed, const XmlOutline* model)
 {
     NamespaceScopes scopes(SchemaIndex::instance());
     XmlParser parser(scopes);
-    Builder builder(*this, parser, scopes);
-    parser.feed(bytes, builder, true);
+    Builder builder(*this, parser, scopes, closed, model);
+    parser.feed(text.bytes(), builder, true);
 }
 
 } // namespace binding

@@ -57,6 +57,8 @@ struct OutlineElement
     std::size_t begin = 0, contentBegin = 0, contentEnd = 0, end = 0;
     /// Whether it is one tag, so that there is no content to put something into.
     bool isOneTag = false;
+    /// Whether what is in it has been left out of the outline.
+    bool isClosed = false;
     /// Whether some of its content stands in an entity elsewhere.
     bool hasEntityMarkup = false;
     /// What stands in it besides text, and the texts in front of each of these and behind the last one, as
@@ -78,7 +80,16 @@ struct OutlineElement
     const OutlineAttribute* attribute(std::string_view attributeUri, std::string_view attributeLocal) const;
 };
 
-/// The elements of a document with their places in its bytes.
+/// How many bytes two texts have in common at their beginnings and, behind these, at their ends.
+struct CommonEnds
+{
+    std::size_t first = 0, last = 0;
+
+    static CommonEnds of(std::string_view a, std::string_view b);
+};
+
+/// The elements of a document with their places in its bytes. An outline takes many times the memory of the
+/// text, so that elements may be closed: they are there, but nothing of what is in them.
 class XmlOutline
 {
 public:
@@ -87,7 +98,10 @@ public:
 
     /// \param bytes outlive the outline
     /// \throws xsd::cxx::tree::exception<char> for what is no XML document
-    explicit XmlOutline(std::string_view bytes);
+    /// \param closed elements that lie in one of these are closed, but for some at the beginning
+    explicit XmlOutline(std::string_view bytes, const CommonEnds& closed = CommonEnds());
+    /// Closes the elements that are closed in the outline of a document with the same elements.
+    XmlOutline(std::string_view bytes, const XmlOutline& model);
 
     const SourceText& source() const { return text; }
     const OutlineElement& root() const { return *top; }
@@ -95,9 +109,15 @@ public:
     {
         return text.bytes().substr(node.begin, node.end - node.begin);
     }
+    std::string_view bytesOf(const OutlineElement& element) const
+    {
+        return text.bytes().substr(element.begin, element.end - element.begin);
+    }
 
 private:
     class Builder;
+
+    void build(const CommonEnds& closed, const XmlOutline* model);
 
     SourceText text;
     std::unordered_set<std::string> uris;
