@@ -5,6 +5,7 @@
 #include "apps/tables/ColumnTree.h"
 #include "apps/tables/FeaturePlace.h"
 #include "apps/tables/GenericAttributes.h"
+#include "citygml/MemberUnit.h"
 #include "framework/AbstractUnit.h"
 #include "gml/AbstractFeatureType.hxx"
 #include "gml/CodeType.hxx"
@@ -36,19 +37,60 @@ CoreProperty* childAt(const CoreProperty& parent, const ColumnPath::Step& step, 
     return nullptr;
 }
 
-/// The property that a path leads to; null where there is none.
-CoreProperty* propertyAt(const CoreProperty& root, const ColumnPath& path)
+/// The property that steps lead to; null where there is none.
+/// \param begin number of the steps that lead to the group already
+CoreProperty* propertyBelow(const CoreProperty* group, const ColumnPath& path, int begin)
 {
-    const CoreProperty* at = path.isGeneric ? root.getProperty(QStringLiteral("Fields"), false) : &root;
-    for (int i = 0; at != nullptr && i + 1 < path.steps.size(); ++i) {
-        at = childAt(*at, path.steps[i], false);
+    for (int i = begin; group != nullptr && i + 1 < path.steps.size(); ++i) {
+        group = childAt(*group, path.steps[i], false);
     }
-    if (at == nullptr) {
+    if (group == nullptr) {
         return nullptr;
     }
-    CoreProperty* const found = childAt(*at, path.steps.last(), path.isGeneric);
+    CoreProperty* const found = childAt(*group, path.steps.last(), path.isGeneric);
     // `set` takes a generic attribute among the fields.
-    return found != nullptr || path.isGeneric ? found : childAt(*at, path.steps.last(), true);
+    return found != nullptr || path.isGeneric ? found : childAt(*group, path.steps.last(), true);
+}
+
+/// The same from the root of a tree.
+CoreProperty* propertyAt(const CoreProperty& root, const ColumnPath& path)
+{
+    return propertyBelow(path.isGeneric ? root.getProperty(QStringLiteral("Fields"), false) : &root, path, 0);
+}
+
+/// The group that is the n-th one of those that labels lead to.
+/// \param depth   number of the labels
+/// \param begin   number of the labels that lead to the group that is searched
+/// \param ordinal counted down for each group of these labels
+const CoreProperty* groupAt(const CoreProperty& around, const ColumnPath& path, int depth, int begin,
+                            int& ordinal)
+{
+    for (const auto& child : around.properties()) {
+        if (child->name() != path.steps[begin].label || child->properties().isEmpty()) {
+            continue;
+        }
+        const bool isLast = begin + 1 == depth;
+        if (isLast && --ordinal == 0) {
+            return child.get();
+        }
+        const CoreProperty* const found = isLast ? nullptr : groupAt(*child, path, depth, begin + 1, ordinal);
+        if (found != nullptr) {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
+/// The first property of a member below a group; null where there is none.
+const CoreProperty* firstBound(const CoreProperty& group)
+{
+    for (const auto& child : group.properties()) {
+        const bool isBound = dynamic_cast<const BoundProperty*>(child.get()) != nullptr;
+        if (const CoreProperty* const found = isBound ? child.get() : firstBound(*child)) {
+            return found;
+        }
+    }
+    return nullptr;
 }
 
 /// Whether two properties, of one tree or of two, are of the same member of the document.
@@ -112,17 +154,6 @@ bool isShown(const QVariant& value, const QString& cell)
 QString unitOf(const CoreProperty& property)
 {
     return property.unit() != nullptr ? property.unit()->name() : QString();
-}
-
-/// \throws EditError
-void verifyUnit(const CoreProperty& property, const QString& unit)
-{
-    if (!unit.isEmpty() && unitOf(property) != unit) {
-        throw EditError(
-            property.unit() != nullptr
-                ? CellEdit::tr("the unit is \"%1\", and not \"%2\"").arg(unitOf(property), unit)
-                : CellEdit::tr("there is no value with the unit \"%1\" that could be changed").arg(unit));
-    }
 }
 
 /// \throws EditError
@@ -203,15 +234,53 @@ CellEdit::Outcome CellEdit::perform(const Cell& cell)
     case EditTable::Role::Value:
         break;
     }
-    CoreProperty* const property = propertyAt(existing(), cell.column.path);
+    CoreProperty* const property = find(cell);
     if (!options.absentWord.isEmpty() && cell.text == options.absentWord) {
         return property != nullptr ? remove(*property, cell) : Outcome();
     }
     if (property != nullptr) {
         return change(*property, cell);
     }
-    CoreProperty* const possible = propertyAt(all(), cell.column.path);
+    CoreProperty* const possible = findPossible(cell);
     return possible != nullptr ? change(*possible, cell) : create(cell);
+}
+
+/// The property of a cell among those of the document; null where there is none.
+/// \throws EditError where there is no group for the row of the cell
+CoreProperty* CellEdit::find(const Cell& cell)
+{
+    if (cell.ordinal == 0) {
+        return propertyAt(existing(), cell.column.path);
+    }
+    int ordinal = cell.ordinal;
+    const CoreProperty* const group = groupAt(existing(), cell.column.path, cell.groupDepth, 0, ordinal);
+    if (group == nullptr) {
+        throw EditError(
+            tr("the feature has no group %1 of %2; a table cannot add one")
+                .arg(QString::number(cell.ordinal), cell.column.path.steps[cell.groupDepth - 1].label));
+    }
+    return propertyBelow(group, cell.column.path, cell.groupDepth);
+}
+
+/// The property that a cell could make; null where there is none.
+CoreProperty* CellEdit::findPossible(const Cell& cell)
+{
+    if (cell.ordinal == 0) {
+        return propertyAt(all(), cell.column.path);
+    }
+    // The group has the same members in both trees.
+    int ordinal = cell.ordinal;
+    const CoreProperty* const known =
+        firstBound(*groupAt(existing(), cell.column.path, cell.groupDepth, 0, ordinal));
+    Steps steps;
+    if (known == nullptr || !findSteps(all(), *known, steps)) {
+        return nullptr;
+    }
+    const CoreProperty* group = &all();
+    for (int i = 0; group != nullptr && i < cell.groupDepth; ++i) {
+        group = childAt(*group, steps[i], false);
+    }
+    return propertyBelow(group, cell.column.path, cell.groupDepth);
 }
 
 /// Gives the feature another first name; the others and what stands with it stay.
@@ -262,25 +331,53 @@ CellEdit::Outcome CellEdit::rename(const Cell& cell)
 
 CellEdit::Outcome CellEdit::change(CoreProperty& property, const Cell& cell)
 {
-    verifyUnit(property, cell.unit);
+    if (property.unit() != nullptr && !cell.unit.isEmpty() && unitOf(property) != cell.unit) {
+        throw EditError(tr("the unit is \"%1\", and not \"%2\"").arg(unitOf(property), cell.unit));
+    }
     if (isShown(property.value(), cell.text)) {
         return {};
     }
     Former former(property);
     CellChange change;
-    change.before = cellText(former.shown());
     try {
-        apps::setFromText(property, cell.text);
+        change = give(property, cell);
     } catch (const EditError&) {
         former.restore();
         throw;
     }
+    change.before = cellText(former.shown());
     if (isTrial) {
         const QVariant now = property.value();
         // A link is entered as a text.
         change.value = now.userType() == QMetaType::QUrl ? QVariant(cell.text) : now;
         former.restore();
         change.property = placeOf(property);
+    } else if (change.kind == CellChange::Measure) {
+        // The property does not know the unit.
+        forgetTrees();
+    }
+    return change;
+}
+
+/// Sets a property to what a cell says. A measure that was absent gets the unit of the cell.
+/// \throws EditError; the property may have changed then
+CellChange CellEdit::give(CoreProperty& property, const Cell& cell)
+{
+    CellChange change;
+    auto* const bound = dynamic_cast<BoundProperty*>(&property);
+    const bool isNew = bound != nullptr && !bound->present();
+    apps::setFromText(property, cell.text);
+    std::optional<citygml::Member> unit = isNew ? citygml::unitOf(bound->member()) : std::nullopt;
+    if (unit && cell.unit.isEmpty()) {
+        throw EditError(tr("a measure needs a unit: call the column \"%1 [UNIT]\"").arg(cell.column.name));
+    }
+    if (!cell.unit.isEmpty() && property.unit() == nullptr) {
+        if (!unit || !unit->setText(cell.unit.toStdString())) {
+            throw EditError(
+                tr("there is no value with the unit \"%1\" that could be changed").arg(cell.unit));
+        }
+        change.kind = CellChange::Measure;
+        change.unit = cell.unit;
     }
     return change;
 }
@@ -310,7 +407,7 @@ CellEdit::Outcome CellEdit::remove(CoreProperty& property, const Cell& cell)
 
 CellEdit::Outcome CellEdit::create(const Cell& cell)
 {
-    if (!options.create) {
+    if (!options.create || cell.ordinal > 0) {
         throw EditError(tr("the feature has no such attribute"));
     }
     CellChange change;

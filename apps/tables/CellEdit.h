@@ -33,6 +33,7 @@ struct CellChange
 {
     enum Kind {
         Value,        ///< the property gets the value
+        Measure,      ///< the property gets the value and the unit
         Absence,      ///< the property's element or attribute leaves the document
         FirstName,    ///< the feature, which has no name, gets one
         NewAttribute, ///< the feature gets a generic attribute
@@ -44,7 +45,7 @@ struct CellChange
     QVector<ColumnPath::Step> property;
     QVariant value;
     CellType type = CellType::Text; ///< of a new attribute
-    QString unit;                   ///< of a new attribute
+    QString unit;                   ///< of a measure and a new attribute
     QString before;                 ///< what the property shows; null where there is none
 };
 
@@ -61,6 +62,8 @@ public:
         CellType type; ///< of a generic attribute that the cell makes
         QString unit;  ///< empty where the table tells none
         QString text;
+        int groupDepth = 0; ///< see EditTable
+        int ordinal = 0;    ///< see EditTable::Row
     };
 
     /// \param options         those of the import
@@ -80,8 +83,11 @@ private:
     using Outcome = std::optional<CellChange>;
 
     Outcome perform(const Cell& cell);
+    CoreProperty* find(const Cell& cell);
+    CoreProperty* findPossible(const Cell& cell);
     Outcome rename(const Cell& cell);
     Outcome change(CoreProperty& property, const Cell& cell);
+    CellChange give(CoreProperty& property, const Cell& cell);
     Outcome remove(CoreProperty& property, const Cell& cell);
     Outcome create(const Cell& cell);
     QVector<ColumnPath::Step> placeOf(const CoreProperty& property);

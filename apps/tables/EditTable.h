@@ -36,6 +36,7 @@ struct EditTable
         QString id;
         QString file; ///< empty where the table names none
         qint64 line = 0;
+        int ordinal = 0;        ///< of the group in its feature, from 1; 0 in a table of features
         QVector<QString> cells; ///< in the order of the columns; an empty one says nothing
     };
 
@@ -48,6 +49,8 @@ struct EditTable
     QString lineWord;
     QVector<Column> columns;
     std::vector<Row> rows;
+    /// Number of steps of the paths that lead to the group whose rows these are; 0 in a table of features.
+    int groupDepth = 0;
 };
 
 } // namespace tolvik::tables

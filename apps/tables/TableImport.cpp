@@ -123,13 +123,20 @@ QVector<TableImport::CellPlace> TableImport::cellsOf(const QVector<Place>& rows)
     return cells;
 }
 
+/// What tells the cell of a feature from its others.
+QString TableImport::keyOf(const CellPlace& cell) const
+{
+    return tableOf(cell.row).columns[cell.column].path.text() + QChar(0) +
+           QString::number(rowOf(cell.row).ordinal);
+}
+
 /// Leaves out cells that say what another row has said of the same feature, and those that say otherwise.
 QVector<TableImport::CellPlace> TableImport::withoutContradictions(const QVector<CellPlace>& cells)
 {
     QHash<QString, CellPlace> first;
     QSet<QString> contradicted;
     for (const CellPlace& cell : cells) {
-        const QString path = tableOf(cell.row).columns[cell.column].path.text();
+        const QString path = keyOf(cell);
         const auto former = first.constFind(path);
         if (former == first.constEnd()) {
             first.insert(path, cell);
@@ -144,7 +151,7 @@ QVector<TableImport::CellPlace> TableImport::withoutContradictions(const QVector
     }
     QVector<CellPlace> agreed;
     for (const CellPlace& cell : cells) {
-        const QString path = tableOf(cell.row).columns[cell.column].path.text();
+        const QString path = keyOf(cell);
         const CellPlace& kept = first[path];
         if (!contradicted.contains(path) && kept.row.table == cell.row.table &&
             kept.row.row == cell.row.row) {
@@ -170,7 +177,8 @@ void TableImport::forEachCell(const gml::AbstractFeatureType& feature, const QSt
         const CellType type = types[static_cast<std::size_t>(place.row.table)][place.column];
         const QString unit = column.unitColumn >= 0 ? rowOf(place.row).cells[column.unitColumn] : column.unit;
         try {
-            step(place, {column, type, unit, textOf(place)});
+            step(place, {column, type, unit, textOf(place), tableOf(place.row).groupDepth,
+                         rowOf(place.row).ordinal});
         } catch (const apps::EditError& error) {
             tell(place.row, column.name, QString::fromUtf8(error.what()));
         }
@@ -200,7 +208,10 @@ void TableImport::plan(CityGMLModel& model, int number, const QString& file,
     CellEdit edit(model, feature, options, hasOtherContent);
     forEachCell(feature, file, [&](const CellPlace& place, const CellEdit::Cell& cell) {
         if (const std::optional<CellChange> change = edit.plan(cell)) {
-            receive({number, rowOf(place.row).id, cell.column.name, cell.text, *change});
+            const QString column = cell.ordinal == 0
+                                       ? cell.column.name
+                                       : QStringLiteral("%1 (%2)").arg(cell.column.name).arg(cell.ordinal);
+            receive({number, rowOf(place.row).id, column, cell.text, *change});
         }
     });
 }

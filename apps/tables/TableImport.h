@@ -95,6 +95,7 @@ private:
     const EditTable& tableOf(const Place& place) const;
     const EditTable::Row& rowOf(const Place& place) const;
     const QString& textOf(const CellPlace& place) const;
+    QString keyOf(const CellPlace& cell) const;
     QVector<Place> rowsOf(const QString& id, const QString& file) const;
     bool isMeant(const EditTable::Row& row, const QString& file) const;
     void tell(const Place& place, const QString& column, const QString& reason);

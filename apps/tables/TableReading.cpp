@@ -3,6 +3,7 @@
 #include "apps/tables/OgrErrors.h"
 #include "apps/tables/TableError.h"
 
+#include <algorithm>
 #include <gdal_priv.h>
 #include <memory>
 #include <ogrsf_frmts.h>
@@ -10,6 +11,7 @@
 #include <QDateTime>
 #include <QHash>
 #include <QLocale>
+#include <QRegularExpression>
 
 namespace tolvik::tables {
 
@@ -119,10 +121,16 @@ public:
             unit.isUnit = true;
             column.unitColumn = unitColumns.value(unit.text(), -1);
         }
+        if (isGroup()) {
+            table.groupDepth = groupDepth();
+        }
     }
 
     bool hasIds() const { return id >= 0; }
-    bool isGroup() const { return isOfGroup; }
+    /// Whether the rows are of groups that a feature may have several of.
+    bool isGroup() const { return ordinal >= 0; }
+    /// Whether the name of the table tells which groups.
+    bool isKnownGroup() const { return table.groupDepth > 0; }
 
     /// Number of rows that say of no feature whose they are, when read() is done.
     qint64 withoutId() const { return nameless; }
@@ -145,6 +153,7 @@ public:
                 continue;
             }
             row.file = file >= 0 ? textOf(*feature, file) : QString();
+            row.ordinal = ordinal >= 0 ? std::max(1, feature->GetFieldAsInteger(ordinal)) : 0;
             row.cells.reserve(sources.size());
             for (const int field : qAsConst(sources)) {
                 row.cells += textOf(*feature, field);
@@ -166,7 +175,13 @@ private:
             file = index;
             return;
         }
-        isOfGroup = isOfGroup || name == QLatin1String("ordinal");
+        if (name == QLatin1String("ordinal")) {
+            ordinal = index;
+            return;
+        }
+        if (isGroup() && name == QLatin1String("outer")) {
+            return;
+        }
         EditTable::Column column = columnOf(field, table.name, units, hasTypes);
         if (column.path.steps.isEmpty() || name == QLatin1String("geometryFrom")) {
             return;
@@ -184,6 +199,29 @@ private:
         sources += index;
     }
 
+    /// How many steps all paths have in common, to the last one that the name of the table ends with. A
+    /// number may stand behind it.
+    int groupDepth() const
+    {
+        static const QRegularExpression number(QStringLiteral("[0-9]+$"));
+        const QString plain = QString(table.name).remove(number);
+        const QVector<ColumnPath::Step> first =
+            table.columns.isEmpty() ? QVector<ColumnPath::Step>() : table.columns.first().path.steps;
+        for (int depth = first.size() - 1; depth > 0; --depth) {
+            const bool isCommon =
+                std::all_of(table.columns.begin(), table.columns.end(), [&](const EditTable::Column& column) {
+                    return column.path.steps.size() > depth &&
+                           std::equal(first.begin(), first.begin() + depth, column.path.steps.begin(),
+                                      [](const auto& a, const auto& b) { return a.label == b.label; });
+                });
+            const QString end = '_' + first[depth - 1].label;
+            if (isCommon && (table.name.endsWith(end) || plain.endsWith(end))) {
+                return depth;
+            }
+        }
+        return 0;
+    }
+
     OGRLayer& layer;
     const QString idColumn;
     EditTable table;
@@ -191,8 +229,8 @@ private:
     QHash<QString, int> unitColumns;
     int id = -1;
     int file = -1;
+    int ordinal = -1;
     qint64 nameless = 0;
-    bool isOfGroup = false;
 };
 
 Units unitsOf(GDALDataset& dataset)
@@ -249,9 +287,11 @@ std::vector<EditTable> readTables(const EditSource& source, QStringList& remarks
         if (!reader.hasIds() && name != QLatin1String("columns")) {
             remarks += QStringLiteral("%1: the table %2 has no column %3, and was left out")
                            .arg(source.path, name, source.idColumn);
-        } else if (reader.isGroup()) {
-            remarks += QStringLiteral("%1: the table %2 has rows of groups, and was left out")
-                           .arg(source.path, name);
+        } else if (reader.isGroup() && !reader.isKnownGroup()) {
+            remarks +=
+                QStringLiteral("%1: the table %2 has rows of groups, and its name does not tell of which: "
+                               "it was left out")
+                    .arg(source.path, name);
         } else if (reader.hasIds()) {
             tables.push_back(reader.read(isText));
             if (reader.withoutId() > 0) {

@@ -249,6 +249,104 @@ private slots:
         QVERIFY(contentOf(path("out.gml")).contains("from SQL"));
     }
 
+    void anAbsentMeasureGetsItsUnit_data()
+    {
+        QTest::addColumn<QByteArray>("table");
+        QTest::newRow("of the column") << QByteArray("gml:id,Fields/MeasuredHeight [ft]\nbare,12.5\n");
+        QTest::newRow("of the row") << QByteArray(
+            "gml:id,Fields/MeasuredHeight,Fields/MeasuredHeight/@uom\nbare,12.5,ft\n");
+    }
+
+    void anAbsentMeasureGetsItsUnit()
+    {
+        QFETCH(QByteArray, table);
+        QVERIFY(writeFile(path("a.gml"), documentText(buildingMember("", "bare"))));
+        const ProcessResult result = apply(table);
+        QCOMPARE(result.err, QByteArray());
+        QVERIFY(contentOf(path("out.gml"))
+                    .contains("<bldg:measuredHeight uom=\"ft\">12.5</bldg:measuredHeight>"));
+    }
+
+    void aMeasureWithoutAUnitIsNotMade()
+    {
+        QVERIFY(writeFile(path("a.gml"), documentText(buildingMember("", "bare"))));
+        const ProcessResult result = apply("gml:id,Fields/MeasuredHeight\nbare,12.5\n");
+        QCOMPARE(result.code, 1);
+        QVERIFY2(result.err.contains("t: line 2: bare: Fields/MeasuredHeight: a measure needs a unit"),
+                 result.err);
+        QVERIFY(!QFile::exists(path("out.gml")));
+    }
+
+    void onlyAMeasureHasAUnit()
+    {
+        QVERIFY(writeFile(path("a.gml"), documentText(buildingMember("", "bare"))));
+        const ProcessResult result = apply("gml:id,Fields/RoofType [m]\nbare,1000\n", {"--skip-bad"});
+        QCOMPARE(result.code, 1);
+        QVERIFY2(result.err.contains("Fields/RoofType [m]: there is no value with the unit \"m\""),
+                 result.err);
+        QCOMPARE(contentOf(path("out.gml")), contentOf(path("a.gml")));
+    }
+
+    void rowsThatContradictEachOtherAreTold()
+    {
+        const QByteArray table = "gml:id,gen:owner,Fields/RoofType\none,Bo,1000\ntwo,Cy,\none,Cy,1000\n";
+        const ProcessResult result = apply(table);
+        QCOMPARE(result.code, 1);
+        QVERIFY2(result.err.contains("t: line 4: one: gen:owner: \"Cy\" contradicts \"Bo\" of line 2\n"),
+                 result.err);
+        QCOMPARE(result.err.count("contradicts"), 1);
+        QVERIFY(!QFile::exists(path("out.gml")));
+        QCOMPARE(apply(table, {"--skip-bad"}).code, 1);
+        const QByteArray text = contentOf(path("out.gml"));
+        QCOMPARE(text.count(">Ada<"), 1);
+        QCOMPARE(text.count(">Cy<"), 1);
+        QCOMPARE(text.count("<bldg:roofType>1000<"), 1);
+    }
+
+    void equalAttributesGoEachByItself()
+    {
+        const QByteArray note = "<gen:stringAttribute name='note'><gen:value>";
+        const QByteArray end = "</gen:value></gen:stringAttribute>";
+        QVERIFY(writeFile(
+            path("a.gml"),
+            documentText(buildingMember(note + "1" + end + note + "2" + end + note + "3" + end, "one"))));
+        QCOMPARE(apply("gml:id,gen:note,gen:note[2],gen:note[3]\none,-,-,4\n", {"--absent", "-"}).err,
+                 QByteArray());
+        const QByteArray text = contentOf(path("out.gml"));
+        QCOMPARE(text.count("stringAttribute name"), 1);
+        QVERIFY(text.contains(">4<"));
+    }
+
+    void theWordForAbsenceSaysNothingOfTheType()
+    {
+        QCOMPARE(apply("gml:id,gen:share\none,0.5\ntwo,-\n", {"--create", "--absent", "-"}).err,
+                 QByteArray());
+        QVERIFY(contentOf(path("out.gml")).contains("doubleAttribute name=\"share\""));
+    }
+
+    void aRowOfAGroupChangesThatGroup()
+    {
+        QVERIFY(writeFile(path("a.gml"), contentOf(examples() + "/energy.gml")));
+        const QString floors = path("Building_floorArea.csv");
+        QVERIFY(writeFile(floors, "gml:id,ordinal,outer,Properties/Energy/floorAreas/floorArea/type,"
+                                  "Properties/Energy/floorAreas/floorArea/value\nmaison-du-port,2,,,97.5\n"));
+        const QStringList command{"apply", floors, path("a.gml"), "--out", path("out.gml")};
+        ProcessResult result = inspect(command);
+        QCOMPARE(result.err, QByteArray());
+        QVERIFY(contentOf(path("out.gml")).contains(">97.5<"));
+        QCOMPARE(written(">97.5<", ">96.2<"), contentOf(path("a.gml")));
+        QVERIFY(QFile::remove(path("out.gml")));
+        QVERIFY(writeFile(
+            floors, "gml:id,ordinal,Properties/Energy/floorAreas/floorArea/value\nmaison-du-port,3,1\n"));
+        result = inspect(command);
+        QCOMPARE(result.code, 1);
+        QVERIFY2(
+            result.err.contains("line 2: maison-du-port: Properties/Energy/floorAreas/floorArea/value: the "
+                                "feature has no group 3 of floorArea"),
+            result.err);
+        QVERIFY(!QFile::exists(path("out.gml")));
+    }
+
     void whatIsNoTableIsTold()
     {
         QCOMPARE(inspect({"apply", path("none.csv"), path("a.gml"), "--out", path("out.gml")}).code, 1);
