@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <QJsonArray>
+#include <utility>
 
 namespace tolvik::viewer {
 
@@ -9,46 +10,70 @@ namespace {
 
 const QString editGroupKind = QStringLiteral("group");
 
-} // namespace
-
-EditGroup::EditGroup(const QString& text)
+void undoAll(EditGroup::Edits& edits)
 {
-    setText(text);
+    std::for_each(edits.rbegin(), edits.rend(), [](const auto& edit) { edit->undo(); });
 }
 
-void EditGroup::add(std::unique_ptr<RecordedEdit> edit)
+EditGroup::Edits editsOf(Document& document, const QJsonArray& records, QString& refusal)
 {
-    edits.push_back(std::move(edit));
+    EditGroup::Edits edits;
+    for (const QJsonValue each : records) {
+        std::unique_ptr<RecordedEdit> edit =
+            RecordedEdit::make(each["kind"].toString(), document, each["edit"].toObject());
+        if (edit == nullptr) {
+            refusal = each["kind"].toString();
+            return edits;
+        }
+        edits.push_back(std::move(edit));
+    }
+    return edits;
+}
+
+} // namespace
+
+EditGroup::EditGroup(const QString& text, int size, Maker make) : count(size), make(std::move(make))
+{
+    setText(text);
 }
 
 void EditGroup::addMaker()
 {
     RecordedEdit::addMaker(editGroupKind, [](Document& document, const QJsonObject& record) {
-        auto group = std::make_unique<EditGroup>(record["text"].toString());
-        for (const QJsonValue each : record["edits"].toArray()) {
-            std::unique_ptr<RecordedEdit> edit =
-                make(each["kind"].toString(), document, each["edit"].toObject());
-            if (edit == nullptr) {
-                group->undo();
-                return std::unique_ptr<RecordedEdit>();
-            }
-            group->add(std::move(edit));
-        }
-        return std::unique_ptr<RecordedEdit>(std::move(group));
+        const QJsonArray features = record["features"].toArray();
+        auto group = std::make_unique<EditGroup>(
+            record["text"].toString(), features.size(), [&document, features](int number, QString& refusal) {
+                return editsOf(document, features[number].toArray(), refusal);
+            });
+        const bool isDone = group->performAll().isEmpty();
+        return std::unique_ptr<RecordedEdit>(isDone ? std::move(group) : nullptr);
     });
 }
 
-/// The first call finds all edits done.
-void EditGroup::redo()
+QString EditGroup::perform(int number)
 {
-    for (const auto& edit : edits) {
-        edit->redo();
+    QString refusal;
+    Feature feature;
+    feature.edits = make(number, refusal);
+    if (!refusal.isEmpty()) {
+        undoAll(feature.edits);
+    } else if (!feature.edits.empty()) {
+        changed.push_back(std::move(feature));
     }
+    return refusal;
 }
 
-void EditGroup::undo()
+void EditGroup::turn(int change)
 {
-    std::for_each(edits.rbegin(), edits.rend(), [](const auto& edit) { edit->undo(); });
+    Feature& feature = changed[static_cast<std::size_t>(change)];
+    if (feature.isDone) {
+        undoAll(feature.edits);
+    } else {
+        for (const auto& edit : feature.edits) {
+            edit->redo();
+        }
+    }
+    feature.isDone = !feature.isDone;
 }
 
 QString EditGroup::kind() const
@@ -58,11 +83,20 @@ QString EditGroup::kind() const
 
 QJsonObject EditGroup::record() const
 {
-    QJsonArray records;
-    for (const auto& edit : edits) {
-        records += QJsonObject{{"kind", edit->kind()}, {"edit", edit->record()}};
+    QJsonArray features;
+    for (const Feature& feature : changed) {
+        QJsonArray records;
+        for (const auto& edit : feature.edits) {
+            records += QJsonObject{{"kind", edit->kind()}, {"edit", edit->record()}};
+        }
+        features += records;
     }
-    return {{"text", text()}, {"edits", records}};
+    return {{"text", text()}, {"features", features}};
+}
+
+void EditGroup::endWalk()
+{
+    make = nullptr;
 }
 
 } // namespace tolvik::viewer

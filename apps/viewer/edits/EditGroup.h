@@ -1,38 +1,49 @@
 #pragma once
 
-#include "apps/viewer/document/RecordedEdit.h"
+#include "apps/viewer/document/SlicedEdit.h"
 
+#include <functional>
 #include <memory>
 #include <vector>
 
 namespace tolvik::viewer {
 
-/// Edits of any kind and number as one step of the history.
-/// \code
-/// auto group = std::make_unique<EditGroup>(tr("import of %1").arg(name));
-/// group->add(PropertyEdit::make(...)); // which is done by that
-/// document.undoStack().push(group.release());
-/// \endcode
-class EditGroup : public RecordedEdit
+/// Several edits of each of many features as one step of the history.
+class EditGroup : public SlicedEdit
 {
 public:
-    /// \param text what the history calls the step
-    explicit EditGroup(const QString& text);
+    using Edits = std::vector<std::unique_ptr<RecordedEdit>>;
+    /// Makes the edits of a feature, by its number, in the order in which they are to be done. They are done
+    /// by that, up to the one that is refused.
+    using Maker = std::function<Edits(int number, QString& refusal)>;
 
-    /// Adds an edit that is done already, behind the others.
-    void add(std::unique_ptr<RecordedEdit> edit);
-    int count() const { return static_cast<int>(edits.size()); }
+    /// \param text what the history calls the step
+    /// \param size number of features
+    EditGroup(const QString& text, int size, Maker make);
 
     /// Registers the kind with RecordedEdit.
     static void addMaker();
 
-    void redo() override;
-    void undo() override;
+    int size() const override { return count; }
+    QString perform(int number) override;
+    int changes() const override { return static_cast<int>(changed.size()); }
+    void turn(int change) override;
     QString kind() const override;
     QJsonObject record() const override;
 
+protected:
+    void endWalk() override;
+
 private:
-    std::vector<std::unique_ptr<RecordedEdit>> edits;
+    struct Feature
+    {
+        Edits edits;
+        bool isDone = true;
+    };
+
+    const int count;
+    Maker make; // until the edits are done for the first time
+    std::vector<Feature> changed;
 };
 
 } // namespace tolvik::viewer

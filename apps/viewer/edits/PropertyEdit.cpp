@@ -5,6 +5,7 @@
 #include "apps/viewer/edits/GenericAttributes.h"
 #include "apps/viewer/edits/MemberText.h"
 #include "apps/viewer/features/FeatureTexts.h"
+#include "citygml/MemberUnit.h"
 #include "gen/AbstractGenericAttributeType.hxx"
 #include "gml/AbstractFeatureType.hxx"
 #include "UI/Models/CityGMLModel/properties/BoundProperty.h"
@@ -222,6 +223,8 @@ QString PropertyEdit::performOn(gml::AbstractFeatureType& feature, EditedMember&
     case RenameAttribute:
     case RemoveAttribute:
         return changeAttribute(feature);
+    case SetMeasure:
+        return setMeasure(member);
     }
     return QString();
 }
@@ -247,6 +250,18 @@ QString PropertyEdit::setValue(EditedMember& member) const
         return tr("%1 cannot be \"%2\".").arg(property.name(), text);
     }
     return QString();
+}
+
+QString PropertyEdit::setMeasure(EditedMember& member) const
+{
+    const QVariantList parts = value.toList();
+    CoreProperty& property = *member.property();
+    property.setValue(parts.value(0));
+    std::optional<citygml::Member> unit = member.member() ? citygml::unitOf(*member.member()) : std::nullopt;
+    const bool isSet = unit && unit->setText(parts.value(1).toString().toStdString()) &&
+                       apps::isSame(property.value(), parts.value(0));
+    return isSet ? QString()
+                 : tr("%1 cannot be \"%2\".").arg(property.name(), value.toStringList().join(' '));
 }
 
 QString PropertyEdit::makeAbsent(EditedMember& member) const
@@ -286,6 +301,7 @@ void PropertyEdit::nameEdit()
                               : tr("%n feature(s)", nullptr, static_cast<int>(features.size()));
     switch (action) {
     case SetValue:
+    case SetMeasure:
         setText(tr("change %1 of %2").arg(what, where));
         break;
     case MakeAbsent:

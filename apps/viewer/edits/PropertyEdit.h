@@ -29,7 +29,8 @@ public:
         AddEntry,        ///< `value` is a text for the end of a list
         AddAttribute,    ///< `value` is a list: type, name and value of a generic attribute
         RenameAttribute, ///< `value` is the new name of the generic attribute of the property
-        RemoveAttribute  ///< the generic attribute of the property leaves the document
+        RemoveAttribute, ///< the generic attribute of the property leaves the document
+        SetMeasure       ///< `value` is a list: the number that an absent measure gets, and its unit
     };
 
     /// An edit that is yet to be done, for EditRunner.
@@ -74,6 +75,7 @@ private:
     bool hasValue(const EditedMember& member) const;
     QString performOn(gml::AbstractFeatureType& feature, EditedMember& member) const;
     QString setValue(EditedMember& member) const;
+    QString setMeasure(EditedMember& member) const;
     QString makeAbsent(EditedMember& member) const;
     QString changeAttribute(gml::AbstractFeatureType& feature) const;
     void nameEdit();

@@ -2,9 +2,7 @@
 
 #include "apps/tables/TableError.h"
 #include "apps/viewer/document/Document.h"
-#include "apps/viewer/edits/EditGroup.h"
 #include "apps/viewer/exchange/ImportPreview.h"
-#include "apps/viewer/exchange/TableEdits.h"
 
 #include <algorithm>
 #include <QCheckBox>
@@ -67,7 +65,6 @@ ImportDialog::ImportDialog(Document& document, const tables::TableExchange& exch
     // Nothing of the former document is left to change then.
     connect(&document, &Document::aboutToBeOpened, this, [this] {
         stop();
-        group.reset();
         reject();
     });
     resize(820, 560);
@@ -77,6 +74,11 @@ ImportDialog::ImportDialog(Document& document, const tables::TableExchange& exch
 ImportDialog::~ImportDialog()
 {
     reading.waitForFinished();
+}
+
+const std::vector<tables::PlannedChange>& ImportDialog::changes() const
+{
+    return preview->changes();
 }
 
 void ImportDialog::makeOptions(const QStringList& columns)
@@ -126,7 +128,7 @@ void ImportDialog::makeButtons()
     auto* const buttons = new QDialogButtonBox(QDialogButtonBox::Cancel);
     buttons->addButton(importButton, QDialogButtonBox::ActionRole);
     importButton->setDefault(true);
-    connect(importButton, &QPushButton::clicked, this, &ImportDialog::begin);
+    connect(importButton, &QPushButton::clicked, this, &ImportDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &ImportDialog::reject);
     layout()->addWidget(progress);
     layout()->addWidget(buttons);
@@ -139,6 +141,7 @@ void ImportDialog::read()
     preview->clear();
     tell(tr("Reading the table\u2026"));
     progress->setRange(0, 0);
+    progress->show();
     updateButtons();
     tables::EditSource source;
     source.path = path;
@@ -172,7 +175,7 @@ void ImportDialog::plan()
     preview->clear();
     if (!contents.error.isEmpty()) {
         tell(contents.error);
-        progress->setRange(0, 1);
+        progress->hide();
         return;
     }
     tell(tr("Comparing the table with the document\u2026"));
@@ -193,6 +196,7 @@ void ImportDialog::plan()
 void ImportDialog::showPlan()
 {
     import->finish();
+    progress->hide();
     preview->setProblems(import->problems());
     isPlanned = true;
     const int changes = static_cast<int>(preview->changes().size());
@@ -213,49 +217,9 @@ void ImportDialog::show(int done, int steps)
         preview->add(found);
         found.clear();
     }
+    progress->show();
     progress->setRange(0, std::max(1, steps));
     progress->setValue(done);
-}
-
-/// Starts the import.
-void ImportDialog::begin()
-{
-    group = std::make_unique<EditGroup>(tr("import of %1").arg(QFileInfo(path).fileName()));
-    for (QWidget* const option : std::initializer_list<QWidget*>{idColumn, create, absentWord, skipBad}) {
-        option->setEnabled(false);
-    }
-    updateButtons();
-    tell(tr("Importing\u2026"));
-    work.start(
-        static_cast<int>(preview->changes().size()), [this](int number) { perform(number); },
-        [this] { end(); });
-}
-
-void ImportDialog::perform(int number)
-{
-    if (group == nullptr) {
-        return;
-    }
-    const tables::PlannedChange& change = preview->changes()[static_cast<std::size_t>(number)];
-    QString refusal;
-    std::unique_ptr<RecordedEdit> edit = makeTableEdit(document, change, refusal);
-    if (edit != nullptr) {
-        group->add(std::move(edit));
-    } else if (!refusal.isEmpty()) {
-        group->undo();
-        group.reset();
-        //: Feature, attribute and reason
-        tell(tr("Nothing was imported: %1: %2: %3").arg(change.id, change.column, refusal));
-    }
-}
-
-void ImportDialog::end()
-{
-    if (group != nullptr) {
-        changed = group->count();
-        document.undoStack().push(group.release());
-        accept();
-    }
 }
 
 void ImportDialog::stop()
@@ -263,16 +227,6 @@ void ImportDialog::stop()
     work.stop();
     planTimer.stop();
     found.clear();
-}
-
-void ImportDialog::reject()
-{
-    stop();
-    if (group != nullptr) {
-        group->undo();
-        group.reset();
-    }
-    QDialog::reject();
 }
 
 void ImportDialog::tell(const QString& text)
@@ -283,7 +237,7 @@ void ImportDialog::tell(const QString& text)
 void ImportDialog::updateButtons()
 {
     const bool isWrong = preview->problemCount() > 0 && !skipBad->isChecked();
-    importButton->setEnabled(isPlanned && group == nullptr && !isWrong && !preview->changes().empty());
+    importButton->setEnabled(isPlanned && !isWrong && !preview->changes().empty());
 }
 
 } // namespace tolvik::viewer

@@ -5,7 +5,6 @@
 #include "apps/viewer/features/SlicedWork.h"
 
 #include <memory>
-#include <optional>
 #include <QDialog>
 #include <QFutureWatcher>
 #include <QTimer>
@@ -22,11 +21,10 @@ class QTableView;
 namespace tolvik::viewer {
 
 class Document;
-class EditGroup;
 class ImportPreview;
 
-/// Shows what a table would change in the document, and does it as one step of the history. The table is read
-/// in a thread of its own, and features are looked at and changed in slices.
+/// Shows what a table would change in the document. The table is read in a thread of its own, and features
+/// are looked at in slices.
 class ImportDialog : public QDialog
 {
     Q_OBJECT
@@ -41,12 +39,8 @@ public:
 
     /// What of the table was left out, a line each.
     const QStringList& remarks() const { return contents.remarks; }
-    /// Number of cells that have changed the document, when it is accepted.
-    int changeCount() const { return changed; }
-
-public slots:
-    /// Takes back what is done of an import that has not ended.
-    void reject() override;
+    /// What it changes. To be called when it is accepted.
+    const std::vector<tables::PlannedChange>& changes() const;
 
 private:
     struct Contents
@@ -63,9 +57,6 @@ private:
     void planSoon();
     void plan();
     void showPlan();
-    void begin();
-    void perform(int number);
-    void end();
     void stop();
     void show(int done, int steps);
     void tell(const QString& text);
@@ -91,8 +82,6 @@ private:
     bool isPlanned = false;
     QTimer planTimer;
     SlicedWork work;
-    std::unique_ptr<EditGroup> group; ///< while the import goes on
-    int changed = 0;
 };
 
 } // namespace tolvik::viewer

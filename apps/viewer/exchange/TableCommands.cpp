@@ -2,8 +2,10 @@
 
 #include "apps/tables/TableExchange.h"
 #include "apps/viewer/document/Document.h"
+#include "apps/viewer/edits/EditGroup.h"
 #include "apps/viewer/exchange/ExportDialog.h"
 #include "apps/viewer/exchange/ImportDialog.h"
+#include "apps/viewer/exchange/TableEdits.h"
 #include "apps/viewer/log/LogModel.h"
 #include "apps/viewer/table/AttributeTable.h"
 
@@ -45,14 +47,44 @@ void TableCommands::importTable()
     try {
         ImportDialog dialog(document, tables::TableExchange::load(), path, &window);
         if (dialog.exec() == QDialog::Accepted) {
-            //: Name of a file
-            tell(tr("%Ln cell(s) of %1 are imported.", nullptr, dialog.changeCount()).arg(name),
-                 dialog.remarks());
+            perform(dialog, name);
         }
     } catch (const std::runtime_error& error) {
         emit told(LogModel::Error,
                   tr("%1 could not be imported: %2").arg(name, QString::fromUtf8(error.what())));
     }
+}
+
+/// Does what was planned, which may go on beside the window.
+void TableCommands::perform(const ImportDialog& dialog, const QString& name)
+{
+    EditRunner& runner = document.editRunner();
+    const int cells = static_cast<int>(dialog.changes().size());
+    const QStringList remarks = dialog.remarks();
+    const int before = document.undoStack().index();
+    const auto end = [this, name, cells, remarks, before](const QString& refusal) {
+        const bool isCancelled = refusal.isEmpty() && document.undoStack().index() == before;
+        if (isCancelled) {
+            return;
+        }
+        if (refusal.isEmpty()) {
+            //: Name of a file
+            tell(tr("%Ln cell(s) of %1 are imported.", nullptr, cells).arg(name), remarks);
+        } else {
+            emit told(LogModel::Error, tr("%1 could not be imported: %2").arg(name, refusal));
+        }
+    };
+    const QString refusal =
+        runner.perform(tableEdit(document, tr("import of %1").arg(name), dialog.changes()));
+    if (!runner.isRunning()) {
+        end(refusal);
+        return;
+    }
+    auto* const running = new QObject(this);
+    connect(&runner, &EditRunner::ended, running, [running, end](const QString& reason) {
+        running->deleteLater();
+        end(reason);
+    });
 }
 
 void TableCommands::tell(const QString& done, const QStringList& remarks)

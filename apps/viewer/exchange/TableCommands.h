@@ -8,6 +8,7 @@ namespace tolvik::viewer {
 
 class AttributeTable;
 class Document;
+class ImportDialog;
 
 /// Brings the attributes of a document into tables, and tables into the document.
 class TableCommands : public QObject
@@ -31,6 +32,7 @@ signals:
     void told(int level, const QString& text);
 
 private:
+    void perform(const ImportDialog& dialog, const QString& name);
     void tell(const QString& done, const QStringList& remarks);
 
     Document& document;

@@ -2,8 +2,12 @@
 
 #include "apps/tables/TableImport.h"
 #include "apps/viewer/document/Document.h"
+#include "apps/viewer/edits/EditGroup.h"
 #include "apps/viewer/edits/GenericAttributes.h"
 #include "apps/viewer/edits/PropertyEdit.h"
+
+#include <QCoreApplication>
+#include <utility>
 
 namespace tolvik::viewer {
 
@@ -11,6 +15,12 @@ namespace {
 
 using tables::CellChange;
 using tables::CellType;
+using tables::PlannedChange;
+
+struct TableEdits
+{
+    Q_DECLARE_TR_FUNCTIONS(tolvik::viewer::TableEdits)
+};
 
 AttributeType attributeTypeOf(const CellChange& change)
 {
@@ -35,10 +45,10 @@ PropertyPath pathOf(const CellChange& change)
     return path;
 }
 
-} // namespace
-
-std::unique_ptr<RecordedEdit> makeTableEdit(Document& document, const tables::PlannedChange& planned,
-                                            QString& refusal)
+/// Does what a cell changes.
+/// \param[out] refusal why it cannot be done, with nothing changed; empty where it is done
+/// \return null where nothing has changed
+std::unique_ptr<RecordedEdit> makeEdit(Document& document, const PlannedChange& planned, QString& refusal)
 {
     const CellChange& change = planned.change;
     const PropertyEdit::Features features{document.model().getFeature(planned.feature)};
@@ -49,6 +59,8 @@ std::unique_ptr<RecordedEdit> makeTableEdit(Document& document, const tables::Pl
     switch (change.kind) {
     case CellChange::Value:
         return make(PropertyEdit::SetValue, property, change.value);
+    case CellChange::Measure:
+        return make(PropertyEdit::SetMeasure, property, QVariantList{change.value, change.unit});
     case CellChange::Absence:
         return make(PropertyEdit::MakeAbsent, property, QVariant());
     case CellChange::GoneAttribute:
@@ -62,6 +74,37 @@ std::unique_ptr<RecordedEdit> makeTableEdit(Document& document, const tables::Pl
                                  change.value, change.unit});
     }
     return nullptr;
+}
+
+} // namespace
+
+std::unique_ptr<EditGroup> tableEdit(Document& document, const QString& text,
+                                     const std::vector<PlannedChange>& changes)
+{
+    std::vector<std::vector<PlannedChange>> features;
+    for (const PlannedChange& change : changes) {
+        if (features.empty() || features.back().front().feature != change.feature) {
+            features.emplace_back();
+        }
+        features.back().push_back(change);
+    }
+    const int count = static_cast<int>(features.size());
+    return std::make_unique<EditGroup>(
+        text, count, [&document, features = std::move(features)](int number, QString& refusal) {
+            EditGroup::Edits edits;
+            for (const PlannedChange& change : features[static_cast<std::size_t>(number)]) {
+                std::unique_ptr<RecordedEdit> edit = makeEdit(document, change, refusal);
+                if (!refusal.isEmpty()) {
+                    //: Feature, attribute and why it cannot be set
+                    refusal = TableEdits::tr("%1: %2: %3").arg(change.id, change.column, refusal);
+                    break;
+                }
+                if (edit != nullptr) {
+                    edits.push_back(std::move(edit));
+                }
+            }
+            return edits;
+        });
 }
 
 } // namespace tolvik::viewer

@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <QString>
+#include <vector>
 
 namespace tolvik::tables {
 struct PlannedChange;
@@ -10,12 +11,12 @@ struct PlannedChange;
 namespace tolvik::viewer {
 
 class Document;
-class RecordedEdit;
+class EditGroup;
 
-/// Does what a cell of a table changes in the document.
-/// \param[out] refusal why it cannot be done, with nothing changed; empty where it is done
-/// \return the step for the history; null where nothing has changed
-std::unique_ptr<RecordedEdit> makeTableEdit(Document& document, const tables::PlannedChange& planned,
-                                            QString& refusal);
+/// What cells of a table change in the document, as an edit that is yet to be done.
+/// \param text    what the history calls the step
+/// \param changes those of a feature one behind the other
+std::unique_ptr<EditGroup> tableEdit(Document& document, const QString& text,
+                                     const std::vector<tables::PlannedChange>& changes);
 
 } // namespace tolvik::viewer

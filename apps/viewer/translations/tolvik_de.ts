@@ -254,6 +254,14 @@
         <source>the feature has no such attribute</source>
         <translation>das Objekt hat kein solches Attribut</translation>
     </message>
+    <message>
+        <source>the feature has no group %1 of %2; a table cannot add one</source>
+        <translation>das Objekt hat keine Gruppe %1 von %2; eine Tabelle kann keine hinzufügen</translation>
+    </message>
+    <message>
+        <source>a measure needs a unit: call the column &quot;%1 [UNIT]&quot;</source>
+        <translation>ein Messwert braucht eine Einheit: die Spalte muss „%1 [EINHEIT]“ heißen</translation>
+    </message>
 </context>
 <context>
     <name>tolvik::tables::GenericAttributes</name>
@@ -954,19 +962,6 @@ height&gt;3, function=1000 für Attribute. Eingabe führt zum nächsten Treffer.
             <numerusform>%Ln Probleme</numerusform>
         </translation>
     </message>
-    <message>
-        <source>import of %1</source>
-        <translation>Import von %1</translation>
-    </message>
-    <message>
-        <source>Importing…</source>
-        <translation>Import läuft …</translation>
-    </message>
-    <message>
-        <source>Nothing was imported: %1: %2: %3</source>
-        <extracomment>Feature, attribute and reason</extracomment>
-        <translation>Nichts wurde importiert: %1: %2: %3</translation>
-    </message>
 </context>
 <context>
     <name>tolvik::viewer::ImportPreview</name>
@@ -1595,6 +1590,18 @@ height&gt;3, function=1000 für Attribute. Eingabe führt zum nächsten Treffer.
     <message>
         <source>%1 could not be imported: %2</source>
         <translation>%1 konnte nicht importiert werden: %2</translation>
+    </message>
+    <message>
+        <source>import of %1</source>
+        <translation>Import von %1</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::TableEdits</name>
+    <message>
+        <source>%1: %2: %3</source>
+        <extracomment>Feature, attribute and why it cannot be set</extracomment>
+        <translation>%1: %2: %3</translation>
     </message>
 </context>
 <context>

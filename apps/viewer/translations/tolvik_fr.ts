@@ -254,6 +254,14 @@
         <source>the feature has no such attribute</source>
         <translation>l&apos;objet n&apos;a pas cet attribut</translation>
     </message>
+    <message>
+        <source>the feature has no group %1 of %2; a table cannot add one</source>
+        <translation>l&apos;objet n&apos;a pas de groupe %1 de %2 ; une table ne peut pas en ajouter</translation>
+    </message>
+    <message>
+        <source>a measure needs a unit: call the column &quot;%1 [UNIT]&quot;</source>
+        <translation>une mesure a besoin d&apos;une unité : la colonne doit s&apos;appeler « %1 [UNITÉ] »</translation>
+    </message>
 </context>
 <context>
     <name>tolvik::tables::GenericAttributes</name>
@@ -954,19 +962,6 @@ height&gt;3, function=1000 pour les attributs. Entrée mène au résultat suivan
             <numerusform>%Ln problèmes</numerusform>
         </translation>
     </message>
-    <message>
-        <source>import of %1</source>
-        <translation>importation de %1</translation>
-    </message>
-    <message>
-        <source>Importing…</source>
-        <translation>Importation…</translation>
-    </message>
-    <message>
-        <source>Nothing was imported: %1: %2: %3</source>
-        <extracomment>Feature, attribute and reason</extracomment>
-        <translation>Rien n&apos;a été importé : %1 : %2 : %3</translation>
-    </message>
 </context>
 <context>
     <name>tolvik::viewer::ImportPreview</name>
@@ -1595,6 +1590,18 @@ height&gt;3, function=1000 pour les attributs. Entrée mène au résultat suivan
     <message>
         <source>%1 could not be imported: %2</source>
         <translation>%1 n&apos;a pas pu être importé : %2</translation>
+    </message>
+    <message>
+        <source>import of %1</source>
+        <translation>importation de %1</translation>
+    </message>
+</context>
+<context>
+    <name>tolvik::viewer::TableEdits</name>
+    <message>
+        <source>%1: %2: %3</source>
+        <extracomment>Feature, attribute and why it cannot be set</extracomment>
+        <translation>%1 : %2 : %3</translation>
     </message>
 </context>
 <context>
