@@ -4,6 +4,7 @@
 #include "apps/tables/TableImport.h"
 #include "apps/tables/TableReading.h"
 #include "framework/OperationStatus.h"
+#include "OutputFiles.h"
 #include "UI/Models/CityGMLModel/CityGMLModel.h"
 
 #include <log4cplus/ndc.h>
@@ -26,13 +27,14 @@ public:
     Application(const ApplyOptions& options, const TableDocuments& documents, tables::TableImport& values)
         : options(options), documents(documents), values(values)
     {
-        for (const QString& file : documents.files) {
-            outputs += outputOf(file);
+        if (options.outDir.isEmpty()) {
+            outputs += options.out;
+            return;
         }
-        for (const QString& output : qAsConst(outputs)) {
-            if (outputs.count(output) > 1) {
-                throw TableUsageError("several documents would be written to " + output.toStdString());
-            }
+        try {
+            outputs = outputsIn(options.outDir, documents.files);
+        } catch (const std::invalid_argument& error) {
+            throw TableUsageError(error.what());
         }
     }
 
@@ -55,12 +57,6 @@ public:
     }
 
 private:
-    QString outputOf(const QString& file) const
-    {
-        return options.outDir.isEmpty() ? options.out
-                                        : QDir(options.outDir).filePath(QFileInfo(file).fileName());
-    }
-
     void tell(const QString& text) { *documents.err << "tolvik-inspect: " << text.toStdString() << '\n'; }
 
     void tellProblems()

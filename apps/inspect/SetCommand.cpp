@@ -50,7 +50,9 @@ int runSet(CityGMLModel& model, const apps::SourceFile& source, const SetOptions
         edit(model, feature, options.path, options.value);
         model.propertyChanged(model.index(feature), true);
     } catch (const EditError& error) {
-        err << "tolvik-inspect: " << error.what() << '\n';
+        const QString subject =
+            options.document.isEmpty() ? QString() : options.document + QStringLiteral(": ");
+        err << "tolvik-inspect: " << subject.toStdString() << error.what() << '\n';
         return 1;
     }
     apps::DocumentSaving saving(model, source);

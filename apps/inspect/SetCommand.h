@@ -26,6 +26,8 @@ struct SetOptions
     /// File to write.
     QString output;
     apps::DocumentSaving::Form form;
+    /// What a failure is told of; empty where there is but one document.
+    QString document;
 };
 
 /// Edits one value of a loaded document through its property and saves the document.

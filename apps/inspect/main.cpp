@@ -2,6 +2,7 @@
 #include "DocumentFiles.h"
 #include "EachDocument.h"
 #include "LoadDocument.h"
+#include "OutputFiles.h"
 #include "PictureCommand.h"
 #include "PropertiesCommand.h"
 #include "RepairCommand.h"
@@ -13,6 +14,7 @@
 #include "TreeCommand.h"
 #include "UI/Models/CityGMLModel/CityGMLModel.h"
 
+#include <algorithm>
 #include <clocale>
 #include <exception>
 #include <functional>
@@ -21,11 +23,13 @@
 #include <log4cplus/initializer.h>
 #include <log4cplus/layout.h>
 #include <log4cplus/logger.h>
+#include <log4cplus/ndc.h>
 #include <map>
 #include <memory>
 #include <mutex>
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QDir>
 #include <QLocale>
 #include <QTextCodec>
 #include <stdexcept>
@@ -93,6 +97,10 @@ FILE is a CityGML 2.0 document; `-` reads one from standard input.
 
 OUT has the bytes of FILE but for what is changed. With --plain it is written anew, with the line ends,
 prefixes and spellings of this program.
+
+`set`, `save`, `repair` and `picture` take several documents with --out-dir DIR in place of OUT,
+and write each under its own name into DIR; the command of `set` is then
+set PATH VALUE FILE... --id ID --out-dir DIR.
 
 With --files-from LIST each line of the file LIST, or of standard input for `-`, is one more FILE.
 With --recursive a FILE may be a directory: it stands for the *.gml, *.xml and *.citygml in it and
@@ -229,32 +237,93 @@ apps::DocumentSaving::Form formOf(const Arguments& arguments)
     return arguments.has("plain") ? apps::DocumentSaving::Form::Plain : apps::DocumentSaving::Form::Changes;
 }
 
+/// How a command that writes documents is called.
+struct Writing
+{
+    QStringList one;     ///< names of its arguments, with FILE and OUT
+    QStringList several; ///< the same with --out-dir, where FILE... comes last
+    QStringList options;
+    QString ending; ///< of what is written, with the dot; empty for that of the document
+    /// Writes one document.
+    /// \return the program's exit code for it
+    std::function<int(const Arguments& arguments, const QString& file, const QString& output)> write;
+};
+
+/// \throws UsageError where the documents cannot all go into the folder
+QStringList outputsOf(const DocumentFiles& files, const QString& folder, const QString& ending)
+{
+    try {
+        return outputsIn(folder, files.paths(), ending);
+    } catch (const std::invalid_argument& error) {
+        throw UsageError(error.what());
+    }
+}
+
+/// Writes the document that the arguments name, or each of several into a folder.
+int write(const QStringList& given, const Writing& writing)
+{
+    const bool areSeveral = std::any_of(given.begin(), given.end(), [](const QString& argument) {
+        return argument.section('=', 0, 0) == QLatin1String("--out-dir");
+    });
+    const Arguments arguments(given, areSeveral ? writing.several : writing.one,
+                              writing.options + QStringList{"out-dir="});
+    if (!areSeveral) {
+        return writing.write(arguments, arguments.at("FILE"), arguments.at("OUT"));
+    }
+    const QString folder = arguments.value("out-dir");
+    const DocumentFiles files = arguments.documents();
+    const QStringList outputs = outputsOf(files, folder, writing.ending);
+    if (!QDir().mkpath(folder)) {
+        throw std::runtime_error(folder.toStdString() + " could not be made");
+    }
+    int code = files.areComplete() ? 0 : failure;
+    for (int i = 0; i < outputs.size(); ++i) {
+        // What the log says of one of several documents tells of which.
+        const log4cplus::NDCContextCreator context(files.paths()[i].toStdString() + ": ");
+        code = std::max(code, writing.write(arguments, files.paths()[i], outputs[i]));
+    }
+    return code;
+}
+
 int set(const QStringList& given)
 {
-    const Arguments arguments(given, {"FILE", "PATH", "VALUE", "OUT"}, {"id=", "plain"});
-    if (!arguments.has("id")) {
-        throw UsageError("--id is missing");
-    }
-    const SetOptions options{arguments.value("id").toStdString(), arguments.at("PATH"), arguments.at("VALUE"),
-                             arguments.at("OUT"), formOf(arguments)};
-    CityGMLModel model(nullptr, nullptr);
-    apps::SourceFile source;
-    if (!loadDocument(model, arguments.at("FILE"), std::cerr, &source)) {
-        return failure;
-    }
-    return runSet(model, source, options, std::cerr);
+    return write(given, {{"FILE", "PATH", "VALUE", "OUT"},
+                         {"PATH", "VALUE", "FILE..."},
+                         {"id=", "plain"},
+                         QString(),
+                         [](const Arguments& arguments, const QString& file, const QString& output) {
+                             if (!arguments.has("id")) {
+                                 throw UsageError("--id is missing");
+                             }
+                             const SetOptions options{arguments.value("id").toStdString(),
+                                                      arguments.at("PATH"),
+                                                      arguments.at("VALUE"),
+                                                      output,
+                                                      formOf(arguments),
+                                                      arguments.has("out-dir") ? file : QString()};
+                             CityGMLModel model(nullptr, nullptr);
+                             apps::SourceFile source;
+                             return loadDocument(model, file, std::cerr, &source)
+                                        ? runSet(model, source, options, std::cerr)
+                                        : failure;
+                         }});
 }
 
 int save(const QStringList& given)
 {
-    const Arguments arguments(given, {"FILE", "OUT"}, {"plain"});
-    CityGMLModel model(nullptr, nullptr);
-    apps::SourceFile source;
-    if (!loadDocument(model, arguments.at("FILE"), std::cerr, &source)) {
-        return failure;
-    }
-    apps::DocumentSaving saving(model, source);
-    return saveDocument(saving, arguments.at("OUT"), formOf(arguments), std::cerr) ? 0 : failure;
+    return write(given, {{"FILE", "OUT"},
+                         {"FILE..."},
+                         {"plain"},
+                         QString(),
+                         [](const Arguments& arguments, const QString& file, const QString& output) {
+                             CityGMLModel model(nullptr, nullptr);
+                             apps::SourceFile source;
+                             if (!loadDocument(model, file, std::cerr, &source)) {
+                                 return failure;
+                             }
+                             apps::DocumentSaving saving(model, source);
+                             return saveDocument(saving, output, formOf(arguments), std::cerr) ? 0 : failure;
+                         }});
 }
 
 int check(const QStringList& given)
@@ -266,14 +335,19 @@ int check(const QStringList& given)
 
 int repair(const QStringList& given)
 {
-    const Arguments arguments(given, {"FILE", "OUT"}, {"plain"});
-    return runRepair(arguments.at("FILE"), arguments.at("OUT"), formOf(arguments), std::cout, std::cerr);
+    return write(given, {{"FILE", "OUT"},
+                         {"FILE..."},
+                         {"plain"},
+                         QString(),
+                         [](const Arguments& arguments, const QString& file, const QString& output) {
+                             return runRepair(file, output, formOf(arguments), std::cout, std::cerr);
+                         }});
 }
 
-PictureOptions pictureOptions(const Arguments& arguments)
+PictureOptions pictureOptions(const Arguments& arguments, const QString& output)
 {
     PictureOptions options;
-    options.output = arguments.at("OUT.png");
+    options.output = output;
     options.colourBy = arguments.value("colour-by");
     if (arguments.has("lod")) {
         bool isNumber = false;
@@ -294,13 +368,17 @@ PictureOptions pictureOptions(const Arguments& arguments)
 
 int picture(const QStringList& given)
 {
-    const Arguments arguments(given, {"FILE", "OUT.png"}, {"lod=", "colour-by=", "size="});
-    const PictureOptions options = pictureOptions(arguments);
-    CityGMLModel model(nullptr, nullptr);
-    if (!loadDocument(model, arguments.at("FILE"), std::cerr)) {
-        return failure;
-    }
-    return runPicture(model, options, std::cerr);
+    return write(given, {{"FILE", "OUT"},
+                         {"FILE..."},
+                         {"lod=", "colour-by=", "size="},
+                         ".png",
+                         [](const Arguments& arguments, const QString& file, const QString& output) {
+                             const PictureOptions options = pictureOptions(arguments, output);
+                             CityGMLModel model(nullptr, nullptr);
+                             return loadDocument(model, file, std::cerr)
+                                        ? runPicture(model, options, std::cerr)
+                                        : failure;
+                         }});
 }
 
 /// What the documents were read from that several threads may read.

@@ -236,6 +236,62 @@ private slots:
         QCOMPARE(result.out, shown("city/a.gml") + ":\n" + rowsOf("x"));
         QCOMPARE(result.code, 1);
     }
+
+    void documentsAreWrittenIntoAFolder_data()
+    {
+        QTest::addColumn<QStringList>("command");
+        QTest::addColumn<QByteArray>("changed");
+        QTest::newRow("save") << QStringList{"save"} << QByteArray(">3<");
+        QTest::newRow("repair") << QStringList{"repair"} << QByteArray(">3<");
+        QTest::newRow("set") << QStringList{"set", "Fields/MeasuredHeight", "8", "--id", "ant"}
+                             << QByteArray(">8<");
+    }
+
+    void documentsAreWrittenIntoAFolder()
+    {
+        QFETCH(QStringList, command);
+        QFETCH(QByteArray, changed);
+        QVERIFY(writeFile(path("list"), shown("broken.gml") + "\n" + shown("a.gml") + "\n"));
+        const ProcessResult result =
+            inspect(command + QStringList{"--files-from", path("list"), "--out-dir", path("out/new")});
+        QCOMPARE(result.code, 1);
+        QVERIFY2(result.err.contains(shown("broken.gml") + " could not be loaded: "), result.err);
+        QCOMPARE(contentOf(path("out/new/a.gml")).replace(changed, ">3<"), contentOf(path("a.gml")));
+        QVERIFY(contentOf(path("out/new/a.gml")).contains(changed));
+        QVERIFY(!QFile::exists(path("out/new/broken.gml")));
+    }
+
+    void eachDocumentThatLacksTheFeatureIsTold()
+    {
+        const ProcessResult result = inspect({"set", "Fields/MeasuredHeight", "8", path("a.gml"),
+                                              path("b.gml"), "--id", "bee", "--out-dir", path("out")});
+        QCOMPARE(result.code, 1);
+        QCOMPARE(result.err, "tolvik-inspect: " + shown("a.gml") + ": no feature has the gml:id bee\n");
+        QVERIFY(!QFile::exists(path("out/a.gml")));
+        QVERIFY(contentOf(path("out/b.gml")).contains(">8<"));
+    }
+
+    void documentsInAFolderNeedNamesOfTheirOwn()
+    {
+        QVERIFY(QDir(directory->path()).mkdir("other"));
+        QVERIFY(QFile::copy(path("a.gml"), path("other/a.gml")));
+        ProcessResult result =
+            inspect({"save", path("a.gml"), path("other/a.gml"), "--out-dir", path("out")});
+        QCOMPARE(result.code, 2);
+        QVERIFY2(result.err.contains("several documents would be written to " + shown("out/a.gml")),
+                 result.err);
+        QVERIFY(!QFile::exists(path("out")));
+        QCOMPARE(inspect({"save", "-", "--out-dir", path("out")}, house("bee")).code, 2);
+        QCOMPARE(inspect({"save", path("a.gml"), path("b.gml"), path("c.gml")}).code, 2);
+    }
+
+    void picturesTakeTheNamesOfTheirDocuments()
+    {
+        const ProcessResult result =
+            inspect({"picture", examples() + "/district.gml", "--size", "40x30", "--out-dir", path("out")});
+        QCOMPARE(result.code, 0);
+        QVERIFY(contentOf(path("out/district.png")).startsWith("\x89PNG"));
+    }
 };
 
 TEST_CLASS(ManyDocumentsTest, Core)
