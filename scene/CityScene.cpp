@@ -140,6 +140,7 @@ void CityScene::clear()
     table.clear();
     surfaceLooks.begin(DocumentFolder());
     libraryObjects = LibraryObjects();
+    missingObjects.clear();
     cellSize = smallestCell;
     hasOrigin = false;
     sceneOrigin = {};
@@ -371,11 +372,11 @@ void CityScene::appendPiece(Slot slot, const GeometryPiece& piece, Batch& batch)
 
 void CityScene::appendLibraryObject(Slot slot, const GeometryPiece& piece, Batch& batch)
 {
-    const QString path = folder.find(QString::fromStdString(piece.libraryObject));
-    if (path.isEmpty()) {
-        return;
+    const QString name = QString::fromStdString(piece.libraryObject).trimmed();
+    const std::vector<Position>& corners = libraryObjects.trianglesOf(folder.find(name));
+    if (corners.empty() && !name.isEmpty() && !missingObjects.contains(name)) {
+        missingObjects << name;
     }
-    const std::vector<Position>& corners = libraryObjects.trianglesOf(path);
     GeometryPiece triangle = piece;
     triangle.kind = GeometryPiece::Kind::Surface;
     triangle.runs = {{0, 3, nullptr}};
@@ -538,6 +539,11 @@ CityScene::Counts CityScene::counts() const
         counts.degenerate += tile.degenerate;
     }
     return counts;
+}
+
+QStringList CityScene::missingFiles() const
+{
+    return surfaceLooks.missing() + missingObjects;
 }
 
 osg::BoundingBoxd CityScene::bounds() const

@@ -84,6 +84,11 @@ public:
     const Looks& looks() const { return surfaceLooks; }
     Counts counts() const;
 
+    /// The files that the document names, as it names them, and of which nothing is drawn: they were not
+    /// found, could not be read, or are of a kind that is not read. Complete when nothing is to be done any
+    /// more.
+    QStringList missingFiles() const;
+
     /// Of the document's coordinates; what is drawn is relative to it.
     const citygml::Position& origin() const { return sceneOrigin; }
     /// Name of the coordinate system as the document gives it; empty where it gives none.
@@ -160,6 +165,7 @@ private:
     Looks surfaceLooks;
     DocumentFolder folder;
     LibraryObjects libraryObjects;
+    QStringList missingObjects;
     citygml::Position sceneOrigin = {};
     bool hasOrigin = false;
     QString srsName;

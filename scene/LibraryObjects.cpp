@@ -2,9 +2,11 @@
 
 #include <osg/MatrixTransform>
 #include <osg/NodeVisitor>
+#include <osg/Notify>
 #include <osg/TriangleFunctor>
 #include <osgDB/Callbacks>
 #include <osgDB/ReadFile>
+#include <QFile>
 #include <QFileInfo>
 #include <QStringList>
 
@@ -41,6 +43,21 @@ public:
 
 private:
     bool isFirst = true;
+};
+
+/// Finds one file alone. Some readers look for what a file names, and open it themselves.
+class OneFile : public osgDB::FindFileCallback
+{
+public:
+    explicit OneFile(std::string path) : path(std::move(path)) {}
+
+    std::string findDataFile(const std::string& name, const osgDB::Options*, osgDB::CaseSensitivity) override
+    {
+        return name == path ? path : std::string();
+    }
+
+private:
+    const std::string path;
 };
 
 struct TriangleSink
@@ -89,11 +106,16 @@ const std::vector<citygml::Position>& LibraryObjects::trianglesOf(const QString&
     // Readers that take nothing from a file but shapes.
     static const QStringList kinds = {"obj", "3ds", "stl", "ply"};
     if (kinds.contains(QFileInfo(path).suffix().toLower())) {
+        const std::string name = QFile::encodeName(path).toStdString();
         const osg::ref_ptr<osgDB::Options> options = new osgDB::Options;
         options->setReadFileCallback(new NothingElse);
+        options->setFindFileCallback(new OneFile(name));
         options->setObjectCacheHint(osgDB::Options::CACHE_NONE);
-        const osg::ref_ptr<osg::Node> node =
-            osgDB::readRefNodeFile(path.toLocal8Bit().toStdString(), options);
+        // What is not drawn is told by this library's callers, and not on the standard error stream.
+        const osg::NotifySeverity level = osg::getNotifyLevel();
+        osg::setNotifyLevel(osg::FATAL);
+        const osg::ref_ptr<osg::Node> node = osgDB::readRefNodeFile(name, options);
+        osg::setNotifyLevel(level);
         if (node != nullptr) {
             TriangleCollector collector(corners);
             node->accept(collector);

@@ -13,7 +13,7 @@ class LibraryObjects
 {
 public:
     /// The corners of the triangles of a file, three for each; none for a file that is of no known kind or
-    /// cannot be read. Only the file itself is read, nothing that it names.
+    /// cannot be read, and for an empty path. Only the file itself is read, nothing that it names.
     const std::vector<citygml::Position>& trianglesOf(const QString& path);
 
 private:

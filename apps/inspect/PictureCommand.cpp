@@ -77,8 +77,8 @@ int runPicture(CityGMLModel& model, const PictureOptions& options, std::ostream&
     if (!scene.bounds().valid()) {
         return fail(QStringLiteral("the document has nothing to draw"), err);
     }
-    for (const QString& image : scene.looks().missing()) {
-        err << "tolvik-inspect: no picture " << image.toStdString() << '\n';
+    for (const QString& file : scene.missingFiles()) {
+        err << "tolvik-inspect: not drawn: " << file.toStdString() << '\n';
     }
     if (options.lod) {
         scene.features().setLodChoice({LodChoice::Kind::Fixed, *options.lod});

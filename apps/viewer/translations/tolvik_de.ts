@@ -1802,8 +1802,8 @@ height&gt;3, function=1000 für Attribute. Eingabe führt zum nächsten Treffer.
         <translation>Von Norden</translation>
     </message>
     <message>
-        <source>Pictures of surfaces are missing: %1</source>
-        <translation>Bilder von Oberflächen fehlen: %1</translation>
+        <source>Files that are missing, or cannot be drawn: %1</source>
+        <translation>Dateien, die fehlen oder nicht gezeichnet werden können: %1</translation>
     </message>
     <message>
         <source>No appearance</source>

@@ -1802,8 +1802,8 @@ height&gt;3, function=1000 pour les attributs. Entrée mène au résultat suivan
         <translation>Par le nord</translation>
     </message>
     <message>
-        <source>Pictures of surfaces are missing: %1</source>
-        <translation>Des images de surfaces manquent : %1</translation>
+        <source>Files that are missing, or cannot be drawn: %1</source>
+        <translation>Fichiers absents ou impossibles à dessiner : %1</translation>
     </message>
     <message>
         <source>No appearance</source>

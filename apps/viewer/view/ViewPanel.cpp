@@ -349,10 +349,10 @@ void ViewPanel::showFinished()
         document.model().rowCount(), [this](int row) { paths.look(document.model(), row); },
         [this] { fillAttributes(); });
     emit told(tr("%L1 triangles").arg(sceneLink->scene().counts().triangles));
-    const QStringList missing = sceneLink->scene().looks().missing();
+    const QStringList missing = sceneLink->scene().missingFiles();
     if (!missing.isEmpty()) {
         emit noticed(
-            tr("Pictures of surfaces are missing: %1").arg(missing.mid(0, 3).join(QStringLiteral(", "))));
+            tr("Files that are missing, or cannot be drawn: %1").arg(missing.mid(0, 3).join(QStringLiteral(", "))));
     }
 }
 
