@@ -66,6 +66,23 @@ void Camera::fit(const osg::BoundingBoxd& box, double aspect)
         return;
     }
     lookedAt = box.center();
+    // What is near looks larger, so that the middle of the picture is not that of the box.
+    for (int round = 0; round < 3; ++round) {
+        fitHeight(box, aspect);
+        const osg::Matrixd toPicture = viewMatrix() * projectionMatrix(aspect, box);
+        osg::BoundingBoxd seen;
+        for (unsigned i = 0; i < 8; ++i) {
+            seen.expandBy(box.corner(i) * toPicture);
+        }
+        lookedAt += toRight() * (seen.center().x() * aspect * seenHeight / 2) +
+                    upwards() * (seen.center().y() * seenHeight / 2);
+    }
+    fitHeight(box, aspect);
+}
+
+/// Zooms so that all of a box is seen.
+void Camera::fitHeight(const osg::BoundingBoxd& box, double aspect)
+{
     seenHeight = smallestHeight;
     const double slope = std::tan(fieldOfView / 2);
     for (unsigned i = 0; i < 8; ++i) {
@@ -103,7 +120,8 @@ osg::Matrixd Camera::viewMatrix() const
 
 osg::Matrixd Camera::projectionMatrix(double aspect, const osg::BoundingBoxd& bounds) const
 {
-    const double radius = bounds.valid() ? bounds.radius() + 1e-3 : 1;
+    // The shaders move some surfaces towards the viewer, and these must not be cut off.
+    const double radius = bounds.valid() ? 1.01 * bounds.radius() + 1e-3 : 1;
     const osg::Vec3d middle = bounds.valid() ? bounds.center() : lookedAt;
     const double depth = (lookedAt + toEye() * distance() - middle) * toEye();
     const double half = seenHeight / 2;

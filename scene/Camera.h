@@ -47,6 +47,7 @@ public:
     osg::Matrixd projectionMatrix(double aspect, const osg::BoundingBoxd& bounds) const;
 
 private:
+    void fitHeight(const osg::BoundingBoxd& box, double aspect);
     osg::Vec3d toEye() const;
     osg::Vec3d upwards() const;
     osg::Vec3d toRight() const;

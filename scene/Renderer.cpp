@@ -24,6 +24,9 @@ QRect whole(const QSize& size)
     return QRect(QPoint(0, 0), size);
 }
 
+/// Around a part of a picture, in pixels: lines and points reach so far from where they are.
+constexpr int reach = 8;
+
 /// The part of a projection that falls on a part of the picture.
 osg::Matrixd narrowed(const osg::Matrixd& projection, const QSize& size, const QRect& part)
 {
@@ -121,6 +124,7 @@ osg::ref_ptr<osgUtil::SceneView> Renderer::makeView(osg::Program* program)
     root->getOrCreateStateSet()->addUniform(new osg::Uniform("selection", osg::Vec4()));
     root->getOrCreateStateSet()->addUniform(new osg::Uniform("section", osg::Vec4()));
     root->getOrCreateStateSet()->addUniform(new osg::Uniform("isByFeature", false));
+    root->getOrCreateStateSet()->addUniform(new osg::Uniform("widening", osg::Vec4()));
     osg::ref_ptr<osgUtil::SceneView> view = new osgUtil::SceneView;
     view->setDefaults(osgUtil::SceneView::NO_SCENEVIEW_LIGHT);
     // Behind the defaults, to which a state of the view's own belongs.
@@ -152,8 +156,15 @@ void Renderer::prepare(osgUtil::SceneView& view, const Camera& camera, const QSi
     const double aspect = static_cast<double>(size.width()) / size.height();
     const osg::Matrixd viewMatrix = camera.viewMatrix();
     view.setViewMatrix(viewMatrix);
-    view.setProjectionMatrix(narrowed(camera.projectionMatrix(aspect, scene.bounds()), size, part));
-    view.setViewport(0, 0, part.width(), part.height());
+    // What has nothing in the part is left out, by a projection of the part alone. It is drawn in the
+    // coordinates of the whole picture all the same: lines have other pixels where they are cut off.
+    const QRect around = part.adjusted(-reach, -reach, reach, reach);
+    view.setProjectionMatrix(narrowed(camera.projectionMatrix(aspect, scene.bounds()), size, around));
+    view.setViewport(-part.x(), part.y() + part.height() - size.height(), size.width(), size.height());
+    const osg::Vec2d scale(static_cast<double>(around.width()) / size.width(),
+                           static_cast<double>(around.height()) / size.height());
+    const osg::Vec2d middle(2.0 * around.x() / size.width() + scale.x() - 1,
+                            1 - 2.0 * around.y() / size.height() - scale.y());
     view.setCullMask(FaceMask | MarkMask | (options.hasEdges ? EdgeMask : 0U));
     osg::Vec4 section(0, 0, 0, 1);
     if (options.section) {
@@ -163,6 +174,7 @@ void Renderer::prepare(osgUtil::SceneView& view, const Camera& camera, const QSi
     }
     osg::StateSet& stateSet = *view.getSceneData()->getOrCreateStateSet();
     stateSet.getUniform("section")->set(section);
+    stateSet.getUniform("widening")->set(osg::Vec4(osg::Vec4d(scale.x(), scale.y(), middle.x(), middle.y())));
     stateSet.getUniform("selection")->set(vectorOf(options.selection));
     stateSet.getUniform("isByFeature")->set(options.isByFeature);
 }

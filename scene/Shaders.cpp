@@ -14,6 +14,8 @@ const char* const placeVertex = R"(#version 150 compatibility
 uniform usampler2D stateOf;
 uniform sampler2D colourOf;
 uniform vec4 section;
+// From the part of the picture that is projected to the whole: a factor, and where its middle lies.
+uniform vec4 widening;
 in uint feature;
 
 uint slotOf() { return feature >> 3u; }
@@ -29,8 +31,11 @@ void placeVertex(uint state)
     gl_ClipDistance[0] = dot(eye, section);
     // All vertices of what is not shown come to lie at one place out of sight.
     gl_Position = isShown ? gl_ProjectionMatrix * eye : vec4(2.0, 2.0, 2.0, 1.0);
+    gl_Position.xy = gl_Position.xy * widening.xy + gl_Position.w * widening.zw;
     // Of surfaces upon each other, that of a selected feature is seen, or else that of the innermost one.
-    float level = colourOfFeature().a * 255.0 + ((state & 2u) != 0u ? 4.0 : 0.0);
+    // Features that are equally far inside differ a little, so that they do not flicker.
+    float level = colourOfFeature().a * 255.0 + ((state & 2u) != 0u ? 4.0 : 0.0) +
+                  float(slotOf() & 15u) / 20.0;
     gl_Position.z -= level * 1e-5 * gl_Position.w;
 }
 )";

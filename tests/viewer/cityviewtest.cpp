@@ -118,6 +118,8 @@ void CityViewTest::open(const QString& path)
     QVERIFY2(reading.document() != nullptr, qPrintable(reading.error()));
     document->open(reading);
     panel->link()->finish();
+    // The tools take their sizes.
+    QCoreApplication::processEvents();
     view->fitAll();
 }
 
@@ -331,10 +333,10 @@ void CityViewTest::levelsOfDetailAreChosen()
 
 void CityViewTest::coloursFollowAnAttributeAndItsEdits()
 {
-    const QImage before = picture();
     auto* const attributes = panel->findChild<QComboBox*>("colourBy");
     const QString path = "Fields/MeasuredHeight";
     QTRY_VERIFY(attributes->findData(path) > 0);
+    const QImage before = picture();
     const int index = attributes->findData(path);
     attributes->setCurrentIndex(index);
     emit attributes->activated(index);

@@ -97,9 +97,10 @@ void ViewOverlay::paintLine(QPainter& painter) const
         painter.drawLine(view.placeOf(places[0]), view.placeOf(places[1]));
         const QPointF middle = (view.placeOf(places[0]) + view.placeOf(places[1])) / 2;
         const QString text = measure();
-        QRectF box = painter.fontMetrics().boundingRect(text);
+        const QFontMetrics metrics = painter.fontMetrics();
+        QRectF box(0, 0, metrics.horizontalAdvance(text) + padding, metrics.height() + 4);
         box.moveCenter(middle - QPointF(0, 16));
-        painter.fillRect(box.adjusted(-4, -2, 4, 2), QColor(255, 255, 255, 220));
+        painter.fillRect(box, QColor(255, 255, 255, 220));
         painter.setPen(Qt::black);
         painter.drawText(box, Qt::AlignCenter, text);
     }

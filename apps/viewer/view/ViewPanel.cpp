@@ -142,26 +142,34 @@ void ViewPanel::makeActions()
 
 void ViewPanel::makeTools()
 {
-    auto* const bar = new QToolBar(this);
-    bar->setObjectName(QStringLiteral("viewTools"));
+    QToolBar& movement = addTools(QStringLiteral("viewTools"));
     for (const char* const name : {"fitAll", "fitSelection", "lookFromTop", "edges", "measure"}) {
-        bar->addAction(findChild<QAction*>(QLatin1String(name)));
+        movement.addAction(findChild<QAction*>(QLatin1String(name)));
     }
-    bar->addSeparator();
-    makeLodTool(*bar);
-    makeThemeTool(*bar);
-    makeColourTool(*bar);
-    makeSectionTool(*bar);
+    coordinates = new QLabel;
+    coordinates->setObjectName(QStringLiteral("coordinateSystem"));
+    coordinates->setIndent(4);
+    movement.addSeparator();
+    movement.addWidget(coordinates);
+    QToolBar& looks = addTools(QStringLiteral("lookTools"));
+    makeLodTool(looks);
+    makeThemeTool(looks);
+    makeColourTool(looks);
+    makeSectionTool(looks);
     section->setToolTip(sectionAxis->toolTip());
     for (QWidget* const tool :
          std::initializer_list<QWidget*>{lods, themes, attributes, sectionAxis, section}) {
         tool->setAccessibleName(tool->toolTip());
     }
-    coordinates = new QLabel;
-    coordinates->setObjectName(QStringLiteral("coordinateSystem"));
-    coordinates->setMargin(4);
-    bar->addWidget(coordinates);
+}
+
+/// A row of tools, below those that are there.
+QToolBar& ViewPanel::addTools(const QString& name)
+{
+    auto* const bar = new QToolBar(this);
+    bar->setObjectName(name);
     layout->addWidget(bar);
+    return *bar;
 }
 
 void ViewPanel::makeLodTool(QToolBar& bar)
@@ -183,6 +191,7 @@ void ViewPanel::makeThemeTool(QToolBar& bar)
     themes = new QComboBox;
     themes->setObjectName(QStringLiteral("theme"));
     themes->setToolTip(tr("Materials and textures"));
+    themes->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     connect(themes, qOverload<int>(&QComboBox::currentIndexChanged), this, &ViewPanel::chooseTheme);
     bar.addWidget(themes);
 }
@@ -351,8 +360,8 @@ void ViewPanel::showFinished()
     emit told(tr("%L1 triangles").arg(sceneLink->scene().counts().triangles));
     const QStringList missing = sceneLink->scene().missingFiles();
     if (!missing.isEmpty()) {
-        emit noticed(
-            tr("Files that are missing, or cannot be drawn: %1").arg(missing.mid(0, 3).join(QStringLiteral(", "))));
+        emit noticed(tr("Files that are missing, or cannot be drawn: %1")
+                         .arg(missing.mid(0, 3).join(QStringLiteral(", "))));
     }
 }
 

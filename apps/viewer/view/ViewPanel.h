@@ -58,6 +58,7 @@ private:
     QAction* addSwitch(const QString& name, const QString& text, const QKeySequence& key, bool isOn,
                        void (ViewPanel::*slot)(bool));
     void makeTools();
+    QToolBar& addTools(const QString& name);
     void makeLodTool(QToolBar& bar);
     void makeThemeTool(QToolBar& bar);
     void makeColourTool(QToolBar& bar);
