@@ -2,6 +2,7 @@
 
 #include "platform/binding/kept/KeptContent.h"
 #include "platform/binding/kept/UnsetValues.h"
+#include "platform/binding/reader/IdentifierRegister.h"
 #include "platform/binding/reader/RequiredMembers.h"
 #include "platform/binding/SchemaIndex.h"
 #include "platform/binding/values/Literals.h"
@@ -9,6 +10,7 @@
 
 #include <algorithm>
 #include <mutex>
+#include <optional>
 #include <stdexcept>
 #include <typeinfo>
 #include <unordered_map>
@@ -116,9 +118,30 @@ xml_schema::type& objectAt(xml_schema::type& owner, const FlatMember& member, st
     return const_cast<xml_schema::type&>(opsOf(member).at(owner, index));
 }
 
+bool hasIdentifier(const xml_schema::type& object)
+{
+    if (dynamic_cast<const xml_schema::id*>(&object) != nullptr) {
+        return true;
+    }
+    for (const FlatMember& member : SchemaIndex::instance().typeOf(object).members()) {
+        const std::size_t count = member.type != nullptr ? opsOf(member).count(object) : 0;
+        for (std::size_t i = 0; i < count; ++i) {
+            if (hasIdentifier(opsOf(member).at(object, i))) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
 std::unique_ptr<xml_schema::type> takeFrom(xml_schema::type& owner, const FlatMember& member,
                                            std::size_t index)
 {
+    std::optional<binding::HiddenIdentifiers> hidden;
+    if (member.type != nullptr && !hasIdentifier(opsOf(member).at(owner, index))) {
+        auto* const root = owner._root();
+        hidden.emplace(root != nullptr ? *root : owner);
+    }
     return std::unique_ptr<xml_schema::type>(opsOf(member).take(owner, index));
 }
 
