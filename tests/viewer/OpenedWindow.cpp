@@ -21,9 +21,7 @@ namespace testsupport {
 
 OpenedWindow::OpenedWindow(const QString& document)
 {
-    QStandardPaths::setTestModeEnabled(true);
-    QCoreApplication::setOrganizationName(QStringLiteral("Tolvik"));
-    QCoreApplication::setApplicationName(QStringLiteral("viewertest"));
+    useFoldersOfTests();
     QSettings::setDefaultFormat(QSettings::IniFormat);
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());
     window = std::make_unique<MainWindow>();
@@ -41,6 +39,13 @@ OpenedWindow::OpenedWindow(const QString& document)
 }
 
 OpenedWindow::~OpenedWindow() = default;
+
+void OpenedWindow::useFoldersOfTests()
+{
+    QStandardPaths::setTestModeEnabled(true);
+    QCoreApplication::setOrganizationName(QStringLiteral("Tolvik"));
+    QCoreApplication::setApplicationName(QStringLiteral("viewertest"));
+}
 
 bool OpenedWindow::open(const QString& path)
 {

@@ -41,6 +41,8 @@ public:
     int row(const QString& identifier);
     void select(const QStringList& identifiers);
 
+    /// Has the program keep its files where no other program does, from before its first window.
+    static void useFoldersOfTests();
     /// Answers the next message box with a button. To be called before it opens.
     static void answer(int standardButton);
 

@@ -73,7 +73,7 @@ private slots:
 
     void init()
     {
-        QStandardPaths::setTestModeEnabled(true);
+        OpenedWindow::useFoldersOfTests();
         QDir(Journal::folder()).removeRecursively();
     }
 
