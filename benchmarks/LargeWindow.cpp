@@ -171,7 +171,7 @@ void measureWindow(benchmark::State& state, const std::function<void(LargeWindow
 void large(benchmark::internal::Benchmark* benchmark)
 {
     benchmark->UseManualTime()
-        ->Iterations(2)
+        ->Iterations(3)
         ->Unit(benchmark::kMillisecond)
         ->ArgName("features")
         ->Arg(100000);
