@@ -2,6 +2,7 @@
 #include "bldg/AbstractBoundarySurfaceType.hxx"
 #include "bldg/BoundarySurfacePropertyType.hxx"
 #include "bldg/BuildingType.hxx"
+#include "bldg/WallSurfaceType.hxx"
 #include "citygml/Member.h"
 #include "citygml/ReadingThreads.h"
 #include "core/CityModelType.hxx"
@@ -150,6 +151,13 @@ private slots:
         add("number", lines, setHeight, " 12.50 <", " 13.5 <");
         add("attribute", lines, on([](bldg::BuildingType& b) { b.measuredHeight()->uom("it's \"x\""); }),
             "uom='m'", "uom='it&apos;s &quot;x&quot;'");
+        add("attribute in front of blanks", buildingMember(QByteArray()).replace("b\">", "b\"\n >"),
+            on([](bldg::BuildingType& b) { b.id().reset(); }), " gml:id=\"b\"", "");
+        add("new attribute in front of blanks", buildingMember("<bldg:class \n>1</bldg:class>"),
+            on([](bldg::BuildingType& b) { b.class_()->codeSpace("c"); }), "<bldg:class \n>",
+            "<bldg:class codeSpace=\"c\" \n>");
+        add("blanks of a text", buildingMember("<bldg:class> 1 </bldg:class>"),
+            on([](bldg::BuildingType& b) { b.class_(gml::CodeType("2")); }), "> 1 <", ">2<");
         add("removed", lines, on([](bldg::BuildingType& b) { b.measuredHeight().reset(); }),
             "\t\t\t<bldg:measuredHeight uom='m'> 12.50 </bldg:measuredHeight>\n", "");
         add("removed beside a comment", lines,
@@ -158,6 +166,24 @@ private slots:
         add("entry", lines, on([](bldg::BuildingType& b) { b.function().push_back(gml::CodeType("<3>")); }),
             "\n>2</bldg:function>\n",
             "\n>2</bldg:function>\n\t\t\t<bldg:function>&lt;3&gt;</bldg:function>\n");
+        add("entry behind an empty line", buildingMember("\n\n  <bldg:function>1</bldg:function>\n"),
+            on([](bldg::BuildingType& b) { b.function().push_back(gml::CodeType("2")); }),
+            ">1</bldg:function>", ">1</bldg:function>\n  <bldg:function>2</bldg:function>");
+        add("indentation of its own",
+            "\n <core:cityObjectMember>\n <bldg:Building>\n     <bldg:class>1</bldg:class>\n "
+            "</bldg:Building>\n"
+            " </core:cityObjectMember>",
+            on([](bldg::BuildingType& b) {
+                bldg::BoundarySurfacePropertyType surface;
+                surface._BoundarySurface(bldg::WallSurfaceType());
+                b.boundedBy1().push_back(surface);
+            }),
+            "</bldg:class>",
+            "</bldg:class>\n     <bldg:boundedBy>\n         <bldg:WallSurface/>\n     </bldg:boundedBy>");
+        add("removed between texts", buildingMember("t<bldg:class>1</bldg:class><x:k/>u"),
+            on([](bldg::BuildingType& b) { b.class_().reset(); }), "<bldg:class>1</bldg:class>", "");
+        add("value between texts", buildingMember("t<bldg:class >1</bldg:class ><x:k/>u"),
+            on([](bldg::BuildingType& b) { b.class_(gml::CodeType("2")); }), ">1<", ">2<");
         add("new member", lines, on([](bldg::BuildingType& b) { b.roofType(gml::CodeType("r")); }),
             "\n>2</bldg:function>\n", "\n>2</bldg:function>\n\t\t\t<bldg:roofType>r</bldg:roofType>\n");
         add("identifier", lines, on([](bldg::BuildingType& b) { b.id("new"); }), "<bldg:Building>",
@@ -196,6 +222,13 @@ private slots:
             "xmlns:x='urn:unknown' "
             "xmlns:ns3=\"http://www.sig3d.org/citygml/2.0/energy/1.0\"><core:cityObjectMember>\n"
             " <bldg:Building>\n  <ns3:isLandmarked>true</ns3:isLandmarked>\n </bldg:Building>");
+        add("prefix that has another meaning in the place",
+            "<core:cityObjectMember xmlns:gml='urn:q'><bldg:Building/></core:cityObjectMember>",
+            on([](bldg::BuildingType& b) { b.name().push_back(gml::CodeType("n")); }),
+            "xmlns:x='urn:unknown'><core:cityObjectMember xmlns:gml='urn:q'><bldg:Building/>",
+            "xmlns:x='urn:unknown' xmlns:gml1=\"http://www.opengis.net/gml\">"
+            "<core:cityObjectMember xmlns:gml='urn:q'>"
+            "<bldg:Building><gml1:name>n</gml1:name></bldg:Building>");
         const QByteArray two =
             "<core:cityObjectMember>\n <bldg:Building gml:id='a'/>\n</core:cityObjectMember>\n"
             "<!--between-->\n"
@@ -301,6 +334,15 @@ private slots:
             << documentText(section) << setClass("]]>") << QByteArray("<![CDATA[1]]>")
             << QByteArray("]]&gt;");
 
+        QTest::newRow("CDATA section with a carriage return")
+            << documentText(section) << setClass("a\rb") << QByteArray("<![CDATA[1]]>")
+            << QByteArray("a&#13;b");
+
+        QTest::newRow("attribute of a document type")
+            << "<!DOCTYPE core:CityModel [<!ATTLIST bldg:class codeSpace CDATA 'd'>]>" +
+                   documentText(buildingMember("<bldg:class>1</bldg:class>"))
+            << Edit([](core::CityModelType& document) { buildingIn(document).class_()->codeSpace("e"); })
+            << QByteArray("<bldg:class>") << QByteArray("<bldg:class codeSpace=\"e\">");
         const QByteArray entities = "<!DOCTYPE core:CityModel [<!ENTITY e 'x'>"
                                     "<!ENTITY f '<bldg:function>1</bldg:function>'>]>\n";
         const QByteArray useOfEntities =
@@ -390,12 +432,21 @@ private slots:
         QVERIFY2(actual == expected, parting(actual, expected));
     }
 
+    void aCommentHasNoReferences_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("alone") << QByteArray("<!--a-->");
+        QTest::newRow("behind a text") << QByteArray("t <!--a--><bldg:class  />");
+    }
+
     void aCommentHasNoReferences()
     {
+        QFETCH(QByteArray, content);
         const QByteArray original =
-            "<?xml version='1.0' encoding='ISO-8859-1'?>" + documentText(buildingMember("<!--a-->"));
+            "<?xml version='1.0' encoding='ISO-8859-1'?>" + documentText(buildingMember(content));
         const Document document = read(original);
-        std::string& comment = citygml::binding::KeptContent::find(buildingIn(*document))->node(0)->xml;
+        const int number = content.startsWith('t') ? 1 : 0;
+        std::string& comment = citygml::binding::KeptContent::find(buildingIn(*document))->node(number)->xml;
         comment = "<!--\xC3\xA4-->";
         QCOMPARE(saved(original, *document), QByteArray(original).replace("<!--a-->", "<!--\xE4-->"));
         comment = "<!--\xE2\x82\xAC-->";

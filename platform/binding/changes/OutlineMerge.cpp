@@ -173,7 +173,7 @@ void OutlineMerge::mergeContent(const Element& place, const Element& was, const 
         mergeNodes(place, was, is);
     } else if (isSame(was, is)) {
         mergeTexts(place, was, is);
-    } else {
+    } else if (!takeNodes(place, was, is)) {
         rewriteContent(place, is);
     }
 }
@@ -189,6 +189,40 @@ void OutlineMerge::mergeTexts(const Element& place, const Element& was, const El
     for (std::size_t i = 0; i < was.nodes.size(); ++i) {
         mergeNode(place.nodes[i], was.nodes[i], is.nodes[i]);
     }
+}
+
+/// Merges content in which text stands between nodes of which some are gone, with nothing else changed around
+/// them.
+///
+/// \return false, with nothing done, where more has changed
+bool OutlineMerge::takeNodes(const Element& place, const Element& was, const Element& is)
+{
+    const NodeAlignment alignment(before, nodesOf(was, numbersOf(was, true)), after,
+                                  nodesOf(is, numbersOf(is, true)));
+    const auto& matches = alignment.matches();
+    std::string text;
+    std::size_t next = 0;
+    for (std::size_t i = 0; i <= was.nodes.size(); ++i) {
+        text += was.texts[i];
+        const bool isLast = i == was.nodes.size();
+        if (!isLast && !matches[i]) {
+            continue;
+        }
+        if (next != (isLast ? is.nodes.size() : *matches[i]) || text != is.texts[next]) {
+            return false;
+        }
+        text.clear();
+        ++next;
+    }
+    for (std::size_t i = 0; i < was.nodes.size(); ++i) {
+        const OutlineNode& node = place.nodes[i];
+        if (matches[i]) {
+            mergeNode(node, was.nodes[i], is.nodes[*matches[i]]);
+        } else {
+            change(node.begin, node.end, std::string());
+        }
+    }
+    return true;
 }
 
 void OutlineMerge::mergeNode(const OutlineNode& place, const OutlineNode& was, const OutlineNode& is)

@@ -46,6 +46,7 @@ private:
     void mergeContent(const Element& place, const Element& was, const Element& is);
     void mergeTexts(const Element& place, const Element& was, const Element& is);
     void mergeNodes(const Element& place, const Element& was, const Element& is);
+    bool takeNodes(const Element& place, const Element& was, const Element& is);
     void mergeNode(const OutlineNode& place, const OutlineNode& was, const OutlineNode& is);
     void replaceText(const Element& place, std::size_t number, const std::string& was, const std::string& is);
     void replaceContent(const Element& place, const std::string& content);
