@@ -163,6 +163,8 @@ private slots:
         add("removed beside a comment", lines,
             on([](bldg::BuildingType& b) { b.function().erase(b.function().begin()); }),
             "<bldg:function>1</bldg:function> <!-- first -->", " <!-- first -->");
+        add("removed in front of blanks", buildingMember("\n <bldg:class>1</bldg:class> \t\n"),
+            on([](bldg::BuildingType& b) { b.class_().reset(); }), "\n <bldg:class>1</bldg:class> \t", "");
         add("entry", lines, on([](bldg::BuildingType& b) { b.function().push_back(gml::CodeType("<3>")); }),
             "\n>2</bldg:function>\n",
             "\n>2</bldg:function>\n\t\t\t<bldg:function>&lt;3&gt;</bldg:function>\n");
@@ -364,6 +366,26 @@ private slots:
             << QByteArray(">&f;<")
             << QByteArray("><bldg:function>1</bldg:function><bldg:function>2</bldg:function><");
 
+        const QByteArray defaultPrefix =
+            "<c:CityModel xmlns:c='http://www.opengis.net/citygml/2.0' xmlns='http://www.opengis.net/gml'"
+            " xmlns:b='http://www.opengis.net/citygml/building/2.0'><c:cityObjectMember><b:Building/>"
+            "</c:cityObjectMember></c:CityModel>";
+        QTest::newRow("attribute of the default namespace")
+            << defaultPrefix << Edit([](core::CityModelType& document) { buildingIn(document).id("i"); })
+            << QByteArray("><c:cityObjectMember><b:Building/>")
+            << QByteArray(
+                   " xmlns:ns=\"http://www.opengis.net/gml\"><c:cityObjectMember><b:Building ns:id=\"i\"/>");
+        const QByteArray others = "<x:other xmlns:ns3='urn:3'/><core:cityObjectMember><bldg:Building>"
+                                  "<bldg:class>1</bldg:class>";
+        QTest::newRow("prefix that another element declares")
+            << documentText(others + "</bldg:Building></core:cityObjectMember>")
+            << Edit([](core::CityModelType& document) {
+                   buildingIn(document)._GenericApplicationPropertyOfAbstractBuilding().push_back(
+                       energy::poly_isLandmarked(true));
+               })
+            << "'urn:unknown'>" + others
+            << "'urn:unknown' xmlns:ns31=\"http://www.sig3d.org/citygml/2.0/energy/1.0\">" + others +
+                   "<ns31:isLandmarked>true</ns31:isLandmarked>";
         const QByteArray prefixes =
             "<CityModel xmlns='http://www.opengis.net/citygml/2.0' xmlns:g='http://www.opengis.net/gml'>\n"
             " <cityObjectMember><b:Building xmlns:b='http://www.opengis.net/citygml/building/2.0'>\n"
@@ -430,6 +452,47 @@ private slots:
         qunsetenv("TOLVIK_PIECE_SIZE");
         citygml::setReadingThreads(0);
         QVERIFY2(actual == expected, parting(actual, expected));
+    }
+
+    void whatIsNoOriginalIsNotCopied_data()
+    {
+        QTest::addColumn<QByteArray>("original");
+        const QByteArray document = documentText(buildingMember("<bldg:class>1</bldg:class>"));
+        QTest::newRow("nothing") << QByteArray();
+        QTest::newRow("no XML") << QByteArray("name;height\n");
+        QTest::newRow("another document type") << QByteArray("<html/>");
+        QTest::newRow("prefix that is not declared") << QByteArray("<core:CityModel>") + document.mid(1);
+        QTest::newRow("cut off") << document.left(document.size() - 20);
+        QTest::newRow("older version") << QByteArray(document).replace("citygml/2.0", "citygml/1.0");
+        QTest::newRow("older version in another encoding")
+            << "<?xml version='1.0' encoding='ISO-8859-1'?>" +
+                   QByteArray(document).replace("citygml/2.0", "citygml/1.0");
+    }
+
+    void whatIsNoOriginalIsNotCopied()
+    {
+        QFETCH(QByteArray, original);
+        const Document document = read(documentText(buildingMember("<bldg:class>1</bldg:class>")));
+        QVERIFY(saved(original, *document).isNull());
+    }
+
+    void anIdentifierThatStandsTwiceCanBeChanged()
+    {
+        const QByteArray twice =
+            documentText(buildingMember("<!-- 1 -->", "b") + buildingMember("<!-- 2 -->", "b"));
+        const QByteArray repaired = QByteArray(twice).replace("\"b\"><!-- 2", "\"c\"><!-- 2");
+        QCOMPARE(saved(twice, *read(repaired)), repaired);
+    }
+
+    void anOriginalMayBeginBehindOtherBytes()
+    {
+        const QByteArray original =
+            documentText(buildingMember("", "a") + buildingMember("", "b") + buildingMember("", "c"));
+        std::istringstream stream("other bytes" + original.toStdString());
+        stream.seekg(11);
+        std::ostringstream target;
+        QVERIFY(citygml::writeChanges(stream, *read(original), target));
+        QCOMPARE(QByteArray::fromStdString(target.str()), original);
     }
 
     void aCommentHasNoReferences_data()

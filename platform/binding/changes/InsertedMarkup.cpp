@@ -126,7 +126,6 @@ void InsertedMarkup::writeElement(const OutlineElement& source, const Scope& out
 void InsertedMarkup::writeContent(const OutlineElement& source, const Scope& scope, const Layout& layout,
                                   std::string& xml)
 {
-    areOpen = areOpen && !source.isClosed;
     const bool isLaidOut = !source.nodes.empty() && source.isBlank();
     const Layout inner = isLaidOut ? layout.inner() : Layout();
     for (std::size_t i = 0; i < source.nodes.size(); ++i) {

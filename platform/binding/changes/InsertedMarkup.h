@@ -51,9 +51,6 @@ public:
     /// The prefixes that the root has to declare, with their namespaces.
     const std::vector<std::pair<std::string, std::string>>& declarations() const { return added; }
 
-    /// Whether all that was written is whole: no element was closed.
-    bool isOpen() const { return areOpen; }
-
 private:
     /// The declarations of an element, inside of those around it.
     struct Scope
@@ -77,7 +74,6 @@ private:
     const XmlOutline& original;
     const XmlOutline& written;
     std::vector<std::pair<std::string, std::string>> added;
-    bool areOpen = true;
 };
 
 } // namespace binding

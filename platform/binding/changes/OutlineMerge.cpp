@@ -93,8 +93,7 @@ bool OutlineMerge::run()
     declareNamespaces();
     std::stable_sort(changes.begin(), changes.end(), comesFirst);
     const auto overlap = [](const ByteEdit& a, const ByteEdit& b) { return b.begin < a.end; };
-    return isOpen && inserted.isOpen() &&
-           std::adjacent_find(changes.begin(), changes.end(), overlap) == changes.end();
+    return isOpen && std::adjacent_find(changes.begin(), changes.end(), overlap) == changes.end();
 }
 
 void OutlineMerge::merge(const Element& place, const Element& was, const Element& is)

@@ -32,7 +32,7 @@ public:
     }
 
     /// \return whether that is possible; then edits() are there. It may be impossible because of a closed
-    /// element
+    /// element, and what is inserted lacks what was in one.
     bool run();
     /// In the order of the bytes; none overlaps another one.
     const std::vector<ByteEdit>& edits() const { return changes; }
