@@ -157,10 +157,13 @@ bool CityScene::addSome(int milliseconds)
 {
     QElapsedTimer timer;
     timer.start();
-    while (hasWork() && timer.elapsed() < milliseconds) {
+    while (hasWork()) {
         workOn();
+        if (timer.elapsed() >= milliseconds) {
+            return hasWork();
+        }
     }
-    return hasWork();
+    return false;
 }
 
 /// Does a step of what is to be done, which takes a millisecond at most unless a feature is very large.
@@ -470,8 +473,11 @@ void CityScene::rebuildTile(std::size_t number)
     tile.isStale = false;
     Batch batch;
     for (const Slot slot : tile.members) {
-        table.clearLods(slot);
-        append(slot, *table.featureOf(slot), batch);
+        // A feature may have gone while the tile had no number yet.
+        if (const Feature* const feature = table.featureOf(slot)) {
+            table.clearLods(slot);
+            append(slot, *feature, batch);
+        }
     }
     workers.add(number, tile.version, std::move(batch), lookArrays);
 }

@@ -107,7 +107,8 @@ const std::vector<citygml::Position>& LibraryObjects::trianglesOf(const QString&
     static const QStringList kinds = {"obj", "3ds", "stl", "ply"};
     if (kinds.contains(QFileInfo(path).suffix().toLower())) {
         const std::string name = QFile::encodeName(path).toStdString();
-        const osg::ref_ptr<osgDB::Options> options = new osgDB::Options;
+        // A document places the coordinates of a file as they are; none of its axes is taken for the upright.
+        const osg::ref_ptr<osgDB::Options> options = new osgDB::Options("noRotation");
         options->setReadFileCallback(new NothingElse);
         options->setFindFileCallback(new OneFile(name));
         options->setObjectCacheHint(osgDB::Options::CACHE_NONE);

@@ -116,6 +116,7 @@ void Looks::begin(const DocumentFolder& documentFolder)
     themeNames.clear();
     shownTheme.clear();
     isThemeShown = true;
+    isThemeChosen = false;
     pictures.clear();
     restart();
 }
@@ -135,7 +136,7 @@ bool Looks::note(const gml::AbstractFeatureType& feature)
 
 void Looks::noteTheme(const QString& theme)
 {
-    if (themeNames.isEmpty()) {
+    if (themeNames.isEmpty() && !isThemeChosen) {
         shownTheme = theme;
     }
     if (!themeNames.contains(theme)) {
@@ -158,6 +159,7 @@ void Looks::setTheme(const QString& theme, bool isShown)
 {
     shownTheme = theme;
     isThemeShown = isShown;
+    isThemeChosen = true;
     restart();
 }
 

@@ -56,7 +56,7 @@ public:
 
     /// Names of the themes in the order of the document; that of appearances without a name is empty.
     const QStringList& themes() const { return themeNames; }
-    /// The theme in use: the first at first.
+    /// The theme in use: the first until one is chosen.
     const QString& theme() const { return shownTheme; }
     /// Uses the appearances of another theme, or none, which are to be read.
     void setTheme(const QString& theme, bool isShown = true);
@@ -125,6 +125,7 @@ private:
     QStringList themeNames;
     QString shownTheme;
     bool isThemeShown = true;
+    bool isThemeChosen = false;
     Cursor cursor;
 
     std::vector<LookArrays> kinds = {LookArrays()};
