@@ -11,19 +11,24 @@ SceneFixture::SceneFixture(const QString& path)
       renderer(std::make_unique<Renderer>(scene))
 {
     model.load(path);
-    std::vector<const Feature*> features;
-    for (int row = 0; row < model.rowCount(); ++row) {
-        features.push_back(model.getFeature(row));
-    }
     if (!context->error().isEmpty()) {
         qFatal("no context: %s", qPrintable(context->error()));
     }
     if (!renderer->unfitness().isEmpty()) {
         qFatal("unfit: %s", qPrintable(renderer->unfitness()));
     }
-    scene.begin(features, path);
+    begin();
     scene.addAll();
     camera.fit(scene.bounds(), static_cast<double>(width) / height);
+}
+
+void SceneFixture::begin()
+{
+    std::vector<const Feature*> all;
+    for (int row = 0; row < model.rowCount(); ++row) {
+        all.push_back(model.getFeature(row));
+    }
+    scene.begin(all, model.getFileName());
 }
 
 SceneFixture::~SceneFixture()

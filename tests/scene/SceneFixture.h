@@ -20,6 +20,8 @@ public:
 
     /// \param path of a document
     explicit SceneFixture(const QString& path);
+    /// Begins with all of the model anew, and does nothing more.
+    void begin();
     SceneFixture(const SceneFixture&) = delete;
     SceneFixture& operator=(const SceneFixture&) = delete;
     ~SceneFixture();

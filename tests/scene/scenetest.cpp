@@ -1,3 +1,4 @@
+#include "scene/SceneDocuments.h"
 #include "scene/SceneFixture.h"
 
 #include "gml/AbstractFeatureType.hxx"
@@ -59,34 +60,6 @@ QByteArray shifted(const QByteArray& xml, double x, double y)
         at = match.capturedEnd();
     }
     return (result + shiftLists(text.mid(at))).toUtf8();
-}
-
-/// A document in a folder of its own.
-class DocumentFile
-{
-public:
-    explicit DocumentFile(const QByteArray& xml) { writeFile(path(), xml); }
-    QString path() const { return folder.filePath("city.gml"); }
-    QString fileBeside(const QString& name) const { return folder.filePath(name); }
-
-private:
-    QTemporaryDir folder;
-};
-
-QByteArray square(const QByteArray& id, double x, double z, const QByteArray& ring = QByteArray())
-{
-    const auto corner = [&](double dx, double dy) {
-        return QByteArray::number(x + dx) + ' ' + QByteArray::number(dy) + ' ' + QByteArray::number(z) + ' ';
-    };
-    return "<gml:surfaceMember><gml:Polygon gml:id='" + id + "'><gml:exterior><gml:LinearRing" +
-           (ring.isEmpty() ? ring : " gml:id='" + ring + "'") + "><gml:posList>" + corner(0, 0) +
-           corner(10, 0) + corner(10, 10) + corner(0, 10) + corner(0, 0) +
-           "</gml:posList></gml:LinearRing></gml:exterior></gml:Polygon></gml:surfaceMember>";
-}
-
-QByteArray multiSurface(const QByteArray& member, const QByteArray& surfaces)
-{
-    return "<bldg:" + member + "><gml:MultiSurface>" + surfaces + "</gml:MultiSurface></bldg:" + member + '>';
 }
 
 } // namespace
@@ -349,15 +322,9 @@ void SceneTest::texturesAppear()
 
 void SceneTest::materialsAppearUntilAnotherThemeIsChosen()
 {
-    const auto material = [](const QByteArray& theme, const QByteArray& colour) {
-        return "<app:appearanceMember><app:Appearance><app:theme>" + theme +
-               "</app:theme><app:surfaceDataMember><app:X3DMaterial><app:diffuseColor>" + colour +
-               "</app:diffuseColor><app:target>#p</app:target></app:X3DMaterial></app:surfaceDataMember>"
-               "</app:Appearance></app:appearanceMember>";
-    };
-    const DocumentFile file(
-        documentText(material("red", "1 0 0") + material("blue", "0 0 1") +
-                     buildingMember(multiSurface("lod2MultiSurface", square("p", 0, 0)))));
+    const DocumentFile file(documentText(
+        appearanceMember("red", material("1 0 0")) + appearanceMember("blue", material("0 0 1")) +
+        buildingMember(multiSurface("lod2MultiSurface", square("p", 0, 0)))));
     SceneFixture fixture(file.path());
     QCOMPARE(fixture.scene.looks().themes(), QStringList({"red", "blue"}));
     const QPoint middle(SceneFixture::width / 2, SceneFixture::height / 2);

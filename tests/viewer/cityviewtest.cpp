@@ -8,6 +8,7 @@
 #include "apps/viewer/view/ViewPanel.h"
 #include "framework/CoreProperty.h"
 #include "gml/AbstractFeatureType.hxx"
+#include "support/Documents.h"
 #include "support/Files.h"
 #include "support/TestClass.h"
 #include "support/TestPaths.h"
@@ -15,7 +16,9 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QSet>
+#include <QSlider>
 #include <QTemporaryDir>
+#include <QToolTip>
 #include <QtTest>
 
 using namespace testsupport;
@@ -77,15 +80,23 @@ private slots:
     void keysTurnAndMove();
     void theWheelZoomsToThePointer();
     void picturesHaveTheSizeThatIsAsked();
+    void thePointerIsToldNameAndType();
+    void themesAreChosen();
+    void aSectionCutsTheCityOpen();
+    void nothingButTheSelectedIsShown();
+    void theViewEndsWhileItIsBuilt();
+    void documentsChangeWhileTheyAreBuilt();
 
 private:
     void open(const QString& path);
+    /// Opens a document, and does a little of what the view has to do for it.
+    void beginToOpen(const QString& path);
     QImage picture();
     /// A place where a feature is seen, far enough from the edges of its picture.
     QPoint placeOfSomething(int* row = nullptr);
     QModelIndex treeIndex(int row);
 
-    std::unique_ptr<Document> document;
+    std::unique_ptr<viewer::Document> document;
     std::unique_ptr<ViewPanel> panel;
     CityView* view = nullptr;
 };
@@ -94,7 +105,7 @@ TEST_CLASS(CityViewTest, Widgets)
 
 void CityViewTest::init()
 {
-    document = std::make_unique<Document>();
+    document = std::make_unique<viewer::Document>();
     panel = std::make_unique<ViewPanel>(*document);
     panel->resize(700, 500);
     panel->show();
@@ -121,6 +132,18 @@ void CityViewTest::open(const QString& path)
     // The tools take their sizes.
     QCoreApplication::processEvents();
     view->fitAll();
+}
+
+void CityViewTest::beginToOpen(const QString& path)
+{
+    apps::DocumentReading reading(path);
+    reading.read();
+    QVERIFY2(reading.document() != nullptr, qPrintable(reading.error()));
+    document->open(reading);
+    QSignalSpy shown(panel->link(), &SceneLink::changed);
+    while (shown.isEmpty() && panel->link()->isBusy()) {
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 1);
+    }
 }
 
 QImage CityViewTest::picture()
@@ -428,6 +451,138 @@ void CityViewTest::picturesHaveTheSizeThatIsAsked()
     QVERIFY(!isBackground(image));
     QCOMPARE(view->picture(QSize(100, 100), true).pixelColor(0, 0).alpha(), 0);
     QVERIFY(view->picture(QSize(1000000, 10), false).isNull());
+}
+
+void CityViewTest::thePointerIsToldNameAndType()
+{
+    int row = -1;
+    const QPoint place = placeOfSomething(&row);
+    QHelpEvent help(QEvent::ToolTip, place, view->mapToGlobal(place));
+    QCoreApplication::sendEvent(view, &help);
+    const CityGMLModel& model = document->model();
+    QCOMPARE(QToolTip::text(),
+             model.index(row, 0).data().toString() + '\n' + model.index(row, 1).data().toString());
+    QHelpEvent nothing(QEvent::ToolTip, QPoint(2, 2), view->mapToGlobal(QPoint(2, 2)));
+    QCoreApplication::sendEvent(view, &nothing);
+    QTRY_VERIFY(!QToolTip::isVisible());
+}
+
+void CityViewTest::themesAreChosen()
+{
+    const auto painted = [](const QByteArray& theme, const QByteArray& colour) {
+        return "<app:appearanceMember><app:Appearance><app:theme>" + theme +
+               "</app:theme><app:surfaceDataMember><app:X3DMaterial><app:diffuseColor>" + colour +
+               "</app:diffuseColor><app:target>#p</app:target></app:X3DMaterial></app:surfaceDataMember>"
+               "</app:Appearance></app:appearanceMember>";
+    };
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("painted.gml");
+    QVERIFY(writeFile(path, documentText(painted("summer", "0 1 0") + painted("winter", "0.9 0.9 1") +
+                                         buildingMember("<bldg:lod2MultiSurface><gml:MultiSurface>"
+                                                        "<gml:surfaceMember><gml:Polygon gml:id='p'>"
+                                                        "<gml:exterior><gml:LinearRing><gml:posList>"
+                                                        "0 0 0 9 0 0 9 9 0 0 9 0 0 0 0</gml:posList>"
+                                                        "</gml:LinearRing></gml:exterior></gml:Polygon>"
+                                                        "</gml:surfaceMember></gml:MultiSurface>"
+                                                        "</bldg:lod2MultiSurface>"))));
+    open(path);
+    auto* const themes = panel->findChild<QComboBox*>("theme");
+    QCOMPARE(themes->currentText(), QString("summer"));
+    std::vector<QImage> pictures;
+    for (int index = 0; index < themes->count(); ++index) {
+        themes->setCurrentIndex(index);
+        // The window goes on meanwhile.
+        QTRY_VERIFY(!panel->link()->isBusy());
+        pictures.push_back(picture());
+    }
+    QCOMPARE(pictures.size(), std::size_t(3));
+    QVERIFY(differences(pictures[0], pictures[1]) > 1000);
+    QVERIFY(differences(pictures[1], pictures[2]) > 1000);
+    themes->setCurrentIndex(0);
+    panel->link()->finish();
+    QCOMPARE(differences(pictures[0], picture()), 0);
+}
+
+void CityViewTest::aSectionCutsTheCityOpen()
+{
+    const QImage before = picture();
+    auto* const section = panel->findChild<QSlider*>("section");
+    auto* const axis = panel->findChild<QComboBox*>("sectionAxis");
+    QVERIFY(!section->isEnabled());
+    for (int index = 1; index < axis->count(); ++index) {
+        axis->setCurrentIndex(index);
+        QVERIFY(section->isEnabled());
+        section->setValue(section->maximum());
+        QCOMPARE(differences(before, picture()), 0);
+        section->setValue(section->maximum() / 2);
+        QVERIFY2(differences(before, picture()) > 100, qPrintable(axis->itemText(index)));
+        section->setValue(section->minimum());
+        QVERIFY2(isBackground(picture()), qPrintable(axis->itemText(index)));
+    }
+    axis->setCurrentIndex(0);
+    QCOMPARE(differences(before, picture()), 0);
+}
+
+void CityViewTest::nothingButTheSelectedIsShown()
+{
+    int row = -1;
+    const QPoint place = placeOfSomething(&row);
+    CityGMLModel& model = document->model();
+    QList<QModelIndex> others;
+    for (int other = 0; other < model.rowCount(); ++other) {
+        if (other != row) {
+            others << model.index(other, 0);
+        }
+    }
+    model.hide(others);
+    for (int y = 5; y < view->height(); y += 16) {
+        for (int x = 5; x < view->width(); x += 16) {
+            const scene::Slot slot = view->hitAt(QPoint(x, y)).slot;
+            QVERIFY(slot == noSlot || panel->link()->rowOf(slot) == row);
+        }
+    }
+    QCOMPARE(panel->link()->rowOf(view->hitAt(place).slot), row);
+    model.showAll();
+}
+
+/// What is left over is told by the sanitizers.
+void CityViewTest::theViewEndsWhileItIsBuilt()
+{
+    beginToOpen(examples() + "/utility.gml");
+    panel.reset();
+    document.reset();
+    init();
+    beginToOpen(examples() + "/district.gml");
+    panel.reset();
+    QVERIFY(document->model().rowCount() > 0);
+}
+
+void CityViewTest::documentsChangeWhileTheyAreBuilt()
+{
+    const QImage before = picture();
+    CityGMLModel& model = document->model();
+
+    // A reload.
+    beginToOpen(examples() + "/district.gml");
+    document->model().dataSetChanged();
+    panel->link()->finish();
+    QCOMPARE(differences(before, picture()), 0);
+
+    // A load that fails.
+    const QTemporaryDir folder;
+    QVERIFY(writeFile(folder.filePath("broken.gml"), "<core:CityModel"));
+    beginToOpen(examples() + "/district.gml");
+    model.load(folder.filePath("broken.gml"));
+    panel->link()->finish();
+    QCOMPARE(differences(before, picture()), 0);
+
+    // Removals.
+    beginToOpen(examples() + "/district.gml");
+    while (model.rowCount() > 0) {
+        model.removeFeature(model.getFeature(model.rowCount() - 1));
+    }
+    panel->link()->finish();
+    QVERIFY(isBackground(picture()));
 }
 
 #include "cityviewtest.moc"
