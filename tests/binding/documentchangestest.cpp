@@ -19,8 +19,10 @@
 #include "support/Variants.h"
 #include "support/XmlTree.h"
 
+#include <algorithm>
 #include <functional>
 #include <QtTest>
+#include <random>
 #include <sstream>
 
 using namespace testsupport;
@@ -452,6 +454,29 @@ private slots:
         qunsetenv("TOLVIK_PIECE_SIZE");
         citygml::setReadingThreads(0);
         QVERIFY2(actual == expected, parting(actual, expected));
+    }
+
+    /// A child that has gone elsewhere is as it was, but has no bytes there.
+    void aChildThatIsElsewhereIsWrittenInFull()
+    {
+        QByteArrayList members;
+        for (int i = 0; i < 10; ++i) {
+            members += "\n " + buildingMember("<bldg:class>" + QByteArray::number(i) + "</bldg:class>",
+                                              "b" + QByteArray::number(i));
+        }
+        const QByteArray original = documentText(members.join() + '\n');
+        const QVector<QPair<int, int>> moves{{2, 7}, {7, 2}, {3, 4}, {1, 9}, {9, 1}};
+        for (const auto& move : moves) {
+            QByteArrayList moved = members;
+            moved.move(move.first, move.second);
+            const QByteArray expected = documentText(moved.join() + '\n');
+            const QByteArray actual = saved(original, *read(expected));
+            QVERIFY2(actual == expected, QByteArray::number(move.first) + parting(actual, expected));
+        }
+        QByteArrayList shuffled = members;
+        std::shuffle(shuffled.begin(), shuffled.end(), std::mt19937(1));
+        const QByteArray expected = documentText(shuffled.join() + '\n');
+        QCOMPARE(write(*read(saved(original, *read(expected)))), write(*read(expected)));
     }
 
     void whatIsNoOriginalIsNotCopied_data()

@@ -131,17 +131,7 @@ bool writeChanges(std::istream& original, const core::CityModelType& document, s
     }
     const std::optional<std::vector<binding::ByteEdit>> edits =
         binding::editsFor(reduced->bytes(), document, children, prefixes);
-    if (!edits) {
-        return false;
-    }
-    std::size_t at = 0;
-    for (const binding::ByteEdit& edit : *edits) {
-        reduced->copy(at, edit.begin, target);
-        target.write(edit.bytes.data(), static_cast<std::streamsize>(edit.bytes.size()));
-        at = edit.end;
-    }
-    reduced->copy(at, reduced->bytes().size(), target);
-    return true;
+    return edits && reduced->write(*edits, target);
 }
 
 } // namespace citygml

@@ -14,8 +14,10 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <istream>
 #include <ostream>
+#include <random>
 #include <system_error>
 
 namespace citygml {
@@ -70,6 +72,13 @@ std::string identifierIn(const xml_schema::type& object)
         }
     }
     return identifier;
+}
+
+/// A text that no document has.
+std::string newMark()
+{
+    std::random_device random;
+    return std::to_string(random()) + '-' + std::to_string(random()) + '-';
 }
 
 } // namespace
@@ -188,7 +197,7 @@ void ReducedOriginal::Piece::compare(const RootContext& context,
 }
 
 ReducedOriginal::ReducedOriginal(std::istream& stream, WrittenChildren& written)
-    : stream(stream), written(written), start(static_cast<std::uint64_t>(stream.tellg()))
+    : stream(stream), written(written), start(static_cast<std::uint64_t>(stream.tellg())), mark(newMark())
 {
     read();
 }
@@ -374,7 +383,7 @@ void ReducedOriginal::endRun()
     if (!run) {
         return;
     }
-    const std::string number = std::to_string(elisions.size());
+    const std::string number = mark + std::to_string(elisions.size());
     const std::size_t begin = reduced.size();
     reduced += '<' + run->name + " n=\"" + number + "\"/>";
     elisions.push_back({begin, reduced.size(), run->begin, run->end});
@@ -382,23 +391,82 @@ void ReducedOriginal::endRun()
     run.reset();
 }
 
+bool ReducedOriginal::write(const std::vector<ByteEdit>& edits, std::ostream& target)
+{
+    std::vector<std::vector<Inserted>> inserted;
+    for (const ByteEdit& edit : edits) {
+        std::optional<std::vector<Inserted>> parts = partsOf(edit.bytes);
+        if (!parts || cutsElision(edit.begin) || cutsElision(edit.end)) {
+            return false;
+        }
+        inserted.push_back(std::move(*parts));
+    }
+    std::size_t at = 0;
+    for (std::size_t i = 0; i < edits.size(); ++i) {
+        copy(at, edits[i].begin, target);
+        for (const Inserted& part : inserted[i]) {
+            target.write(part.text.data(), static_cast<std::streamsize>(part.text.size()));
+            if (part.elision != nullptr) {
+                copy(*part.elision, target);
+            }
+        }
+        at = edits[i].end;
+    }
+    copy(at, reduced.size(), target);
+    return true;
+}
+
+/// Finds what stands for children in new bytes: these have gone elsewhere.
+///
+/// \return nothing where a mark stands in anything but such an element
+std::optional<std::vector<ReducedOriginal::Inserted>> ReducedOriginal::partsOf(std::string_view bytes) const
+{
+    std::vector<Inserted> parts;
+    for (std::size_t at = bytes.find(mark); at != std::string_view::npos; at = bytes.find(mark)) {
+        const std::size_t begin = bytes.rfind('<', at), end = bytes.find("\"/>", at);
+        if (begin == std::string_view::npos || end == std::string_view::npos) {
+            return std::nullopt;
+        }
+        std::size_t number = elisions.size();
+        std::from_chars(bytes.data() + at + mark.size(), bytes.data() + end, number);
+        if (number >= elisions.size()) {
+            return std::nullopt;
+        }
+        parts.push_back({bytes.substr(0, begin), &elisions[number]});
+        bytes.remove_prefix(end + 3);
+    }
+    parts.push_back({bytes, nullptr});
+    return parts;
+}
+
+bool ReducedOriginal::cutsElision(std::size_t at) const
+{
+    return std::any_of(elisions.begin(), elisions.end(),
+                       [at](const Elision& elision) { return elision.begin < at && at < elision.end; });
+}
+
 void ReducedOriginal::copy(std::size_t begin, std::size_t end, std::ostream& target)
 {
     auto elision = std::lower_bound(elisions.begin(), elisions.end(), begin,
                                     [](const Elision& e, std::size_t at) { return e.begin < at; });
-    std::array<char, blockSize> block{};
     for (; elision != elisions.end() && elision->end <= end; ++elision) {
         target.write(reduced.data() + begin, static_cast<std::streamsize>(elision->begin - begin));
         begin = elision->end;
-        stream.clear();
-        stream.seekg(static_cast<std::streamoff>(start + elision->first));
-        for (std::uint64_t left = elision->last - elision->first; left != 0 && stream;) {
-            stream.read(block.data(), static_cast<std::streamsize>(std::min<std::uint64_t>(left, blockSize)));
-            target.write(block.data(), stream.gcount());
-            left -= static_cast<std::uint64_t>(stream.gcount());
-        }
+        copy(*elision, target);
     }
     target.write(reduced.data() + begin, static_cast<std::streamsize>(end - begin));
+}
+
+void ReducedOriginal::copy(const Elision& elision, std::ostream& target)
+{
+    std::array<char, blockSize> block{};
+    stream.clear();
+    stream.seekg(static_cast<std::streamoff>(start + elision.first));
+    for (std::uint64_t left = elision.last - elision.first; left != 0 && stream;) {
+        stream.read(block.data(), static_cast<std::streamsize>(std::min<std::uint64_t>(left, blockSize)));
+        target.write(block.data(), stream.gcount());
+        left -= static_cast<std::uint64_t>(stream.gcount());
+    }
 }
 
 } // namespace binding

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/CityModelType.hxx"
+#include "platform/binding/changes/OutlineMerge.h"
 #include "platform/binding/reader/RootChild.h"
 #include "platform/binding/reader/RootCutter.h"
 #include "platform/binding/writer/ElementWriter.h"
@@ -57,8 +58,12 @@ public:
     ReducedOriginal(std::istream& stream, WrittenChildren& written);
 
     const std::string& bytes() const { return reduced; }
-    /// Copies the bytes of the original that a part of the bytes stands for.
-    void copy(std::size_t begin, std::size_t end, std::ostream& target);
+    /// Writes the bytes of the original that the bytes stand for, with edits of these. Children that an edit
+    /// puts elsewhere keep their bytes.
+    ///
+    /// \param edits in the order of the bytes
+    /// \return false, with nothing written, where an edit makes something else of what stands for children
+    bool write(const std::vector<ByteEdit>& edits, std::ostream& target);
 
 private:
     /// Where an element stands for children, and where these are in the stream.
@@ -66,6 +71,12 @@ private:
     {
         std::size_t begin, end;
         std::uint64_t first, last;
+    };
+    /// New bytes, and children of the original behind them; null for none.
+    struct Inserted
+    {
+        std::string_view text;
+        const Elision* elision;
     };
     struct Piece;
     /// Children of the original that follow each other and are as those of the document from a number on.
@@ -87,10 +98,16 @@ private:
     std::optional<std::size_t> search(const xml_schema::type& child);
     void addChild(const Piece& piece, std::size_t child, std::optional<std::size_t> match);
     void endRun();
+    std::optional<std::vector<Inserted>> partsOf(std::string_view bytes) const;
+    bool cutsElision(std::size_t at) const;
+    void copy(std::size_t begin, std::size_t end, std::ostream& target);
+    void copy(const Elision& elision, std::ostream& target);
 
     std::istream& stream;
     WrittenChildren& written;
     const std::uint64_t start;
+    // Begins the number of each elision.
+    const std::string mark;
     std::string reduced;
     std::vector<Elision> elisions;
     // What has been read, and was not cut yet, and where it begins behind `start`.
