@@ -1,128 +1,132 @@
 #include "scene/LibraryObjects.h"
 
-#include <osg/MatrixTransform>
-#include <osg/NodeVisitor>
-#include <osg/Notify>
-#include <osg/TriangleFunctor>
-#include <osgDB/Callbacks>
-#include <osgDB/ReadFile>
+#include "scene/Triangulator.h"
+
+#include <algorithm>
 #include <QFile>
 #include <QFileInfo>
-#include <QStringList>
+#include <QtEndian>
 
 namespace tolvik::scene {
 
 namespace {
 
-/// Keeps a reader from everything that a file names, such as pictures in other places.
-class NothingElse : public osgDB::ReadFileCallback
+using citygml::Position;
+using Corners = std::vector<Position>;
+
+/// No tree or lamp has so many bytes.
+constexpr qint64 largestFile = 256 * 1024 * 1024;
+
+/// Three numbers of a line, behind its first word.
+Position positionOf(const QList<QByteArray>& words)
+{
+    return {words[1].toDouble(), words[2].toDouble(), words[3].toDouble()};
+}
+
+/// Reads the faces of an OBJ file.
+class ObjReader
 {
 public:
-    using Result = osgDB::ReaderWriter::ReadResult;
-
-    Result openArchive(const std::string&, osgDB::ReaderWriter::ArchiveStatus, unsigned,
-                       const osgDB::Options*) override
+    Corners read(QFile& file)
     {
-        return Result::FILE_NOT_FOUND;
-    }
-    Result readObject(const std::string&, const osgDB::Options*) override { return Result::FILE_NOT_FOUND; }
-    Result readImage(const std::string&, const osgDB::Options*) override { return Result::FILE_NOT_FOUND; }
-    Result readHeightField(const std::string&, const osgDB::Options*) override
-    {
-        return Result::FILE_NOT_FOUND;
-    }
-    Result readShader(const std::string&, const osgDB::Options*) override { return Result::FILE_NOT_FOUND; }
-    Result readNode(const std::string& name, const osgDB::Options* options) override
-    {
-        if (isFirst) {
-            isFirst = false;
-            return osgDB::ReadFileCallback::readNode(name, options);
+        while (!file.atEnd()) {
+            const QList<QByteArray> words = file.readLine().simplified().split(' ');
+            if (words[0] == "v" && words.size() > 3) {
+                vertices.push_back(positionOf(words));
+            } else if (words[0] == "f") {
+                addFace(words);
+            }
         }
-        return Result::FILE_NOT_FOUND;
+        return std::move(corners);
     }
 
 private:
-    bool isFirst = true;
-};
-
-/// Finds one file alone. Some readers look for what a file names, and open it themselves.
-class OneFile : public osgDB::FindFileCallback
-{
-public:
-    explicit OneFile(std::string path) : path(std::move(path)) {}
-
-    std::string findDataFile(const std::string& name, const osgDB::Options*, osgDB::CaseSensitivity) override
+    /// A face that names a vertex which is not there is left out.
+    void addFace(const QList<QByteArray>& words)
     {
-        return name == path ? path : std::string();
-    }
-
-private:
-    const std::string path;
-};
-
-struct TriangleSink
-{
-    std::vector<citygml::Position>* corners = nullptr;
-    osg::Matrixd matrix;
-
-    void operator()(const osg::Vec3& a, const osg::Vec3& b, const osg::Vec3& c, bool = false)
-    {
-        for (const osg::Vec3& corner : {a, b, c}) {
-            const osg::Vec3d placed = osg::Vec3d(corner) * matrix;
-            corners->push_back({placed[0], placed[1], placed[2]});
+        face.clear();
+        for (int i = 1; i < words.size(); ++i) {
+            // Behind the slash stand a texture and a normal. Below 0, the last vertex is -1.
+            const long long number = words[i].split('/')[0].toLongLong();
+            const auto count = static_cast<long long>(vertices.size());
+            if (number == 0 || number > count || number < -count) {
+                return;
+            }
+            face.push_back(vertices[static_cast<std::size_t>(number > 0 ? number - 1 : count + number)]);
+        }
+        if (!triangulator.triangulate(face, {{0, face.size(), nullptr}})) {
+            return;
+        }
+        for (const std::uint32_t corner : triangulator.triangles()) {
+            const std::size_t crossing = corner - std::min<std::size_t>(corner, face.size());
+            corners.push_back(corner < face.size() ? face[corner]
+                                                   : triangulator.crossings()[crossing].position);
         }
     }
+
+    Triangulator triangulator;
+    Corners vertices;
+    Corners face;
+    Corners corners;
 };
 
-class TriangleCollector : public osg::NodeVisitor
+/// An STL file of bytes: 80 of a title, the number of triangles, and 50 for each of these: twelve numbers,
+/// the first three of which are the normal, and two bytes more.
+constexpr int stlHeader = 84;
+constexpr int stlTriangle = 50;
+
+bool isBinaryStl(const QByteArray& bytes)
 {
-public:
-    explicit TriangleCollector(std::vector<citygml::Position>& corners)
-        : osg::NodeVisitor(TRAVERSE_ACTIVE_CHILDREN), corners(corners)
-    {
-    }
+    return bytes.size() >= stlHeader &&
+           bytes.size() - stlHeader ==
+               qint64(stlTriangle) * qFromLittleEndian<quint32>(bytes.constData() + stlHeader - 4);
+}
 
-    void apply(osg::Drawable& drawable) override
-    {
-        osg::TriangleFunctor<TriangleSink> functor;
-        functor.corners = &corners;
-        functor.matrix = osg::computeLocalToWorld(getNodePath());
-        drawable.accept(functor);
-    }
-
-private:
-    std::vector<citygml::Position>& corners;
-};
-
-} // namespace
-
-const std::vector<citygml::Position>& LibraryObjects::trianglesOf(const QString& path)
+Corners readBinaryStl(const QByteArray& bytes)
 {
-    const auto found = known.find(path);
-    if (found != known.end()) {
-        return found->second;
-    }
-    std::vector<citygml::Position>& corners = known[path];
-    // Readers that take nothing from a file but shapes.
-    static const QStringList kinds = {"obj", "3ds", "stl", "ply"};
-    if (kinds.contains(QFileInfo(path).suffix().toLower())) {
-        const std::string name = QFile::encodeName(path).toStdString();
-        // A document places the coordinates of a file as they are; none of its axes is taken for the upright.
-        const osg::ref_ptr<osgDB::Options> options = new osgDB::Options("noRotation");
-        options->setReadFileCallback(new NothingElse);
-        options->setFindFileCallback(new OneFile(name));
-        options->setObjectCacheHint(osgDB::Options::CACHE_NONE);
-        // What is not drawn is told by this library's callers, and not on the standard error stream.
-        const osg::NotifySeverity level = osg::getNotifyLevel();
-        osg::setNotifyLevel(osg::FATAL);
-        const osg::ref_ptr<osg::Node> node = osgDB::readRefNodeFile(name, options);
-        osg::setNotifyLevel(level);
-        if (node != nullptr) {
-            TriangleCollector collector(corners);
-            node->accept(collector);
+    Corners corners;
+    for (int triangle = stlHeader; triangle < bytes.size(); triangle += stlTriangle) {
+        for (int corner = 1; corner <= 3; ++corner) {
+            const char* const numbers = bytes.constData() + triangle + 12 * corner;
+            corners.push_back({qFromLittleEndian<float>(numbers), qFromLittleEndian<float>(numbers + 4),
+                               qFromLittleEndian<float>(numbers + 8)});
         }
     }
     return corners;
+}
+
+Corners readStl(QFile& file)
+{
+    const QByteArray bytes = file.readAll();
+    if (isBinaryStl(bytes)) {
+        return readBinaryStl(bytes);
+    }
+    Corners corners;
+    for (const QByteArray& line : bytes.split('\n')) {
+        const QList<QByteArray> words = line.simplified().split(' ');
+        if (words[0] == "vertex" && words.size() > 3) {
+            corners.push_back(positionOf(words));
+        }
+    }
+    return corners;
+}
+
+Corners readFile(const QString& path)
+{
+    QFile file(path);
+    const QString kind = QFileInfo(path).suffix().toLower();
+    if (path.isEmpty() || file.size() > largestFile || !file.open(QIODevice::ReadOnly)) {
+        return {};
+    }
+    return kind == "obj" ? ObjReader().read(file) : kind == "stl" ? readStl(file) : Corners();
+}
+
+} // namespace
+
+const std::vector<Position>& LibraryObjects::trianglesOf(const QString& path)
+{
+    const auto found = known.find(path);
+    return found != known.end() ? found->second : known.emplace(path, readFile(path)).first->second;
 }
 
 } // namespace tolvik::scene

@@ -8,7 +8,8 @@
 
 namespace tolvik::scene {
 
-/// The shapes of objects that lie in files of their own, such as trees and lamps, as triangles.
+/// The shapes of objects that lie in files of their own, such as trees and lamps, as triangles. OBJ and STL
+/// are read here: the readers of the scene library fall over files that are not as they should be.
 class LibraryObjects
 {
 public:

@@ -4,6 +4,7 @@
 #include "support/Files.h"
 #include "support/TestClass.h"
 
+#include <QtEndian>
 #include <QtTest>
 
 using namespace testsupport;
@@ -184,6 +185,28 @@ void SceneFilesTest::objectsInFilesAreDrawn_data()
     QTest::addColumn<QByteArray>("content");
     QTest::newRow("OBJ") << "lamp.obj"
                          << QByteArray("v 0 0 0\nv 10 0 0\nv 10 10 0\nv 0 10 0\nf 1 2 3\nf 1 3 4\n");
+    QTest::newRow("OBJ with textures, normals and numbers from the end")
+        << "lamp.OBJ"
+        << QByteArray("mtllib lamp.mtl\nv 0 0 0\nv 10 0 0\nv 10 10 0\nv 0 10 0\nvt 0 0\nvn 0 0 1\n"
+                      "usemtl red\nf -4/1/1 -3/1/1 3//1 4\n");
+    QTest::newRow("OBJ with faces that name no vertex")
+        << "lamp.obj"
+        << QByteArray("v 0 0 0\nv 10 0 0\nv 10 10 0\nv 0 10 0\nf 1 2 5\nf 0 1 2\nf -5 1 2\nf 1 2 x\nf 1 2\n"
+                      "f\nv 1\nf 1 2 99999999999999999999\nf 1 2 3 4\n");
+    QByteArray binary(80, ' ');
+    const auto append = [&binary](auto number) {
+        char bytes[sizeof number];
+        qToLittleEndian(number, bytes);
+        binary.append(bytes, sizeof number);
+    };
+    append(quint32(2));
+    for (const float x : {10.0F, 0.0F}) {
+        for (const float number : {0.0F, 0.0F, 1.0F, 0.0F, 0.0F, 0.0F, x, 10 - x, 0.0F, 10.0F, 10.0F, 0.0F}) {
+            append(number);
+        }
+        append(quint16(0));
+    }
+    QTest::newRow("STL of bytes") << "lamp.stl" << binary;
     QTest::newRow("STL") << "lamp.stl"
                          << QByteArray("solid lamp\n"
                                        "facet normal 0 0 1\nouter loop\nvertex 0 0 0\nvertex 10 0 0\n"
