@@ -78,7 +78,8 @@ OffscreenContext::~OffscreenContext()
     if (egl.context != EGL_NO_CONTEXT) {
         eglDestroyContext(egl.display, egl.context);
     }
-    eglTerminate(egl.display);
+    // The display is that of the process: another context may be there, and a driver that is loaded again
+    // leaks.
 }
 
 } // namespace tolvik::scene

@@ -7,6 +7,10 @@
 #include <QCoreApplication>
 #include <vector>
 
+#ifdef __SANITIZE_ADDRESS__
+#include <sanitizer/lsan_interface.h>
+#endif
+
 namespace testsupport {
 
 namespace {
@@ -71,6 +75,15 @@ int runAll(Application application, const QStringList& arguments)
     return failures;
 }
 
+/// Looks for leaks while the application is there: drivers that it unloads at its end leave blocks behind, and
+/// then cannot be told by their names.
+void lookForLeaks()
+{
+#ifdef __SANITIZE_ADDRESS__
+    __lsan_do_leak_check();
+#endif
+}
+
 bool hasClasses(Application application)
 {
     for (const TestClass* const each : testClasses()) {
@@ -115,6 +128,7 @@ int main(int argc, char* argv[])
         QCoreApplication::setAttribute(Qt::AA_Use96Dpi);
         const QApplication application(argc, argv);
         failures += testsupport::runAll(Application::Widgets, arguments);
+        testsupport::lookForLeaks();
     }
     if (failures > 0) {
         return 1;

@@ -34,6 +34,8 @@ Document::Document(QObject* parent)
 
 Document::~Document()
 {
+    // Who listens to the history may have gone in part: the window that this is a child of.
+    edits.blockSignals(true);
     // Nodes and edits point into the document, which the list takes with it.
     edits.clear();
     features.reset();

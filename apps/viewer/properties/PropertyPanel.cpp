@@ -59,7 +59,11 @@ PropertyPanel::PropertyPanel(Document& document, QWidget* parent)
     follow();
 }
 
-PropertyPanel::~PropertyPanel() = default;
+PropertyPanel::~PropertyPanel()
+{
+    // An editor that is open enters what it holds as long as it can.
+    hide();
+}
 
 void PropertyPanel::makeHeader()
 {

@@ -74,7 +74,11 @@ AttributeTable::AttributeTable(Document& document, QWidget* parent)
     connect(&document.model(), &QAbstractItemModel::rowsAboutToBeRemoved, this, &AttributeTable::stop);
 }
 
-AttributeTable::~AttributeTable() = default;
+AttributeTable::~AttributeTable()
+{
+    // An editor that is open enters what it holds as long as it can.
+    hide();
+}
 
 void AttributeTable::makeHeader()
 {

@@ -58,6 +58,9 @@ CityView::CityView(Document& document, SceneLink& link, QWidget* parent)
 
 CityView::~CityView()
 {
+    if (context() != nullptr) {
+        disconnect(context(), &QOpenGLContext::aboutToBeDestroyed, this, &CityView::releaseScene);
+    }
     releaseScene();
 }
 

@@ -76,6 +76,8 @@ MainWindow::MainWindow(QWidget* parent)
 
 MainWindow::~MainWindow()
 {
+    // What loses the keyboard tells those who are still there.
+    hide();
     // They show the document, which is a child of this like them, and an older one.
     fileCommands.reset();
     qDeleteAll(panels);
