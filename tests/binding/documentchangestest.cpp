@@ -7,7 +7,10 @@
 #include "citygml/ReadingThreads.h"
 #include "core/CityModelType.hxx"
 #include "energy/poly_isLandmarked.hxx"
+#include "gml/BoundingShapeType.hxx"
 #include "gml/CodeType.hxx"
+#include "gml/DirectPositionType.hxx"
+#include "gml/EnvelopeType.hxx"
 #include "gml/FeaturePropertyType.hxx"
 #include "gml/LengthType.hxx"
 #include "platform/binding/kept/KeptContent.h"
@@ -477,6 +480,74 @@ private slots:
         std::shuffle(shuffled.begin(), shuffled.end(), std::mt19937(1));
         const QByteArray expected = documentText(shuffled.join() + '\n');
         QCOMPARE(write(*read(saved(original, *read(expected)))), write(*read(expected)));
+    }
+
+    void everyEditInAChildIsSeen_data()
+    {
+        QTest::addColumn<Edit>("edit");
+        const auto add = [](const char* name, const std::function<void(bldg::BuildingType&)>& edit) {
+            QTest::newRow(name) << Edit(
+                [edit](core::CityModelType& document) { edit(buildingIn(document, 2)); });
+        };
+        using citygml::binding::KeptContent;
+        add("text", [](bldg::BuildingType& b) { b.class_(gml::CodeType("2")); });
+        add("code space", [](bldg::BuildingType& b) { b.class_()->codeSpace("d"); });
+        add("comment", [](bldg::BuildingType& b) { KeptContent::find(b)->node(0)->xml = "<!--b-->"; });
+        add("unknown attribute",
+            [](bldg::BuildingType& b) { KeptContent::find(b)->attribute(0)->value = "b"; });
+        add("number of a list",
+            [](bldg::BuildingType& b) { (*b.boundedBy()->Envelope()->lowerCorner())[1] = 5; });
+        add("sign of a zero",
+            [](bldg::BuildingType& b) { (*b.boundedBy()->Envelope()->lowerCorner())[0] = -0.0; });
+        add("further entry", [](bldg::BuildingType& b) { b.function().push_back(gml::CodeType("f")); });
+        add("without entry", [](bldg::BuildingType& b) { b.function().clear(); });
+        add("required attribute", [](bldg::BuildingType& b) {
+            citygml::Member(*b.measuredHeight(), b.measuredHeight()->uom()).clear();
+        });
+        QTest::newRow("element that a program made") << Edit([](core::CityModelType& document) {
+            gml::FeaturePropertyType member;
+            member._Feature(buildingIn(document, 2));
+            document.featureMember().erase(document.featureMember().begin() + 2);
+            document.featureMember().push_back(member);
+        });
+    }
+
+    /// In a child that is not there while texts are compared if nothing is edited in it.
+    void everyEditInAChildIsSeen()
+    {
+        QFETCH(Edit, edit);
+        QByteArray members;
+        for (const char* const id : {"a", "b", "c"}) {
+            members += buildingMember(
+                           "<gml:boundedBy><gml:Envelope><gml:lowerCorner>0 1 2</gml:lowerCorner>"
+                           "<gml:upperCorner>2 3 4</gml:upperCorner></gml:Envelope></gml:boundedBy>"
+                           "<bldg:class codeSpace='c'>1</bldg:class><!--a--><bldg:function>1</bldg:function>"
+                           "<bldg:measuredHeight uom='m'>1.50</bldg:measuredHeight>",
+                           id)
+                           .replace("<bldg:Building ", "<bldg:Building x:a='a' ");
+        }
+        const QByteArray original = documentText(members);
+        const Document document = read(original);
+        edit(*document);
+        const QByteArray plain = write(*document);
+        QCOMPARE(write(*read(saved(original, *document))), plain);
+        QVERIFY(write(*read(original)) != plain);
+    }
+
+    void aChildMayDeclareItsOwnPrefix()
+    {
+        QByteArray members;
+        for (const char* const id : {"a", "b", "c"}) {
+            members += buildingMember("<bldg:class>1</bldg:class>", id)
+                           .replace("core:cityObjectMember>", "c:cityObjectMember>")
+                           .replace("<c:cityObjectMember",
+                                    "<c:cityObjectMember xmlns:c='http://www.opengis.net/citygml/2.0'");
+        }
+        const QByteArray original = documentText(members);
+        const Document document = read(original);
+        QCOMPARE(saved(original, *document), original);
+        buildingIn(*document).class_(gml::CodeType("2"));
+        QCOMPARE(saved(original, *document), QByteArray(original).replace(original.indexOf(">1<"), 3, ">2<"));
     }
 
     void whatIsNoOriginalIsNotCopied_data()
