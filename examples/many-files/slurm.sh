@@ -3,8 +3,9 @@
 #
 #   slurm.sh TILES OUT [TILES-A-TASK]
 #
-# All machines see the folders under the same names. The script waits for the end. What a task says is in OUT/log,
-# and the numbers of the tiles that could not be done are in OUT/failed.txt.
+# A tile that cannot be done is tried once more, for a process that was killed. All machines see the folders under the
+# same names. The script waits for the end. What a task says is in OUT/log, and the numbers of the tiles that could not
+# be done are in OUT/failed.txt.
 set -euo pipefail
 
 step=$(realpath -- "$(dirname -- "${BASH_SOURCE[0]}")/step.sh")
@@ -24,7 +25,7 @@ each_tile() {
 #!/usr/bin/env bash
 last=\$((SLURM_ARRAY_TASK_ID * $each < $count ? SLURM_ARRAY_TASK_ID * $each : $count))
 for number in \$(seq \$(((SLURM_ARRAY_TASK_ID - 1) * $each + 1)) "\$last"); do
-    "$step" $1 "$out" "\$number" || echo "\$number" >>"$out/failed.txt"
+    "$step" $1 "$out" "\$number" || "$step" $1 "$out" "\$number" || echo "\$number" >>"$out/failed.txt"
 done
 END
 }

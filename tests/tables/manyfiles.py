@@ -3,12 +3,15 @@
 They are the tables that one process makes of all tiles, although a tile is broken and a process is killed. Ends with
 77 where what HOW needs is not installed.
 """
+import contextlib
 import filecmp
 import os
 import shutil
 import subprocess
 import sys
 import tempfile
+
+from slurmcluster import ClusterError, SlurmCluster
 
 # Stands in for the program: it dies the first time that it comes to one of the tiles.
 MORTAL = """#!/bin/bash
@@ -32,7 +35,18 @@ def command(how, scripts):
             if run([python, "-c", "import distributed"]).returncode == 0:
                 return [python, os.path.join(scripts, "dask_tables.py")]
         return None
-    return [os.path.join(scripts, how + ".sh")] if shutil.which(how) else None
+    program = {"slurm": "sbatch"}.get(how, how)
+    return [os.path.join(scripts, how + ".sh")] if shutil.which(program) else None
+
+
+@contextlib.contextmanager
+def surroundings(how, folder):
+    """The environment in which the script runs."""
+    if how != "slurm":
+        yield os.environ
+        return
+    with SlurmCluster(folder) as cluster:
+        yield cluster.environment
 
 
 def main():
@@ -41,7 +55,13 @@ def main():
     if script is None:
         print(f"what {how} needs is not installed")
         return 77
-    with tempfile.TemporaryDirectory() as folder:
+    with contextlib.ExitStack() as stack:
+        folder = stack.enter_context(tempfile.TemporaryDirectory())
+        try:
+            environment = stack.enter_context(surroundings(how, os.path.join(folder, "cluster")))
+        except ClusterError as error:
+            print(error)
+            return 77
         tiles, whole, out = (os.path.join(folder, name) for name in ("tiles", "whole", "out"))
         os.mkdir(tiles)
         subprocess.run([tiles_program, count, tiles], check=True)
@@ -53,11 +73,11 @@ def main():
             file.write(MORTAL.format(flag=os.path.join(folder, "flag"), program=inspect))
         os.chmod(mortal, 0o755)
 
-        side_by_side = run([*script, tiles, out], env={**os.environ, "TOLVIK_INSPECT": mortal})
+        side_by_side = run([*script, tiles, out], env={**environment, "TOLVIK_INSPECT": mortal})
         one_by_one = run([inspect, "table", "--recursive", tiles, "--out", whole])
         for result in (side_by_side, one_by_one):
             assert result.returncode == 1, result
-            assert "tile00005.gml could not be loaded" in result.stderr, result.stderr
+            assert "tile00005.gml could not be" in result.stderr, result.stderr
         assert os.path.exists(os.path.join(folder, "flag"))
         names = sorted(os.listdir(whole))
         assert "Building.csv" in names and len(names) > 5, names
