@@ -1,7 +1,9 @@
 #include "apps/common/PropertyText.h"
 
 #include "apps/common/EditedValues.h"
+#include "apps/common/MemberText.h"
 #include "framework/CoreProperty.h"
+#include "UI/Models/CityGMLModel/properties/BoundProperty.h"
 
 #include <algorithm>
 #include <QCoreApplication>
@@ -83,6 +85,21 @@ void verifyCharacters(const QString& property, const QVariant& value)
     }
 }
 
+/// Sets a property, and leaves what stands with its value where that can be: a property by itself would leave
+/// nothing of it.
+void setLeavingTheRest(CoreProperty& property, const QVariant& value)
+{
+    auto* const bound = dynamic_cast<BoundProperty*>(&property);
+    if (bound != nullptr) {
+        citygml::Member member = bound->member();
+        const QVariant former = editedValueOf(property);
+        if (setKept(member, former, value) && isSame(property.value(), value)) {
+            return;
+        }
+    }
+    property.setValue(value);
+}
+
 } // namespace
 
 void setFromText(CoreProperty& property, const QString& text)
@@ -104,7 +121,7 @@ void setFromText(CoreProperty& property, const QString& text)
         throw EditError(Refusal::tr("%1 cannot be \"%2\"").arg(property.name(), text));
     }
     verifyCharacters(property.name(), value);
-    property.setValue(value);
+    setLeavingTheRest(property, value);
     if (!isSame(property.value(), value)) {
         throw EditError(Refusal::tr("%1 cannot be set to \"%2\"").arg(property.name(), text));
     }

@@ -13,8 +13,10 @@
 #include "UI/Models/CityGMLModel/properties/BoundProperty.h"
 #include "UI/Models/CityGMLModel/properties/GmlCorePropertyCreator.h"
 
+#include <algorithm>
 #include <QHash>
 #include <QJsonDocument>
+#include <vector>
 
 namespace tolvik::tables {
 
@@ -101,7 +103,8 @@ bool isSame(const CoreProperty& property, const CoreProperty& other)
     }
     const auto* const bound = dynamic_cast<const BoundProperty*>(&property);
     const auto* const otherBound = dynamic_cast<const BoundProperty*>(&other);
-    if (bound == nullptr || otherBound == nullptr) {
+    // Members of several namespaces may have one name.
+    if (bound == nullptr || otherBound == nullptr || property.name() != other.name()) {
         return false;
     }
     const citygml::Member member = bound->member();
@@ -200,6 +203,19 @@ CellEdit::CellEdit(CityGMLModel& model, gml::AbstractFeatureType& feature, const
                    bool hasOtherContent)
     : model(model), feature(feature), options(options), hasOtherContent(hasOtherContent)
 {
+}
+
+bool CellEdit::isSaid(const Cell& cell)
+{
+    if (cell.column.role == EditTable::Role::Name) {
+        return !feature.name().empty() && QString::fromStdString(feature.name().front()) == cell.text;
+    }
+    if (cell.column.role != EditTable::Role::Value) {
+        return false;
+    }
+    CoreProperty* const property = find(cell);
+    const bool isOfUnit = property != nullptr && (cell.unit.isEmpty() || unitOf(*property) == cell.unit);
+    return isOfUnit && isShown(property->value(), cell.text);
 }
 
 bool CellEdit::set(const Cell& cell)
@@ -382,11 +398,27 @@ CellChange CellEdit::give(CoreProperty& property, const Cell& cell)
     return change;
 }
 
+/// Whether what has been taken out of a member can be put back, as an edit that is undone does it: entries of
+/// lists have no property then, and of the lists that are empty those of texts alone are found.
+bool CellEdit::isFoundWhenAbsent(const citygml::Member& member)
+{
+    if (!member.isList()) {
+        return !member.list().isList();
+    }
+    const std::vector<citygml::Member> lists = citygml::Member::textLists(feature);
+    return std::any_of(lists.begin(), lists.end(), [&member](const citygml::Member& list) {
+        return &list.object() == &member.object() && list.name() == member.name();
+    });
+}
+
 CellEdit::Outcome CellEdit::remove(CoreProperty& property, const Cell& cell)
 {
     auto* const bound = dynamic_cast<BoundProperty*>(&property);
     const bool isAttribute = isGenericAttribute(property);
     if (bound == nullptr || (!isAttribute && bound->member().isRequired())) {
+        throw EditError(tr("it cannot be removed"));
+    }
+    if (isTrial && !isAttribute && !isFoundWhenAbsent(bound->member())) {
         throw EditError(tr("it cannot be removed"));
     }
     CellChange change;

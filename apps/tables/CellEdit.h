@@ -1,6 +1,7 @@
 #pragma once
 
 #include "apps/tables/EditTable.h"
+#include "citygml/Member.h"
 #include "fondo/RefPtr.h"
 #include "framework/CoreProperty.h"
 
@@ -71,6 +72,8 @@ public:
     CellEdit(CityGMLModel& model, gml::AbstractFeatureType& feature, const ImportOptions& options,
              bool hasOtherContent);
 
+    /// Whether the document says what the cell says, so that there is nothing to set.
+    bool isSaid(const Cell& cell);
     /// \return whether the document has changed
     /// \throws EditError where the cell cannot be set; the document is as before then
     bool set(const Cell& cell);
@@ -88,6 +91,7 @@ private:
     Outcome rename(const Cell& cell);
     Outcome change(CoreProperty& property, const Cell& cell);
     CellChange give(CoreProperty& property, const Cell& cell);
+    bool isFoundWhenAbsent(const citygml::Member& member);
     Outcome remove(CoreProperty& property, const Cell& cell);
     Outcome create(const Cell& cell);
     QVector<ColumnPath::Step> placeOf(const CoreProperty& property);

@@ -161,8 +161,8 @@ QVector<TableImport::CellPlace> TableImport::withoutContradictions(const QVector
     return agreed;
 }
 
-/// Does a step for each cell that says something of a feature, and notes what is wrong with it.
-void TableImport::forEachCell(const gml::AbstractFeatureType& feature, const QString& file,
+/// Does a step for each cell that says something new of a feature, and notes what is wrong with it.
+void TableImport::forEachCell(const gml::AbstractFeatureType& feature, const QString& file, CellEdit& edit,
                               const EachCell& step)
 {
     if (!feature.id().present()) {
@@ -172,17 +172,38 @@ void TableImport::forEachCell(const gml::AbstractFeatureType& feature, const QSt
     for (const Place& row : rows) {
         noteMatch(row, file);
     }
-    for (const CellPlace& place : cellsOf(rows)) {
-        const EditTable::Column& column = tableOf(place.row).columns[place.column];
-        const CellType type = types[static_cast<std::size_t>(place.row.table)][place.column];
-        const QString unit = column.unitColumn >= 0 ? rowOf(place.row).cells[column.unitColumn] : column.unit;
+    const auto attempt = [this](const CellPlace& place, const auto& work) {
         try {
-            step(place, {column, type, unit, textOf(place), tableOf(place.row).groupDepth,
-                         rowOf(place.row).ordinal});
+            work(cellAt(place));
         } catch (const apps::EditError& error) {
-            tell(place.row, column.name, QString::fromUtf8(error.what()));
+            tell(place.row, tableOf(place.row).columns[place.column].name, QString::fromUtf8(error.what()));
         }
+    };
+    // All are compared first: a table may tell of a thing in two columns, of which people change one.
+    QVector<CellPlace> news;
+    for (const CellPlace& place : cellsOf(rows)) {
+        attempt(place, [&](const CellEdit::Cell& cell) {
+            if (!edit.isSaid(cell)) {
+                news += place;
+            }
+        });
     }
+    for (const CellPlace& place : qAsConst(news)) {
+        attempt(place, [&](const CellEdit::Cell& cell) { step(place, cell); });
+    }
+}
+
+CellEdit::Cell TableImport::cellAt(const CellPlace& place) const
+{
+    const EditTable& table = tableOf(place.row);
+    const EditTable::Row& row = rowOf(place.row);
+    const EditTable::Column& column = table.columns[place.column];
+    return {column,
+            types[static_cast<std::size_t>(place.row.table)][place.column],
+            column.unitColumn >= 0 ? row.cells[column.unitColumn] : column.unit,
+            textOf(place),
+            table.groupDepth,
+            row.ordinal};
 }
 
 qint64 TableImport::apply(CityGMLModel& model, const QString& file)
@@ -192,7 +213,7 @@ qint64 TableImport::apply(CityGMLModel& model, const QString& file)
     for (int number = 0; number < count; ++number) {
         gml::AbstractFeatureType& feature = *model.getFeature(number);
         CellEdit edit(model, feature, options, hasOtherContent);
-        forEachCell(feature, file,
+        forEachCell(feature, file, edit,
                     [&](const CellPlace&, const CellEdit::Cell& cell) { changes += edit.set(cell) ? 1 : 0; });
     }
     if (changes > 0) {
@@ -206,7 +227,7 @@ void TableImport::plan(CityGMLModel& model, int number, const QString& file,
 {
     gml::AbstractFeatureType& feature = *model.getFeature(number);
     CellEdit edit(model, feature, options, hasOtherContent);
-    forEachCell(feature, file, [&](const CellPlace& place, const CellEdit::Cell& cell) {
+    forEachCell(feature, file, edit, [&](const CellPlace& place, const CellEdit::Cell& cell) {
         if (const std::optional<CellChange> change = edit.plan(cell)) {
             const QString column = cell.ordinal == 0
                                        ? cell.column.name

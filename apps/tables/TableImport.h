@@ -102,7 +102,9 @@ private:
     void noteMatch(const Place& place, const QString& file);
     QVector<CellPlace> cellsOf(const QVector<Place>& rows);
     QVector<CellPlace> withoutContradictions(const QVector<CellPlace>& cells);
-    void forEachCell(const gml::AbstractFeatureType& feature, const QString& file, const EachCell& step);
+    CellEdit::Cell cellAt(const CellPlace& place) const;
+    void forEachCell(const gml::AbstractFeatureType& feature, const QString& file, CellEdit& edit,
+                     const EachCell& step);
 
     std::vector<EditTable> tables;
     const ImportOptions options;

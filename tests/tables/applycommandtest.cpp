@@ -303,6 +303,30 @@ private slots:
         QCOMPARE(text.count("<bldg:roofType>1000<"), 1);
     }
 
+    void whatStandsWithAValueStays()
+    {
+        QVERIFY(writeFile(path("a.gml"),
+                          documentText(buildingMember("<gml:name codeSpace='n'>Old</gml:name>"
+                                                      "<bldg:class codeSpace='c'>1000</bldg:class>"
+                                                      "<bldg:function codeSpace='f'>1000</bldg:function>",
+                                                      "one"))));
+        const ProcessResult result =
+            apply("gml:id,name,Fields/Class,Fields/Function\none,New,1010,\"[\"\"1010\"\"]\"\n");
+        QCOMPARE(result.err, QByteArray());
+        QCOMPARE(written(">1010<", ">1000<").replace(">New<", ">Old<"), contentOf(path("a.gml")));
+        QCOMPARE(contentOf(path("out.gml")).count(">1010<"), 2);
+    }
+
+    void oneOfTwoColumnsOfAThingCanBeChanged()
+    {
+        QVERIFY(writeFile(path("a.gml"), documentText(buildingMember("<gml:name>Old</gml:name>", "one"))));
+        QCOMPARE(apply("gml:id,name,Fields/Name\none,New,\"[\"\"Old\"\"]\"\n").err, QByteArray());
+        QCOMPARE(written(">New<", ">Old<"), contentOf(path("a.gml")));
+        QVERIFY(contentOf(path("out.gml")).contains(">New<"));
+        QCOMPARE(apply("gml:id,name,Fields/Name\none,Old,\"[\"\"New\"\"]\"\n").err, QByteArray());
+        QVERIFY(contentOf(path("out.gml")).contains(">New<"));
+    }
+
     void equalAttributesGoEachByItself()
     {
         const QByteArray note = "<gen:stringAttribute name='note'><gen:value>";

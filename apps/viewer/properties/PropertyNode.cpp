@@ -1,7 +1,7 @@
 #include "apps/viewer/properties/PropertyNode.h"
 
+#include "apps/common/MemberText.h"
 #include "apps/viewer/edits/GenericAttributes.h"
-#include "apps/viewer/edits/MemberText.h"
 #include "apps/viewer/properties/AddressText.h"
 #include "framework/AbstractUnit.h"
 #include "UI/Models/CityGMLModel/properties/BoundProperty.h"
@@ -24,8 +24,8 @@ void readProperty(CoreProperty& property, PropertyNode& node)
 {
     node.isBound = isBoundProperty(property);
     node.isEditable = node.isBound && property.editable();
-    node.value = editedValueOf(property);
-    node.offered = offeredValueOf(property);
+    node.value = apps::editedValueOf(property);
+    node.offered = apps::offeredValueOf(property);
     node.choices = property.potentialValues();
     node.isPresent = !node.isBound || node.value.isValid();
     if (const auto* const bound = dynamic_cast<const BoundProperty*>(&property)) {

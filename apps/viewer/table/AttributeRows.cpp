@@ -1,6 +1,6 @@
 #include "apps/viewer/table/AttributeRows.h"
 
-#include "apps/viewer/edits/MemberText.h"
+#include "apps/common/MemberText.h"
 #include "framework/AbstractUnit.h"
 #include "gml/AbstractFeatureType.hxx"
 #include "UI/Models/CityGMLModel/CityGMLModel.h"
@@ -27,8 +27,8 @@ AttributeCell cellOf(CoreProperty& property)
     const bool isBound = typeid(property) != typeid(CoreProperty);
     AttributeCell cell;
     cell.isThere = true;
-    cell.value = editedValueOf(property);
-    cell.offered = offeredValueOf(property);
+    cell.value = apps::editedValueOf(property);
+    cell.offered = apps::offeredValueOf(property);
     cell.choices = property.potentialValues();
     cell.isEditable = isBound && property.editable();
     const auto* const bound = dynamic_cast<const BoundProperty*>(&property);
@@ -111,7 +111,7 @@ QVector<AttributeCell> AttributeRows::valuesOf(int row, int firstColumn, int las
     const Fondo::RefPtr<CoreProperty> tree = treeOf(*feature);
     for (int column = firstColumn; column <= lastColumn; ++column) {
         if (CoreProperty* const property = findProperty(*tree, columns[column])) {
-            cells[column].value = editedValueOf(*property);
+            cells[column].value = apps::editedValueOf(*property);
             cells[column].unit = unitOf(*property);
         }
     }

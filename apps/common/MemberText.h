@@ -8,7 +8,7 @@ namespace tolvik {
 class CoreProperty;
 }
 
-namespace tolvik::viewer {
+namespace tolvik::apps {
 
 /// The value of a property as people edit it: of a duration its text, as the property makes a calendar date
 /// of it, and of everything else what the property answers.
@@ -26,4 +26,4 @@ QVariant offeredValueOf(CoreProperty& property);
 /// \return false where the member does not take the value so. It may have changed then.
 bool setKept(citygml::Member& member, const QVariant& former, const QVariant& value);
 
-} // namespace tolvik::viewer
+} // namespace tolvik::apps

@@ -1,4 +1,4 @@
-#include "apps/viewer/edits/MemberText.h"
+#include "apps/common/MemberText.h"
 
 #include "UI/Models/CityGMLModel/properties/BoundProperty.h"
 
@@ -8,7 +8,7 @@
 #include <QRegularExpression>
 #include <QStringList>
 
-namespace tolvik::viewer {
+namespace tolvik::apps {
 
 namespace {
 
@@ -131,4 +131,4 @@ bool setKept(citygml::Member& member, const QVariant& former, const QVariant& va
     return member.setText(textOf(value, formerText).toStdString());
 }
 
-} // namespace tolvik::viewer
+} // namespace tolvik::apps
