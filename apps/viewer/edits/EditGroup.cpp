@@ -53,27 +53,32 @@ void EditGroup::addMaker()
 QString EditGroup::perform(int number)
 {
     QString refusal;
-    Feature feature;
-    feature.edits = make(number, refusal);
+    Edits edits = make(number, refusal);
     if (!refusal.isEmpty()) {
-        undoAll(feature.edits);
-    } else if (!feature.edits.empty()) {
-        changed.push_back(std::move(feature));
+        undoAll(edits);
+    } else if (!edits.empty()) {
+        changed.push_back(std::move(edits));
+        done = changed.size();
     }
     return refusal;
 }
 
+/// Goes back from the last feature to the first, and forth from the first to the last: a feature may be a
+/// part of what was kept of another one.
 void EditGroup::turn(int change)
 {
-    Feature& feature = changed[static_cast<std::size_t>(change)];
-    if (feature.isDone) {
-        undoAll(feature.edits);
-    } else {
-        for (const auto& edit : feature.edits) {
-            edit->redo();
-        }
+    if (change == 0) {
+        const bool isBetween = done > 0 && done < changed.size();
+        isGoingBack = isBetween ? !isGoingBack : done > 0;
     }
-    feature.isDone = !feature.isDone;
+    if (isGoingBack) {
+        undoAll(changed[--done]);
+        return;
+    }
+    for (const auto& edit : changed[done]) {
+        edit->redo();
+    }
+    ++done;
 }
 
 QString EditGroup::kind() const
@@ -84,9 +89,9 @@ QString EditGroup::kind() const
 QJsonObject EditGroup::record() const
 {
     QJsonArray features;
-    for (const Feature& feature : changed) {
+    for (const Edits& edits : changed) {
         QJsonArray records;
-        for (const auto& edit : feature.edits) {
+        for (const auto& edit : edits) {
             records += QJsonObject{{"kind", edit->kind()}, {"edit", edit->record()}};
         }
         features += records;

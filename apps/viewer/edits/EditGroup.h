@@ -35,15 +35,11 @@ protected:
     void endWalk() override;
 
 private:
-    struct Feature
-    {
-        Edits edits;
-        bool isDone = true;
-    };
-
     const int count;
     Maker make; // until the edits are done for the first time
-    std::vector<Feature> changed;
+    std::vector<Edits> changed;
+    std::size_t done = 0; // number of those that are done, from the first on
+    bool isGoingBack = false;
 };
 
 } // namespace tolvik::viewer

@@ -123,11 +123,6 @@ gen::AbstractGenericAttributeType* attributeAround(const citygml::Member& value)
     return dynamic_cast<Attribute*>(&value.object());
 }
 
-void removeAttribute(gen::AbstractGenericAttributeType& attribute)
-{
-    citygml::Member::holding(attribute).clear();
-}
-
 void renameAttribute(gen::AbstractGenericAttributeType& attribute, const QString& name)
 {
     attribute.name(xml_schema::string(name.toStdString()));

@@ -38,9 +38,6 @@ bool addAttribute(citygml::Member& attributes, AttributeType type, const QString
 /// \return null where it is none
 gen::AbstractGenericAttributeType* attributeAround(const citygml::Member& value);
 
-/// Takes an attribute out of its feature or set. Its object is gone then.
-void removeAttribute(gen::AbstractGenericAttributeType& attribute);
-
 /// Gives an attribute another name.
 void renameAttribute(gen::AbstractGenericAttributeType& attribute, const QString& name);
 

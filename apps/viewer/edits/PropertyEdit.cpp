@@ -1,9 +1,9 @@
 #include "apps/viewer/edits/PropertyEdit.h"
 
 #include "apps/common/EditedValues.h"
+#include "apps/common/MemberText.h"
 #include "apps/viewer/document/Document.h"
 #include "apps/viewer/edits/GenericAttributes.h"
-#include "apps/viewer/edits/MemberText.h"
 #include "apps/viewer/features/FeatureTexts.h"
 #include "citygml/MemberUnit.h"
 #include "gen/AbstractGenericAttributeType.hxx"
@@ -117,6 +117,9 @@ QString PropertyEdit::perform(int number)
     if (!member || isAlreadyDone(*member)) {
         return QString();
     }
+    if (isOfEntry()) {
+        return performOnEntry(feature, *member->member());
+    }
     const MemberPlace lasting = member->lastingPlace(feature, editedPlace());
     const bool isLost = member->isLostWhenEmpty(feature);
     const CapturedState before = member->capture();
@@ -128,7 +131,30 @@ QString PropertyEdit::perform(int number)
         member->restore(before);
         return refusal;
     }
-    changed.push_back({locator().addressOf(feature), lasting, before});
+    changed.push_back({locator().addressOf(feature), lasting, before, std::nullopt, false});
+    announce(feature);
+    return QString();
+}
+
+/// Adds an attribute, or takes one out, as an entry of the list of them all.
+QString PropertyEdit::performOnEntry(gml::AbstractFeatureType& feature, citygml::Member& attributes)
+{
+    Change change{locator().addressOf(feature), editedPlace(), CapturedState(), attributes.size(), false};
+    if (action == AddAttribute) {
+        const QString refusal = addAttributeTo(attributes);
+        if (!refusal.isEmpty()) {
+            return refusal;
+        }
+    } else {
+        gen::AbstractGenericAttributeType* const attribute = attributeOf(feature);
+        if (attribute == nullptr) {
+            return tr("%1 is not a generic attribute.").arg(toString(place.path));
+        }
+        change.entry = citygml::Member::holding(*attribute).position();
+        change.other.member = attributes.take(*change.entry);
+        change.isOut = true;
+    }
+    changed.push_back(change);
     announce(feature);
     return QString();
 }
@@ -139,12 +165,20 @@ void PropertyEdit::turn(int change)
     gml::AbstractFeatureType* const feature = locator().find(turned.feature);
     std::optional<EditedMember> member =
         feature != nullptr ? EditedMember::find(document.model(), *feature, turned.place) : std::nullopt;
-    if (member) {
+    if (!member) {
+        return;
+    }
+    if (!turned.entry) {
         const CapturedState now = member->capture();
         member->restore(turned.other);
         turned.other = now;
-        announce(*feature);
+    } else if (turned.isOut) {
+        turned.isOut = !member->member()->put(*turned.entry, turned.other.member);
+    } else {
+        turned.other.member = member->member()->take(*turned.entry);
+        turned.isOut = true;
     }
+    announce(*feature);
 }
 
 void PropertyEdit::endWalk()
@@ -194,15 +228,24 @@ bool PropertyEdit::hasValue(const EditedMember& member) const
 {
     // A link is entered as a text.
     const std::optional<std::string> text = member.member() ? member.member()->text() : std::nullopt;
-    return editedValueOf(*member.property()) == value ||
+    return apps::editedValueOf(*member.property()) == value ||
            (value.userType() == QMetaType::QString && text == value.toString().toStdString());
+}
+
+/// Refuses what no XML document can hold.
+QString PropertyEdit::refusalOfCharacters() const
+{
+    const auto character = apps::characterOutsideXml(value);
+    return character ? tr("XML has no character U+%1.").arg(QString::number(*character, 16).toUpper(), 4, '0')
+                     : QString();
 }
 
 /// \return why it is refused, or nothing. The member may have changed then.
 QString PropertyEdit::performOn(gml::AbstractFeatureType& feature, EditedMember& member) const
 {
-    if (const auto character = apps::characterOutsideXml(value)) {
-        return tr("XML has no character U+%1.").arg(QString::number(*character, 16).toUpper(), 4, '0');
+    const QString refusal = refusalOfCharacters();
+    if (!refusal.isEmpty()) {
+        return refusal;
     }
     switch (action) {
     case SetValue:
@@ -213,16 +256,11 @@ QString PropertyEdit::performOn(gml::AbstractFeatureType& feature, EditedMember&
         return member.member()->add(value.toString().toStdString())
                    ? QString()
                    : tr("\"%1\" cannot be an entry of this list.").arg(value.toString());
-    case AddAttribute: {
-        const QVariantList parts = value.toList();
-        const bool isAdded =
-            addAttribute(*member.member(), static_cast<AttributeType>(parts.value(0).toInt()),
-                         parts.value(1).toString(), parts.value(2), parts.value(3).toString());
-        return isAdded ? QString() : tr("The feature can have no such attribute.");
-    }
     case RenameAttribute:
+        return renameAttributeOf(feature);
+    case AddAttribute:
     case RemoveAttribute:
-        return changeAttribute(feature);
+        break;
     case SetMeasure:
         return setMeasure(member);
     }
@@ -232,14 +270,12 @@ QString PropertyEdit::performOn(gml::AbstractFeatureType& feature, EditedMember&
 QString PropertyEdit::setValue(EditedMember& member) const
 {
     CoreProperty& property = *member.property();
-    if (!property.editable()) {
-        return tr("%1 cannot be changed.").arg(property.name());
-    }
     const QVariantList choices = property.potentialValues();
     const bool isList = value.userType() == QMetaType::QVariantList;
     const bool isAllowed = (choices.isEmpty() || choices.contains(value)) &&
                            (!isList || !isOneText(member) || apps::areWords(value.toList()));
-    if (isAllowed && member.member() && setKept(*member.member(), editedValueOf(property), value)) {
+    if (isAllowed && member.member() &&
+        apps::setKept(*member.member(), apps::editedValueOf(property), value)) {
         return QString();
     }
     if (isAllowed) {
@@ -274,21 +310,33 @@ QString PropertyEdit::makeAbsent(EditedMember& member) const
     return QString();
 }
 
-/// Renames or removes the generic attribute of the property.
-QString PropertyEdit::changeAttribute(gml::AbstractFeatureType& feature) const
+QString PropertyEdit::addAttributeTo(citygml::Member& attributes) const
+{
+    const QString refusal = refusalOfCharacters();
+    if (!refusal.isEmpty()) {
+        return refusal;
+    }
+    const QVariantList parts = value.toList();
+    const bool isAdded = addAttribute(attributes, static_cast<AttributeType>(parts.value(0).toInt()),
+                                      parts.value(1).toString(), parts.value(2), parts.value(3).toString());
+    return isAdded ? QString() : tr("The feature can have no such attribute.");
+}
+
+/// The generic attribute of the property; null where it is of none.
+gen::AbstractGenericAttributeType* PropertyEdit::attributeOf(gml::AbstractFeatureType& feature) const
 {
     const std::optional<EditedMember> shown = EditedMember::find(document.model(), feature, place);
     const auto* const bound = shown ? dynamic_cast<const BoundProperty*>(shown->property()) : nullptr;
-    gen::AbstractGenericAttributeType* const attribute =
-        bound != nullptr ? attributeAround(bound->member()) : nullptr;
+    return bound != nullptr ? attributeAround(bound->member()) : nullptr;
+}
+
+QString PropertyEdit::renameAttributeOf(gml::AbstractFeatureType& feature) const
+{
+    gen::AbstractGenericAttributeType* const attribute = attributeOf(feature);
     if (attribute == nullptr) {
         return tr("%1 is not a generic attribute.").arg(toString(place.path));
     }
-    if (action == RenameAttribute) {
-        renameAttribute(*attribute, value.toString());
-    } else {
-        removeAttribute(*attribute);
-    }
+    renameAttribute(*attribute, value.toString());
     return QString();
 }
 

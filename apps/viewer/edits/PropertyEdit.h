@@ -5,9 +5,14 @@
 #include "apps/viewer/edits/FeatureAddress.h"
 
 #include <memory>
+#include <optional>
 #include <QCoreApplication>
 #include <QVariant>
 #include <vector>
+
+namespace gen {
+class AbstractGenericAttributeType;
+}
 
 namespace tolvik::viewer {
 
@@ -64,6 +69,12 @@ private:
         FeatureAddress feature;
         MemberPlace place;
         CapturedState other; ///< what the member said before the edit, or after it when it is undone
+        /// Of an attribute that comes or goes its place among the others, and whether it is out of the
+        /// document, in `other`. The others stay the objects that they are, with the features in them.
+        /// @{
+        std::optional<std::size_t> entry;
+        bool isOut = false;
+        /// @}
     };
 
     PropertyEdit(Document& document, Features features, Action action, const MemberPlace& place,
@@ -75,9 +86,14 @@ private:
     bool hasValue(const EditedMember& member) const;
     QString performOn(gml::AbstractFeatureType& feature, EditedMember& member) const;
     QString setValue(EditedMember& member) const;
+    QString refusalOfCharacters() const;
     QString setMeasure(EditedMember& member) const;
     QString makeAbsent(EditedMember& member) const;
-    QString changeAttribute(gml::AbstractFeatureType& feature) const;
+    bool isOfEntry() const { return action == AddAttribute || action == RemoveAttribute; }
+    QString performOnEntry(gml::AbstractFeatureType& feature, citygml::Member& attributes);
+    QString addAttributeTo(citygml::Member& attributes) const;
+    gen::AbstractGenericAttributeType* attributeOf(gml::AbstractFeatureType& feature) const;
+    QString renameAttributeOf(gml::AbstractFeatureType& feature) const;
     void nameEdit();
 
     Document& document;

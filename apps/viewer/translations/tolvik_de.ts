@@ -1364,10 +1364,6 @@ height&gt;3, function=1000 für Attribute. Eingabe führt zum nächsten Treffer.
         <translation>Das Objekt kann kein solches Attribut haben.</translation>
     </message>
     <message>
-        <source>%1 cannot be changed.</source>
-        <translation>%1 kann nicht geändert werden.</translation>
-    </message>
-    <message>
         <source>%1 cannot be &quot;%2&quot;.</source>
         <translation>%1 kann nicht „%2“ sein.</translation>
     </message>

@@ -1364,10 +1364,6 @@ height&gt;3, function=1000 pour les attributs. Entrée mène au résultat suivan
         <translation>L’objet ne peut pas avoir un tel attribut.</translation>
     </message>
     <message>
-        <source>%1 cannot be changed.</source>
-        <translation>%1 ne peut pas être modifié.</translation>
-    </message>
-    <message>
         <source>%1 cannot be &quot;%2&quot;.</source>
         <translation>%1 ne peut pas être « %2 ».</translation>
     </message>
