@@ -82,7 +82,7 @@ def main():
         names = sorted(os.listdir(whole))
         assert "Building.csv" in names and len(names) > 5, names
         different = filecmp.cmpfiles(whole, out, names, shallow=False)[1:]
-        assert different == ([], []), different
+        assert different == ([], []), f"{different}\n{side_by_side.stderr[-2000:]}"
         with open(os.path.join(whole, "Building.csv"), encoding="utf-8") as table:
             assert len(table.readlines()) == 1 + 2 * (int(count) - 1)
     return 0
