@@ -534,6 +534,16 @@ private slots:
         QVERIFY(write(*read(original)) != plain);
     }
 
+    void aCommentBetweenChildrenIsCompared()
+    {
+        const QByteArray original = documentText(buildingMember("", "a") + buildingMember("", "b") +
+                                                 "<!-- <a> -->" + buildingMember("", "c"));
+        const Document document = read(original);
+        QCOMPARE(saved(original, *document), original);
+        citygml::binding::KeptContent::find(*document)->node(0)->xml = "<!--b-->";
+        QCOMPARE(saved(original, *document), QByteArray(original).replace("<!-- <a> -->", "<!--b-->"));
+    }
+
     void aChildMayDeclareItsOwnPrefix()
     {
         QByteArray members;
