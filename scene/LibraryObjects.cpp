@@ -18,7 +18,7 @@ using Corners = std::vector<Position>;
 constexpr qint64 largestFile = 256 * 1024 * 1024;
 
 /// Three numbers of a line, behind its first word.
-Position positionOf(const QList<QByteArray>& words)
+Position readPosition(const QList<QByteArray>& words)
 {
     return {words[1].toDouble(), words[2].toDouble(), words[3].toDouble()};
 }
@@ -32,7 +32,7 @@ public:
         while (!file.atEnd()) {
             const QList<QByteArray> words = file.readLine().simplified().split(' ');
             if (words[0] == "v" && words.size() > 3) {
-                vertices.push_back(positionOf(words));
+                vertices.push_back(readPosition(words));
             } else if (words[0] == "f") {
                 addFace(words);
             }
@@ -105,7 +105,7 @@ Corners readStl(QFile& file)
     for (const QByteArray& line : bytes.split('\n')) {
         const QList<QByteArray> words = line.simplified().split(' ');
         if (words[0] == "vertex" && words.size() > 3) {
-            corners.push_back(positionOf(words));
+            corners.push_back(readPosition(words));
         }
     }
     return corners;
