@@ -189,7 +189,7 @@ QImage CityView::picture(const QSize& size, bool isClear)
     }
     link.finish();
     makeCurrent();
-    const QImage image = renderer->picture(eye, size, drawOptions, isClear);
+    QImage image = renderer->picture(eye, size, drawOptions, isClear);
     doneCurrent();
     return image;
 }
