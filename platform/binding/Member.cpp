@@ -183,6 +183,10 @@ void copyText(xml_schema::type& target, const xml_schema::type& source, const bi
     ops.parse(target, text, SamePrefixes());
 }
 
+using Objects = std::vector<const xml_schema::type*>;
+
+void becomeAll(xml_schema::type& owner, const FlatMember& member, const Objects& objects);
+
 /// Gives an object everything that another one of its type has.
 void become(xml_schema::type& target, const xml_schema::type& source)
 {
@@ -191,27 +195,33 @@ void become(xml_schema::type& target, const xml_schema::type& source)
         copyText(target, source, *type.record()->text);
     }
     for (const FlatMember& member : type.members()) {
-        cutTo(target, member, 0);
-        for (std::size_t i = 0; i < opsOf(member).count(source); ++i) {
-            if (member.type != nullptr) {
-                opsOf(member).add(target, copyOf(opsOf(member).at(source, i)).release());
-            } else {
-                std::string text;
-                opsOf(member).format(source, i, text);
-                opsOf(member).addText(target, text);
+        const std::size_t count = opsOf(member).count(source);
+        if (member.type != nullptr) {
+            Objects objects;
+            for (std::size_t i = 0; i < count; ++i) {
+                objects.push_back(&opsOf(member).at(source, i));
             }
+            becomeAll(target, member, objects);
+            continue;
+        }
+        cutTo(target, member, 0);
+        for (std::size_t i = 0; i < count; ++i) {
+            std::string text;
+            opsOf(member).format(source, i, text);
+            opsOf(member).addText(target, text);
         }
     }
     KeptContent::copy(target, source);
 }
 
-/// Makes the objects of a member what others are, each the same object if it can be.
-void becomeAll(xml_schema::type& owner, const FlatMember& member,
-               const std::vector<std::unique_ptr<xml_schema::type>>& objects)
+/// Makes the objects of a member what others are, each the same object if it can be: others know the features
+/// among them, and those below them.
+void becomeAll(xml_schema::type& owner, const FlatMember& member, const Objects& objects)
 {
+    // An identifier that goes can be taken by what stays.
+    cutTo(owner, member, objects.size());
     std::size_t done = 0;
-    const std::size_t both = std::min(objects.size(), opsOf(member).count(owner));
-    for (; done < both; ++done) {
+    for (const std::size_t both = opsOf(member).count(owner); done < both; ++done) {
         xml_schema::type& object = objectAt(owner, member, done);
         if (typeid(object) != typeid(*objects[done])) {
             break;
@@ -491,7 +501,11 @@ bool Member::restore(const MemberState& state)
         return restoreEntry(state);
     }
     if (member.type != nullptr) {
-        becomeAll(*owner, member, content->objects);
+        Objects objects;
+        for (const auto& object : content->objects) {
+            objects.push_back(object.get());
+        }
+        becomeAll(*owner, member, objects);
     } else {
         setTexts(*owner, member, content->texts);
     }

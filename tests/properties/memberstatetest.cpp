@@ -1,9 +1,12 @@
+#include "bldg/BuildingPartPropertyType.hxx"
+#include "bldg/BuildingPartType.hxx"
 #include "bldg/BuildingType.hxx"
 #include "core/CityModelType.hxx"
 #include "energy/ThermalZoneType.hxx"
 #include "gen/StringAttributeType.hxx"
 #include "gml/AbstractFeatureType.hxx"
 #include "gml/CodeType.hxx"
+#include "gml/FeaturePropertyType.hxx"
 #include "support/ExpectedProperties.h"
 #include "support/Filler.h"
 #include "support/PropertyDump.h"
@@ -241,6 +244,25 @@ private slots:
         QVERIFY(citygml::Member(other, other.class_()).restore(class_.capture()));
         QCOMPARE(QString::fromStdString(*other.class_()), QString("1"));
         QVERIFY_EXCEPTION_THROWN(citygml::Member(other, building.class_()), std::invalid_argument);
+    }
+
+    /// Models and views hold the features that stand in a member.
+    void theObjectsStay()
+    {
+        const Document document = read(documentWithBuilding(
+            "<bldg:consistsOfBuildingPart><bldg:BuildingPart gml:id='part'><bldg:class>1</bldg:class>"
+            "<bldg:boundedBy><bldg:WallSurface gml:id='wall'/></bldg:boundedBy></bldg:BuildingPart>"
+            "</bldg:consistsOfBuildingPart>"));
+        const QByteArray before = write(*document);
+        const std::list<gml::AbstractFeatureType*> features = featuresOf(*document);
+        auto& building = dynamic_cast<bldg::BuildingType&>(*document->featureMember().front()._Feature());
+        citygml::Member parts(building, building.consistsOfBuildingPart());
+        const citygml::MemberState state = parts.capture();
+        building.consistsOfBuildingPart().front().BuildingPart()->class_(gml::CodeType("2"));
+        QVERIFY(write(*document) != before);
+        QVERIFY(parts.restore(state));
+        QCOMPARE(write(*document), before);
+        QVERIFY(featuresOf(*document) == features);
     }
 
     void listsHaveEntries()

@@ -75,8 +75,8 @@ int runAll(Application application, const QStringList& arguments)
     return failures;
 }
 
-/// Looks for leaks while the application is there: drivers that it unloads at its end leave blocks behind, and
-/// then cannot be told by their names.
+/// Looks for leaks while the application is there: drivers that it unloads at its end leave blocks behind,
+/// which cannot be told by their names then.
 void lookForLeaks()
 {
 #ifdef __SANITIZE_ADDRESS__
