@@ -12,7 +12,9 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QSettings>
 #include <QTableView>
+#include <QTemporaryDir>
 #include <QtTest>
 
 using namespace testsupport;
@@ -78,6 +80,13 @@ class AttributeTableTest : public QObject
     Q_OBJECT
 
 private slots:
+    void init()
+    {
+        settings = std::make_unique<QTemporaryDir>();
+        QSettings::setDefaultFormat(QSettings::IniFormat);
+        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings->path());
+    }
+
     void featuresOfATypeAreRows()
     {
         Table table;
@@ -174,8 +183,31 @@ private slots:
         QVERIFY(table.column("RoofType") >= 0);
         QCOMPARE(table.column("MeasuredHeight"), -1);
         table.table.showType("CityModel");
+        QCOMPARE(table.column("RoofType"), -1);
         table.table.showType("Building");
         QVERIFY(table.column("RoofType") >= 0);
+        // So it stays, also for a document of which no feature has the attribute.
+        Table next(documentText(buildingMember("", "e")));
+        QVERIFY(next.column("RoofType") >= 0);
+        QCOMPARE(next.column("MeasuredHeight"), -1);
+    }
+
+    void columnsAreMoved()
+    {
+        QStringList order;
+        {
+            Table table;
+            QHeaderView& header = *table.view().horizontalHeader();
+            header.moveSection(header.visualIndex(table.column("MeasuredHeight")), 0);
+            order = titles(table.view());
+            QCOMPARE(order.first(), QString("MeasuredHeight"));
+            QCOMPARE(order.mid(1, 2), QStringList({"Id", "Name"}));
+            table.table.showType("CityModel");
+            table.table.showType("Building");
+            QCOMPARE(titles(table.view()), order);
+        }
+        Table next;
+        QCOMPARE(titles(next.view()), order);
     }
 
     void figuresOfTheSelection()
@@ -214,6 +246,20 @@ private slots:
         QCOMPARE(rows.size(), 1);
         QCOMPARE(table.fixture.document().model().getFeature(rows[0]), &table.fixture.feature("c"));
     }
+
+private:
+    /// The names of the columns from left to right.
+    static QStringList titles(const QTableView& view)
+    {
+        QStringList titles;
+        for (int place = 0; place < view.model()->columnCount(); ++place) {
+            const int column = view.horizontalHeader()->logicalIndex(place);
+            titles += view.model()->headerData(column, Qt::Horizontal).toString();
+        }
+        return titles;
+    }
+
+    std::unique_ptr<QTemporaryDir> settings;
 };
 
 TEST_CLASS(AttributeTableTest, Widgets)

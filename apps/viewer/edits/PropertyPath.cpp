@@ -33,6 +33,24 @@ QString toString(const PropertyPath& path)
     return steps.join('/');
 }
 
+QJsonArray toJson(const PropertyPath& path)
+{
+    QJsonArray steps;
+    for (const PropertyStep& step : path) {
+        steps += QJsonArray{step.name, step.occurrence};
+    }
+    return steps;
+}
+
+PropertyPath pathFromJson(const QJsonArray& json)
+{
+    PropertyPath path;
+    for (const QJsonValue step : json) {
+        path.append({step[0].toString(), step[1].toInt()});
+    }
+    return path;
+}
+
 Fondo::RefPtr<CoreProperty> propertyTree(const CityGMLModel& model, gml::AbstractFeatureType& feature)
 {
     Fondo::RefPtr<CoreProperty> root = catalogueTree(feature);

@@ -3,6 +3,7 @@
 #include "fondo/RefPtr.h"
 #include "framework/CoreProperty.h"
 
+#include <QJsonArray>
 #include <QString>
 #include <QVector>
 
@@ -32,8 +33,14 @@ struct PropertyStep
 /// of all features of a type, and in each tree that is made anew for one: see propertyTree().
 using PropertyPath = QVector<PropertyStep>;
 
-/// The path for the eye, and a key in settings: `Fields/Function`, `Fields/Address[2]/Code`.
+/// The path for the eye: `Fields/Function`, `Fields/Address[2]/Code`.
 QString toString(const PropertyPath& path);
+
+/// The path for files and settings. Names may have any characters.
+/// @{
+QJsonArray toJson(const PropertyPath& path);
+PropertyPath pathFromJson(const QJsonArray& json);
+/// @}
 
 /// The complete property tree of a feature: absent attributes and what the providers of the model add have
 /// their properties too. Paths are those of this tree.

@@ -3,6 +3,7 @@
 #include "apps/viewer/document/Document.h"
 #include "apps/viewer/properties/ValueDelegate.h"
 #include "apps/viewer/table/ColumnsDialog.h"
+#include "apps/viewer/table/ColumnSettings.h"
 #include "gml/AbstractFeatureType.hxx"
 
 #include <algorithm>
@@ -130,6 +131,8 @@ void AttributeTable::makeTable()
     view->setTabKeyNavigation(false);
     view->horizontalHeader()->setSectionsMovable(true);
     view->horizontalHeader()->setHighlightSections(false);
+    connect(view->horizontalHeader(), &QHeaderView::sectionMoved, this,
+            [this] { setChosenColumns(type(), shownColumns()); });
     // Widths are those of the rows that are seen first: to ask for more takes long.
     view->horizontalHeader()->setResizeContentsPrecision(0);
     view->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
@@ -247,7 +250,7 @@ void AttributeTable::useType()
     for (int i = 0; i < std::min(featuresAtOnce, rows.size()); ++i) {
         AttributeRows::collectPaths(document.model(), rows[i], allColumns, usedColumns);
     }
-    setColumns(chosenColumns.value(type, firstColumns(allColumns, usedColumns)));
+    setColumns(chosenColumns(type).value_or(firstColumns(allColumns, usedColumns)));
     findColumns();
 }
 
@@ -265,19 +268,45 @@ void AttributeTable::findColumns()
 
 void AttributeTable::setColumns(const QVector<PropertyPath>& columns)
 {
-    if (columns != model->columns()) {
-        model->setColumns(columns);
-        view->resizeColumnsToContents();
+    if (columns == shownColumns()) {
+        return;
     }
+    model->setColumns(columns);
+    // The user may have moved the former ones.
+    QHeaderView* const header = view->horizontalHeader();
+    const QSignalBlocker blocker(header);
+    for (int column = 0; column < columns.size(); ++column) {
+        header->moveSection(header->visualIndex(column), column);
+    }
+    view->resizeColumnsToContents();
+}
+
+/// The columns from left to right.
+QVector<PropertyPath> AttributeTable::shownColumns() const
+{
+    QVector<PropertyPath> columns;
+    for (int place = 0; place < model->columnCount(); ++place) {
+        columns.append(model->columns()[view->horizontalHeader()->logicalIndex(place)]);
+    }
+    return columns;
 }
 
 void AttributeTable::chooseColumns()
 {
-    ColumnsDialog dialog(allColumns, model->columns(), this);
-    if (dialog.exec() == QDialog::Accepted) {
-        chosenColumns[types->currentData().toString()] = dialog.chosen();
-        setColumns(dialog.chosen());
+    const QVector<PropertyPath> former = shownColumns();
+    ColumnsDialog dialog(allColumns, former, this);
+    if (dialog.exec() != QDialog::Accepted) {
+        return;
     }
+    // Those that stay keep their order.
+    const QVector<PropertyPath> chosen = dialog.chosen();
+    QVector<PropertyPath> columns;
+    std::copy_if(former.begin(), former.end(), std::back_inserter(columns),
+                 [&chosen](const PropertyPath& path) { return chosen.contains(path); });
+    std::copy_if(chosen.begin(), chosen.end(), std::back_inserter(columns),
+                 [&former](const PropertyPath& path) { return !former.contains(path); });
+    setChosenColumns(type(), columns);
+    setColumns(columns);
 }
 
 void AttributeTable::selectFeatures()

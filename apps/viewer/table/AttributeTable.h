@@ -4,7 +4,6 @@
 #include "apps/viewer/table/AttributeTableModel.h"
 #include "apps/viewer/table/SelectionFigures.h"
 
-#include <QHash>
 #include <QTimer>
 #include <QUrl>
 #include <QWidget>
@@ -70,6 +69,7 @@ private:
     void useType();
     void findColumns();
     void setColumns(const QVector<PropertyPath>& columns);
+    QVector<PropertyPath> shownColumns() const;
     void figureSoon();
     void beginFigures();
     void figure(const CellRun& run);
@@ -88,8 +88,6 @@ private:
 
     QVector<PropertyPath> allColumns;
     QVector<bool> usedColumns;
-    /// What the user has chosen, for each type.
-    QHash<QString, QVector<PropertyPath>> chosenColumns;
     QTimer filterTimer;
     QTimer refreshTimer;
     QTimer figureTimer;

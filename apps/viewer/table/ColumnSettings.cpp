@@ -1,0 +1,43 @@
+#include "apps/viewer/table/ColumnSettings.h"
+
+#include <QJsonDocument>
+#include <QSettings>
+
+namespace tolvik::viewer {
+
+namespace {
+
+QString keyOf(const QString& type)
+{
+    return QStringLiteral("table/columns/") + type;
+}
+
+} // namespace
+
+std::optional<QVector<PropertyPath>> chosenColumns(const QString& type)
+{
+    const QByteArray text = QSettings().value(keyOf(type)).toByteArray();
+    if (text.isEmpty()) {
+        return std::nullopt;
+    }
+    QVector<PropertyPath> columns;
+    for (const QJsonValue each : QJsonDocument::fromJson(text).array()) {
+        const PropertyPath path = pathFromJson(each.toArray());
+        // Anybody may write into the settings.
+        if (!path.isEmpty() && !columns.contains(path)) {
+            columns.append(path);
+        }
+    }
+    return columns;
+}
+
+void setChosenColumns(const QString& type, const QVector<PropertyPath>& columns)
+{
+    QJsonArray paths;
+    for (const PropertyPath& path : columns) {
+        paths += toJson(path);
+    }
+    QSettings().setValue(keyOf(type), QJsonDocument(paths).toJson(QJsonDocument::Compact));
+}
+
+} // namespace tolvik::viewer
