@@ -520,6 +520,31 @@ private slots:
         QCOMPARE(panel.saved(), before);
     }
 
+    /// The attributes stand beside the content of extensions, which may hold features.
+    void featuresStayWhereAttributesComeAndGo()
+    {
+        Panel panel(contentOf(examples() + "/component.gml"), {"maison-du-port"});
+        const tolvik::CityGMLModel& model = panel.fixture.document().model();
+        const auto rows = [&model] {
+            std::list<gml::AbstractFeatureType*> features;
+            for (int row = 0; row < model.rowCount(); ++row) {
+                features.push_back(model.getFeature(row));
+            }
+            return features;
+        };
+        const std::list<gml::AbstractFeatureType*> before = rows();
+        answerDialog({{"type", "Text"}, {"name", "owner"}, {"value", "Guild"}});
+        panel.panel.addAttribute();
+        QTRY_COMPARE(panel.text("Fields/owner"), "Guild");
+        QCOMPARE(rows(), before);
+        panel.undo();
+        panel.stack().redo();
+        panel.press("Fields/owner", Qt::Key_Delete);
+        panel.undo();
+        QCOMPARE(rows(), before);
+        QCOMPARE(featuresOf(*model.cityGML()), before);
+    }
+
     void genericAttributesOfEveryType_data()
     {
         QTest::addColumn<QString>("value");

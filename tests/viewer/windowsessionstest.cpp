@@ -257,6 +257,37 @@ QString write(OpenedWindow& opened, apps::DocumentSaving::Form form)
     return isWritten ? path : QString();
 }
 
+/// Takes the comments out of a tree.
+void takeComments(XmlNode& node, QStringList& comments)
+{
+    for (int i = node.children.size() - 1; i >= 0; --i) {
+        if (node.children[i].kind == XmlNode::Comment) {
+            comments.append(node.children.takeAt(i).text);
+        } else {
+            takeComments(node.children[i], comments);
+        }
+    }
+}
+
+/// What two documents say differently. Beside what was removed a comment may stand before the next element or
+/// behind it.
+QStringList differencesOf(const QByteArray& a, const QByteArray& b)
+{
+    XmlNode left = XmlNode::parse(a);
+    XmlNode right = XmlNode::parse(b);
+    QStringList leftComments;
+    QStringList rightComments;
+    takeComments(left, leftComments);
+    takeComments(right, rightComments);
+    leftComments.sort();
+    rightComments.sort();
+    QStringList differences = XmlNode::differences(left, right);
+    if (leftComments != rightComments) {
+        differences += leftComments + QStringList("-- comments of the other --") + rightComments;
+    }
+    return differences;
+}
+
 QString differenceOf(const QByteArray& now, const QByteArray& wanted)
 {
     const auto found = std::mismatch(now.begin(), now.end(), wanted.begin(), wanted.end());
@@ -299,7 +330,7 @@ private slots:
         // What a save changes says the same as what is written anew.
         const QByteArray saved = meaningOf(write(opened, apps::DocumentSaving::Form::Changes));
         const QByteArray wanted = meaningOf(write(opened, apps::DocumentSaving::Form::Plain));
-        const QStringList differences = XmlNode::differences(XmlNode::parse(saved), XmlNode::parse(wanted));
+        const QStringList differences = differencesOf(saved, wanted);
         QVERIFY2(differences.isEmpty(), qPrintable(differences.join('\n')));
 
         user.undoAll();

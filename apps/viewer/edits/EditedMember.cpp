@@ -5,7 +5,6 @@
 #include "UI/Models/CityGMLModel/CityGMLModel.h"
 #include "UI/Models/CityGMLModel/properties/BoundProperty.h"
 
-#include <QJsonArray>
 #include <typeinfo>
 
 namespace tolvik::viewer {
@@ -28,20 +27,14 @@ std::optional<citygml::Member> textListOf(gml::AbstractFeatureType& feature, con
 
 QJsonObject MemberPlace::toJson() const
 {
-    QJsonArray steps;
-    for (const PropertyStep& step : path) {
-        steps += QJsonArray{step.name, step.occurrence};
-    }
-    return {{"kind", kind}, {"path", steps}};
+    return {{"kind", kind}, {"path", viewer::toJson(path)}};
 }
 
 MemberPlace MemberPlace::fromJson(const QJsonObject& json)
 {
     MemberPlace place;
     place.kind = static_cast<Kind>(json["kind"].toInt());
-    for (const QJsonValue step : json["path"].toArray()) {
-        place.path.append({step[0].toString(), step[1].toInt()});
-    }
+    place.path = pathFromJson(json["path"].toArray());
     return place;
 }
 
