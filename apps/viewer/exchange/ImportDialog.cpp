@@ -43,10 +43,11 @@ int likelyIdColumn(const QStringList& columns)
 ImportDialog::ImportDialog(Document& document, const tables::TableExchange& exchange, const QString& path,
                            QWidget* parent)
     : QDialog(parent), document(document), exchange(exchange), path(path), idColumn(new QComboBox(this)),
-      create(new QCheckBox(tr("&Make generic attributes of columns that features have no attribute for"))),
-      absentWord(new QLineEdit), skipBad(new QCheckBox(tr("&Skip what cannot be set"))), view(new QTableView),
-      message(new QLabel), progress(new QProgressBar), importButton(new QPushButton(tr("&Import"))),
-      preview(new ImportPreview(this))
+      create(
+          new QCheckBox(tr("&Make generic attributes of columns that features have no attribute for"), this)),
+      absentWord(new QLineEdit(this)), skipBad(new QCheckBox(tr("&Skip what cannot be set"), this)),
+      view(new QTableView(this)), message(new QLabel(this)), progress(new QProgressBar(this)),
+      importButton(new QPushButton(tr("&Import"), this)), preview(new ImportPreview(this))
 {
     setWindowTitle(tr("Import %1").arg(QFileInfo(path).fileName()));
     auto* const layout = new QVBoxLayout(this);
