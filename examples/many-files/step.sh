@@ -33,7 +33,7 @@ tables)
     ;;
 join)
     # All tiles have the same tables, so that the first tells their names and headers.
-    first=$(find "$2/tables" -mindepth 1 -maxdepth 1 -type d | sort -V | head -n 1)
+    first=$(find "$2/tables" -mindepth 1 -maxdepth 1 -type d | sort -V | sed -n 1p)
     cp "$first/columns.csv" "$2/columns.csv"
     for table in "$first"/*.csv; do
         name=$(basename "$table")
