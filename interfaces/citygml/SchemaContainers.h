@@ -28,8 +28,8 @@ namespace xsd {
 namespace cxx {
 namespace tree {
 
-// Found as if they stood in the namespace of the run-time, but with other symbols: a program may link a second
-// binding, which has the run-time's own.
+// Found as if they stood in the namespace of the run-time, but with other symbols: a program may link a
+// second binding, which has the run-time's own.
 inline namespace slim {
 
 /// Whether a value is held as it is. Values of all other types are objects that know their container.
@@ -307,10 +307,7 @@ protected:
     ~object_sequence();
 
     type** objects() const { return hasBlock() ? reinterpret_cast<type**>(block() + 1) : nullptr; }
-    container* owner() const
-    {
-        return hasBlock() ? block()->owner : addressed<container>(word & ~emptyMark);
-    }
+    container* owner() const { return hasBlock() ? block()->owner : addressed<container>(word & ~emptyMark); }
     type* slot(size_type index) const
     {
         if (index >= size()) {

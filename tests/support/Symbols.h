@@ -10,8 +10,8 @@ namespace testsupport {
 /// \param name of the library, such as `CityGMLModel`
 QStringList exportedSymbols(const QString& name);
 
-/// The C++ name of a symbol or type, as programs spell it: without the inline namespace in which the containers
-/// of the binding stand. The symbol itself where it has no name.
+/// The C++ name of a symbol or type, as programs spell it: without the inline namespace in which the
+/// containers of the binding stand. The symbol itself where it has no name.
 QString demangled(const char* symbol);
 
 } // namespace testsupport
