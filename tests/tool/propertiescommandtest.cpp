@@ -295,6 +295,8 @@ private slots:
         row("nullable list", "Fields/StoreyHeightsAboveGround", "[\"2.50\", \"withheld\"]", ">3.0 unknown<",
             ">2.50 withheld<");
         row("number", "Fields/long", "-7", ">5000000000<", ">-7<");
+        row("number beyond 32 bits", "Fields/long", "6000000000", ">5000000000<", ">6000000000<");
+        row("position", "Fields/Envelope/LowerCorner", "[4, 5.5, 6]", ">1 2 3<", ">4 5.5 6<");
         row("not offered", "Properties/Energy/isLandmarked", "false", ">true<", ">false<");
     }
 
@@ -345,7 +347,6 @@ private slots:
         row("not a number", "Fields/MeasuredHeight", "nan");
         row("fraction", "Fields/StoreysAboveGround", "1.5");
         row("negative count", "Fields/StoreysAboveGround", "-1");
-        row("number beyond 32 bits", "Fields/long", "6000000000");
         row("no date", "Fields/CreationDate", "2020-02-30");
         row("no date at all", "Fields/CreationDate", "");
         row("text behind a date", "Fields/CreationDate", "2020-02-28 or so");
@@ -353,7 +354,6 @@ private slots:
         row("date with a zone", "Fields/CreationDate", "2020-02-28Z");
         row("no literal", "Fields/RelativeToTerrain", "EntirelyAboveTerrain");
         row("no truth value", "Properties/Energy/isLandmarked", "yes");
-        row("position", "Fields/Envelope/LowerCorner", "[4, 5, 6]");
         row("any simple type", "Fields/Address/Usage", "parcels");
         row("nothing in a list", "Fields/Function", "[null]");
         row("list in a list", "Fields/Function", "[[\"1\"]]");
