@@ -11,7 +11,7 @@
 #include <QMessageBox>
 #include <QSettings>
 #include <QSignalSpy>
-#include <QStandardPaths>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <QtTest>
 
@@ -42,7 +42,15 @@ OpenedWindow::~OpenedWindow() = default;
 
 void OpenedWindow::useFoldersOfTests()
 {
-    QStandardPaths::setTestModeEnabled(true);
+    // Those of another run at the same time are not ours, but those of a process that a test starts are.
+    static const char* const shared = "TOLVIK_TEST_FOLDERS";
+    static const std::unique_ptr<QTemporaryDir> own =
+        qEnvironmentVariableIsSet(shared) ? nullptr : std::make_unique<QTemporaryDir>();
+    if (own != nullptr) {
+        for (const char* const variable : {shared, "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME"}) {
+            qputenv(variable, QFile::encodeName(own->path()));
+        }
+    }
     QCoreApplication::setOrganizationName(QStringLiteral("Tolvik"));
     QCoreApplication::setApplicationName(QStringLiteral("viewertest"));
 }
