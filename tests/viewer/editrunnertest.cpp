@@ -18,7 +18,7 @@ using namespace tolvik::viewer;
 
 namespace {
 
-constexpr int buildings = 1500;
+constexpr int buildings = 8000;
 
 /// A window with many buildings, all of them selected.
 class Street : public OpenedWindow
