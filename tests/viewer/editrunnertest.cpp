@@ -18,7 +18,7 @@ using namespace tolvik::viewer;
 
 namespace {
 
-constexpr int buildings = 8000;
+constexpr int buildings = 4000;
 
 /// A window with many buildings, all of them selected.
 class Street : public OpenedWindow
