@@ -78,6 +78,23 @@ void Camera::fit(const osg::BoundingBoxd& box, double aspect)
                     upwards() * (seen.center().y() * seenHeight / 2);
     }
     fitHeight(box, aspect);
+    lookAtHeight(box.center().z());
+}
+
+/// Goes along the line of sight to a point of that height, with the same picture: below the ground nothing
+/// would be left to come near to.
+void Camera::lookAtHeight(double height)
+{
+    constexpr double level = 0.05;
+    const osg::Vec3d back = toEye();
+    const double step = std::abs(back.z()) > level ? (height - lookedAt.z()) / back.z() : 0;
+    if (parallel) {
+        lookedAt += back * step;
+    } else if (step < distance()) {
+        const double part = 1 - step / distance();
+        lookedAt += back * step;
+        seenHeight = std::clamp(seenHeight * part, smallestHeight, largestHeight);
+    }
 }
 
 /// Zooms so that all of a box is seen.

@@ -48,6 +48,7 @@ public:
 
 private:
     void fitHeight(const osg::BoundingBoxd& box, double aspect);
+    void lookAtHeight(double height);
     osg::Vec3d toEye() const;
     osg::Vec3d upwards() const;
     osg::Vec3d toRight() const;

@@ -86,6 +86,7 @@ private slots:
     void aSectionCutsAway();
     void aPictureCanHaveNoBackground();
     void placesAreFoundByPixel();
+    void whatIsFittedIsMetWhenComingNear();
 
 private:
     void picksWhatIsSeen(SceneFixture& fixture);
@@ -402,6 +403,21 @@ void SceneTest::aSectionCutsAway()
     QCOMPARE(fixture.slotAt(middle), fixture.slotOf("high"));
     fixture.options.section = osg::Plane(osg::Vec3d(0, 0, -1), 5.0);
     QCOMPARE(fixture.slotAt(middle), fixture.slotOf("low"));
+}
+
+void SceneTest::whatIsFittedIsMetWhenComingNear()
+{
+    const DocumentFile file(
+        documentText(buildingMember(multiSurface("lod2MultiSurface", square("p", 0, 0)), "plate")));
+    SceneFixture fixture(file.path());
+    const QPoint middle(SceneFixture::width / 2, SceneFixture::height / 2);
+    for (const bool parallel : {false, true}) {
+        fixture.camera.setParallel(parallel);
+        fixture.camera.setDirection(Camera::Direction::Oblique);
+        fixture.camera.fit(fixture.scene.bounds(), 1.5);
+        fixture.camera.zoom(0.02, osg::Vec2d(), 1.5);
+        QCOMPARE(fixture.slotAt(middle), fixture.slotOf("plate"));
+    }
 }
 
 void SceneTest::aPictureCanHaveNoBackground()
