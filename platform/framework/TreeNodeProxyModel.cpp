@@ -7,6 +7,7 @@
 #include <QScopedValueRollback>
 #include <QSet>
 #include <utility>
+#include <vector>
 
 namespace tolvik {
 
@@ -33,6 +34,29 @@ QList<TreeNode*> nodesOf(const QItemSelection& selection)
         }
     }
     return nodes;
+}
+
+/// The first and the last selected cell of a row.
+using Cells = std::pair<QModelIndex, QModelIndex>;
+
+/// Rows in ascending order as a selection, with a range for those that follow each other. Each range has Qt
+/// register two indexes with the model, and so they are not made row by row.
+QItemSelection joined(const std::vector<Cells>& rows)
+{
+    QItemSelection selection;
+    for (std::size_t first = 0, next = 0; first < rows.size(); first = next) {
+        const auto& [left, right] = rows[first];
+        for (next = first + 1; next < rows.size(); ++next) {
+            const auto& [nextLeft, nextRight] = rows[next];
+            const int distance = static_cast<int>(next - first);
+            if (nextLeft.row() != left.row() + distance || nextLeft.column() != left.column() ||
+                nextRight.column() != right.column() || nextLeft.parent() != left.parent()) {
+                break;
+            }
+        }
+        selection.append(QItemSelectionRange(left, rows[next - 1].second));
+    }
+    return selection;
 }
 
 /// Whether one of the nodes is somewhere below another one.
@@ -220,25 +244,22 @@ void TreeNodeProxyModel::appendRow(QItemSelection& selection, const QModelIndex&
 
 QItemSelection TreeNodeProxyModel::mapSelectionToSource(const QItemSelection& selection) const
 {
-    QList<std::pair<QModelIndex, QModelIndex>> rows;
+    std::vector<Cells> rows;
     for (const QItemSelectionRange& range : selection) {
-        for (int row = range.top(); range.isValid() && row <= range.bottom(); ++row) {
-            const QModelIndex left = range.topLeft().sibling(row, range.left());
-            const QModelIndex right = range.topLeft().sibling(row, range.right());
-            const QModelIndex sourceLeft = mapToSource(left);
-            if (sourceLeft.isValid()) {
-                rows.append({sourceLeft, mapToSource(right)});
+        if (!range.isValid()) {
+            continue;
+        }
+        const QModelIndex parent = range.parent();
+        for (int row = range.top(); row <= range.bottom(); ++row) {
+            const QModelIndex left = mapToSource(index(row, range.left(), parent));
+            if (left.isValid()) {
+                rows.emplace_back(left, left.siblingAtColumn(range.right()));
             }
         }
     }
     std::sort(rows.begin(), rows.end());
     rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
-
-    QItemSelection result;
-    for (const auto& [left, right] : qAsConst(rows)) {
-        appendRow(result, left, right);
-    }
-    return result;
+    return joined(rows);
 }
 
 QItemSelection TreeNodeProxyModel::mapSelectionFromSource(const QItemSelection& selection) const

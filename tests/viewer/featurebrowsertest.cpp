@@ -197,6 +197,24 @@ private slots:
         QCOMPARE(tree->selectionModel()->selectedRows().size(), 1);
     }
 
+    void everythingIsSelectedButClosedBranches()
+    {
+        QTreeView* const tree = opened->view("featureTree");
+        tree->expandAll();
+        const int nodes = shownTexts(*tree).size();
+        const QModelIndex closed = tree->model()->match(tree->model()->index(0, 0), Qt::DisplayRole,
+                                                        "Lantern House", 1, Qt::MatchRecursive)[0];
+        tree->collapse(closed);
+        const int shown = shownTexts(*tree).size();
+        QVERIFY(shown < nodes);
+        tree->setFocus();
+        QTest::keyClick(tree, Qt::Key_A, Qt::ControlModifier);
+        QCOMPARE(opened->selected().size(), shown);
+        QVERIFY(opened->selected().contains("lantern-house"));
+        QVERIFY(!tree->selectionModel()->isSelected(tree->model()->index(0, 0, closed)));
+        QVERIFY(tree->selectionModel()->isSelected(closed.siblingAtColumn(1)));
+    }
+
     /// Each parent makes a range of its own.
     void aSelectionMayHaveManyRanges()
     {

@@ -2,6 +2,7 @@
 
 #include "apps/viewer/document/Document.h"
 #include "apps/viewer/features/FeatureListModel.h"
+#include "apps/viewer/features/FeatureTreeView.h"
 #include "apps/viewer/features/FilteredTreeModel.h"
 #include "apps/viewer/selection/SelectionLink.h"
 
@@ -196,7 +197,7 @@ QWidget* FeatureBrowser::makeFilterBar()
 
 QTreeView* FeatureBrowser::makeView(const QString& name, QAbstractProxyModel& model)
 {
-    auto* const view = new QTreeView;
+    auto* const view = new FeatureTreeView;
     view->setObjectName(name);
     // Without it a view asks each row for its height.
     view->setUniformRowHeights(true);

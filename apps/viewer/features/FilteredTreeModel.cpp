@@ -168,7 +168,10 @@ QItemSelection FilteredTreeModel::mapSelectionToSource(const QItemSelection& sel
 
 QItemSelection FilteredTreeModel::mapSelectionFromSource(const QItemSelection& selection) const
 {
-    return mapped(selection, [this](const QModelIndex& index) { return mapFromSource(index); });
+    // Most of the time nothing is filtered, however much is selected.
+    return branches->size() == 0
+               ? QItemSelection()
+               : mapped(selection, [this](const QModelIndex& index) { return mapFromSource(index); });
 }
 
 void FilteredTreeModel::passChange(const QModelIndex& topLeft, const QModelIndex& bottomRight,

@@ -27,10 +27,13 @@ void RowSelectionModel::select(const QItemSelection& selection, SelectionFlags c
     QItemSelection rows;
     rows.reserve(selection.size());
     for (const QItemSelectionRange& range : selection) {
-        const QModelIndex first = model()->index(range.top(), 0, range.parent());
-        const QModelIndex last =
-            model()->index(range.bottom(), model()->columnCount(range.parent()) - 1, range.parent());
-        rows.append(QItemSelectionRange(first, last));
+        const int lastColumn = model()->columnCount(range.parent()) - 1;
+        if (range.left() == 0 && range.right() == lastColumn) {
+            rows.append(range);
+        } else {
+            rows.append(QItemSelectionRange(model()->index(range.top(), 0, range.parent()),
+                                            model()->index(range.bottom(), lastColumn, range.parent())));
+        }
     }
     {
         const QSignalBlocker quiet(this);
