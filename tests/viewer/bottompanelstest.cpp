@@ -3,6 +3,7 @@
 #include "framework/EditRangeDialog.h"
 #include "support/Documents.h"
 #include "support/Files.h"
+#include "support/PanelFixture.h"
 #include "support/TestClass.h"
 #include "support/TestPaths.h"
 #include "viewer/OpenedWindow.h"
@@ -13,6 +14,8 @@
 #include <QComboBox>
 #include <QDockWidget>
 #include <QDoubleSpinBox>
+#include <QSemaphore>
+#include <QThreadPool>
 #include <QtTest>
 
 using namespace testsupport;
@@ -56,6 +59,48 @@ private slots:
         QCOMPARE(opened->view("findings")->model()->rowCount(), 0);
         QCOMPARE(opened->window->findChild<QDockWidget*>("findingsPanelDock")->windowTitle(),
                  QString("Findings"));
+    }
+
+    void aSaveBringsTheFindingsOfWhatWasSaved()
+    {
+        const QByteArray faults =
+            buildingMember("<bldg:measuredHeight>tall</bldg:measuredHeight>", "faulty") + "\n" +
+            buildingMember("<bldg:storeysAboveGround>few</bldg:storeysAboveGround>", "low");
+        writeFile(opened->path("faults.gml"), documentText(faults));
+        QVERIFY(opened->open(opened->path("faults.gml")));
+        QTreeView* const findings = opened->view("findings");
+        const QStringList former = reasons(*findings);
+        QCOMPARE(former.size(), 3);
+        opened->select({"low"});
+        QTreeView* const properties = opened->view("propertyTree");
+        opened->button("showAbsent")->setChecked(true);
+        QTRY_VERIFY(cellAt(*properties, "Fields/StoreysAboveGround").isValid());
+        typeInto(*properties, cellAt(*properties, "Fields/StoreysAboveGround"), "3");
+        QCOMPARE(reasons(*findings), former);
+        opened->action("save")->trigger();
+        QTRY_COMPARE(reasons(*findings).size(), 2);
+        QVERIFY(former.filter("few").size() == 1);
+        QVERIFY(reasons(*findings).filter("few").isEmpty());
+        QCOMPARE(opened->window->findChild<QDockWidget*>("findingsPanelDock")->windowTitle(),
+                 QString("Findings (2)"));
+    }
+
+    void anotherDocumentEndsTheLookAtTheSavedOne()
+    {
+        QThreadPool& pool = *QThreadPool::globalInstance();
+        const int threads = pool.maxThreadCount();
+        pool.setMaxThreadCount(1);
+        QSemaphore isOpen;
+        pool.start([&isOpen] { isOpen.acquire(); });
+        opened->action("save")->trigger();
+        writeFile(opened->path("sound.gml"), documentText(buildingMember("", "sound")));
+        const bool isThere = opened->open(opened->path("sound.gml"));
+        isOpen.release();
+        pool.waitForDone();
+        pool.setMaxThreadCount(threads);
+        QVERIFY(isThere);
+        QCoreApplication::processEvents();
+        QCOMPARE(opened->view("findings")->model()->rowCount(), 0);
     }
 
     void theLogIsFilteredAndCopied()
@@ -111,6 +156,15 @@ private slots:
     }
 
 private:
+    static QStringList reasons(const QTreeView& findings)
+    {
+        QStringList all;
+        for (int row = 0; row < findings.model()->rowCount(); ++row) {
+            all.append(findings.model()->index(row, 1).data().toString());
+        }
+        return all;
+    }
+
     static QStringList texts(const QTreeView& log)
     {
         QStringList messages;

@@ -6,24 +6,21 @@ FindingsModel::FindingsModel(QObject* parent) : QAbstractTableModel(parent) {}
 
 FindingsModel::~FindingsModel() = default;
 
-void FindingsModel::show(const core::CityModelType* document)
+void FindingsModel::show(const std::vector<citygml::FindingGroup>& groups)
 {
     beginResetModel();
     findings.clear();
     total = 0;
-    if (document != nullptr) {
-        for (const citygml::FindingGroup& group : citygml::findingsOf(*document)) {
-            total += group.count;
-            findings.insert(findings.end(), group.first.begin(), group.first.end());
-            if (group.count > group.first.size()) {
-                citygml::Finding others;
-                others.path = group.path;
-                others.reason =
-                    tr("%Ln more: %1", nullptr, static_cast<int>(group.count - group.first.size()))
-                        .arg(QString::fromStdString(group.reason))
-                        .toStdString();
-                findings.push_back(others);
-            }
+    for (const citygml::FindingGroup& group : groups) {
+        total += group.count;
+        findings.insert(findings.end(), group.first.begin(), group.first.end());
+        if (group.count > group.first.size()) {
+            citygml::Finding others;
+            others.path = group.path;
+            others.reason = tr("%Ln more: %1", nullptr, static_cast<int>(group.count - group.first.size()))
+                                .arg(QString::fromStdString(group.reason))
+                                .toStdString();
+            findings.push_back(others);
         }
     }
     endResetModel();

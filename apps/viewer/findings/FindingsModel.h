@@ -3,16 +3,13 @@
 #include "citygml/Findings.h"
 
 #include <QAbstractTableModel>
-
-namespace core {
-class CityModelType;
-}
+#include <vector>
 
 namespace tolvik::viewer {
 
-/// What was found wrong with a document when it was read, one place a row.
+/// What reading found wrong with a document, one place a row.
 ///
-/// Of many findings of one kind the document lists the first; a row behind these tells of the others.
+/// Of many findings of one kind the first are listed; a row behind these tells of the others.
 class FindingsModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -25,8 +22,7 @@ public:
     explicit FindingsModel(QObject* parent = nullptr);
     ~FindingsModel() override;
 
-    /// \param document null for none
-    void show(const core::CityModelType* document);
+    void show(const std::vector<citygml::FindingGroup>& groups);
     /// Number of all findings, listed or not.
     std::uint64_t count() const { return total; }
 

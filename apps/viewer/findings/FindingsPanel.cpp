@@ -43,6 +43,8 @@ FindingsPanel::FindingsPanel(Document& document, QWidget* parent)
     connect(view, &QTreeView::clicked, this, request);
     connect(view, &QTreeView::activated, this, request);
     connect(&document, &Document::opened, this, &FindingsPanel::showDocument);
+    connect(&document, &Document::saved, this, [this] { saved.start(this->document.fileName()); });
+    connect(&saved, &FindingsReading::found, this, &FindingsPanel::show);
     showDocument();
 }
 
@@ -56,10 +58,17 @@ int FindingsPanel::count() const
 
 void FindingsPanel::showDocument()
 {
-    findings->show(document.model().cityGML());
+    saved.stop();
+    show(document.isOpen() ? citygml::findingsOf(*document.model().cityGML()) : FindingGroups());
+}
+
+void FindingsPanel::show(const FindingGroups& groups)
+{
+    findings->show(groups);
     summary->setText(
         count() == 0 ? tr("Nothing was found wrong with the document.")
                      : tr("%Ln place(s) where the document is not as its schema asks.", nullptr, count()));
+    emit changed();
 }
 
 } // namespace tolvik::viewer

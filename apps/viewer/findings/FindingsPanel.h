@@ -1,5 +1,7 @@
 #pragma once
 
+#include "apps/viewer/findings/FindingsReading.h"
+
 #include <QWidget>
 
 class QLabel;
@@ -10,7 +12,8 @@ namespace tolvik::viewer {
 class Document;
 class FindingsModel;
 
-/// What is wrong with the open document, as a table that leads to the features.
+/// What is wrong with the open document, as a table that leads to the features: as it was when it was read,
+/// and after a save what is wrong with the file that was written.
 class FindingsPanel : public QWidget
 {
     Q_OBJECT
@@ -24,12 +27,16 @@ public:
     int count() const;
 
 signals:
+    /// Other findings are shown.
+    void changed();
     void featureRequested(const QString& identifier);
 
 private:
     void showDocument();
+    void show(const FindingGroups& groups);
 
     Document& document;
+    FindingsReading saved;
     FindingsModel* findings;
     QLabel* summary;
     QTreeView* view;

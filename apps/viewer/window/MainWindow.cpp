@@ -226,7 +226,7 @@ void MainWindow::makePanels()
     findings = new FindingsPanel(*shown);
     QDockWidget* const logDock =
         addPanel(tr("Log"), QStringLiteral("logPanel"), new LogPanel(*log), Qt::BottomDockWidgetArea);
-    QDockWidget* const findingsDock =
+    findingsDock =
         addPanel(tr("Findings"), QStringLiteral("findingsPanel"), findings, Qt::BottomDockWidgetArea);
     tabifyDockWidget(tableDock, findingsDock);
     tabifyDockWidget(findingsDock, logDock);
@@ -448,8 +448,9 @@ void MainWindow::connectDocument()
     connect(shown, &Document::fileNameChanged, this, &MainWindow::updateTitle);
     connect(fileCommands.get(), &FileCommands::opened, this, [this] {
         updateTitle();
-        showFindings();
+        raiseFindings();
     });
+    connect(findings, &FindingsPanel::changed, this, &MainWindow::countFindings);
     connect(fileCommands.get(), &FileCommands::told, this, &MainWindow::tell);
     connect(tableCommands, &TableCommands::told, this, &MainWindow::tell);
     connect(fileCommands.get(), &FileCommands::savingChanged, this, &MainWindow::holdEdits);
@@ -508,14 +509,17 @@ void MainWindow::enableFileActions(bool enable)
     }
 }
 
-void MainWindow::showFindings()
+void MainWindow::countFindings()
 {
-    QDockWidget* const dock = findChild<QDockWidget*>(QStringLiteral("findingsPanelDock"));
     //: Title of the panel, with the number of findings
-    dock->setWindowTitle(findings->count() == 0 ? tr("Findings")
-                                                : tr("Findings (%L1)").arg(findings->count()));
+    findingsDock->setWindowTitle(findings->count() == 0 ? tr("Findings")
+                                                        : tr("Findings (%L1)").arg(findings->count()));
+}
+
+void MainWindow::raiseFindings()
+{
     if (findings->count() != 0) {
-        dock->raise();
+        findingsDock->raise();
     }
 }
 

@@ -83,7 +83,8 @@ private:
     void enableFileActions(bool enable);
     void holdCommands(bool hold);
     void updateTitle();
-    void showFindings();
+    void countFindings();
+    void raiseFindings();
     void showAbout();
     void showSettings();
     void restoreLayout();
@@ -97,6 +98,7 @@ private:
     Journal* journal;
     ReferrerSearch* referrers;
     FindingsPanel* findings = nullptr;
+    QDockWidget* findingsDock = nullptr;
     ViewPanel* city = nullptr;
     TableCommands* tableCommands = nullptr;
     std::unique_ptr<FileCommands> fileCommands;
