@@ -19,6 +19,14 @@ std::unique_ptr<xml_schema::type> Filler::make(const TypeRecord* record, int dep
     return object;
 }
 
+int Filler::depthInside(const TypeRecord* type, int depth) const
+{
+    if (!isFeature(type)) {
+        return depth + 1;
+    }
+    return entersFeatures ? depth + 3 : maximalDepth;
+}
+
 void Filler::fillMember(xml_schema::type& owner, const Member& member, int depth)
 {
     const bool required = member.isRequired && member.ops->single;
@@ -34,9 +42,9 @@ void Filler::fillMember(xml_schema::type& owner, const Member& member, int depth
     }
     for (const TypeRecord* type : typesOf(member)) {
         if (required || type->text != nullptr || worthEntering(type, depth)) {
-            Filler filler(everything && depth < maximalDepth);
+            Filler filler(everything && depth < maximalDepth, entersFeatures);
             filler.counter = counter;
-            member.ops->add(owner, filler.make(type, depth + (isFeature(type) ? 3 : 1)).release());
+            member.ops->add(owner, filler.make(type, depthInside(type, depth)).release());
             counter = filler.counter;
         }
     }

@@ -11,12 +11,19 @@ namespace testsupport {
 class Filler
 {
 public:
-    explicit Filler(bool everything) : everything(everything) {}
+    /// \param entersFeatures whether features inside others have more than what they require, too
+    explicit Filler(bool everything, bool entersFeatures = true)
+        : everything(everything), entersFeatures(entersFeatures)
+    {
+    }
 
     std::unique_ptr<xml_schema::type> make(const TypeRecord* record) { return make(record, 0); }
 
 private:
     std::unique_ptr<xml_schema::type> make(const TypeRecord* record, int depth);
+
+    /// The depth of what stands in a member.
+    int depthInside(const TypeRecord* type, int depth) const;
 
     void fillMember(xml_schema::type& owner, const Member& member, int depth);
 
@@ -63,6 +70,7 @@ private:
     static constexpr int maximalDepth = 6;
 
     bool everything;
+    bool entersFeatures;
     int counter = 0;
 };
 
