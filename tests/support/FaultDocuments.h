@@ -126,7 +126,8 @@ public:
                 const bool isToMiss = leaf.isRequired && !leaf.isRepeated &&
                                       instances.cost(*leaf.particle) != unbounded &&
                                       isNew(leaf.declaring->name, leaf.particle->element);
-                if (isToMiss && makeBase(type, leaf, {}, base)) {
+                if (isToMiss && makeOwner(type, leaf, {}, base)) {
+                    makeAround(base);
                     makeMissing(base, use);
                 }
             }
@@ -192,11 +193,12 @@ private:
         QSet<QString> positions;
         for (const auto& wanted : companions(type, leaf)) {
             Base base;
-            if (!makeBase(type, leaf, wanted, base) || positions.contains(base.place.position)) {
+            if (!makeOwner(type, leaf, wanted, base) || positions.contains(base.place.position)) {
                 continue;
             }
             positions.insert(base.place.position);
             if (takes(selection, base.place, leaf.declaring->name.uri)) {
+                makeAround(base);
                 makeFaults(base, selection.use);
             }
         }
@@ -240,35 +242,45 @@ private:
         return result;
     }
 
-    bool makeBase(const Name& type, const Leaf& leaf, const QVector<const Particle*>& companions,
-                  Base& base) const
+    /// Makes the object with the place, and says what place it is.
+    /// \param[out] base has the object for its root
+    /// \return false where the elements cannot stand together
+    bool makeOwner(const Name& type, const Leaf& leaf, const QVector<const Particle*>& companions,
+                   Base& base) const
     {
         Instances::Wanted wanted{{leaf.particle, {instances.smallest(*leaf.particle)}}};
         for (const Particle* companion : companions) {
             wanted[companion] = {instances.smallest(*companion)};
         }
-        Instance object = instances.bare(instances.formOf(type));
-        if (!instances.addContent(type, wanted, object.children)) {
+        base.root = instances.bare(instances.formOf(type));
+        if (!instances.addContent(type, wanted, base.root.children)) {
             return false;
         }
         const auto isTarget = [&](const Instance& child) { return child.leaf == leaf.particle; };
-        const auto& children = object.children;
+        const auto& children = base.root.children;
         const int number =
             static_cast<int>(std::find_if(children.begin(), children.end(), isTarget) - children.begin());
-        base.root = instances.document(type, &object, base.owner);
-        base.target = base.owner + TreePath{number};
+        base.target = {number};
         base.leaf = &leaf;
-        instances.identify(base.root);
-        const int last = object.children.size() - 1;
+        const int last = children.size() - 1;
         base.place.position = last == 0 ? "only" : number == 0 ? "first" : number == last ? "last" : "middle";
         base.place.type = type;
         base.place.isAttribute = false;
         base.place.member = leaf.particle->element;
         base.place.cardinality = leaf.isRepeated ? "repeated" : leaf.isRequired ? "required" : "optional";
         base.place.area = areaOf(leaf.declaring->name.uri);
-        base.place.value = schemas.valueOf(object.children[number].type);
-        base.place.hasAbstract = !abstractName(*leaf.particle, object.children[number]).isEmpty();
+        base.place.value = schemas.valueOf(children[number].type);
+        base.place.hasAbstract = !abstractName(*leaf.particle, children[number]).isEmpty();
         return true;
+    }
+
+    /// Makes the document around an object with the place.
+    void makeAround(Base& base) const
+    {
+        const Instance object = base.root;
+        base.root = instances.document(base.place.type, &object, base.owner);
+        base.target = base.owner + base.target;
+        instances.identify(base.root);
     }
 
     void generateAttribute(const Name& type, const Attribute& attribute, Selection& selection) const

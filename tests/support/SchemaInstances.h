@@ -88,24 +88,8 @@ public:
 
     QVector<Form> forms(const Particle& leaf) const
     {
-        QVector<Form> result;
-        const auto names = leaf.isReference ? schemas.group(leaf.element) : QVector<Name>{leaf.element};
-        for (const Name& name : names) {
-            const Name type = name == leaf.element ? leaf.type : schemas.element(name).type;
-            if (leaf.isReference && schemas.element(name).isAbstract) {
-                continue;
-            }
-            if (!schemas.isAbstractType(type)) {
-                result.append({name, type, false});
-                continue;
-            }
-            for (const Type& derived : schemas.allTypes()) {
-                if (!derived.isAbstract && schemas.isDerived(derived.name, type)) {
-                    result.append({name, derived.name, true});
-                }
-            }
-        }
-        return result;
+        const auto known = formsOfLeaves.constFind(&leaf);
+        return known != formsOfLeaves.constEnd() ? *known : *formsOfLeaves.insert(&leaf, findForms(leaf));
     }
 
     /// The elements of a type's content model, in order.
@@ -181,9 +165,13 @@ public:
     }
     Instance smallest(const Particle& leaf) const
     {
+        const auto known = smallestOfLeaves.constFind(&leaf);
+        if (known != smallestOfLeaves.constEnd()) {
+            return *known;
+        }
         Instance result = smallest(cheapest(leaf));
         result.leaf = &leaf;
-        return result;
+        return *smallestOfLeaves.insert(&leaf, result);
     }
     Form cheapest(const Particle& leaf) const
     {
@@ -200,11 +188,8 @@ public:
     /// Size of the smallest element for a leaf; \c unbounded if there is none.
     int cost(const Particle& leaf) const
     {
-        int least = unbounded;
-        for (const Form& form : forms(leaf)) {
-            least = std::min(least, costOf(form.type));
-        }
-        return least == unbounded ? unbounded : least + 1;
+        const auto known = costsOfLeaves.constFind(&leaf);
+        return known != costsOfLeaves.constEnd() ? *known : *costsOfLeaves.insert(&leaf, findCost(leaf));
     }
 
     QString sampleOf(const Attribute& attribute) const
@@ -247,6 +232,37 @@ private:
         const Particle* leaf = nullptr;
         Form form;
     };
+
+    QVector<Form> findForms(const Particle& leaf) const
+    {
+        QVector<Form> result;
+        const auto names = leaf.isReference ? schemas.group(leaf.element) : QVector<Name>{leaf.element};
+        for (const Name& name : names) {
+            const Name type = name == leaf.element ? leaf.type : schemas.element(name).type;
+            if (leaf.isReference && schemas.element(name).isAbstract) {
+                continue;
+            }
+            if (!schemas.isAbstractType(type)) {
+                result.append({name, type, false});
+                continue;
+            }
+            for (const Type& derived : schemas.allTypes()) {
+                if (!derived.isAbstract && schemas.isDerived(derived.name, type)) {
+                    result.append({name, derived.name, true});
+                }
+            }
+        }
+        return result;
+    }
+
+    int findCost(const Particle& leaf) const
+    {
+        int least = unbounded;
+        for (const Form& form : forms(leaf)) {
+            least = std::min(least, costOf(form.type));
+        }
+        return least == unbounded ? unbounded : least + 1;
+    }
 
     void addLeaves(const Particle& particle, const Type* type, Leaf outer, QVector<Leaf>& result) const
     {
@@ -299,6 +315,7 @@ private:
                 }
                 if (sum < costs.value(type.name, unbounded)) {
                     costs[type.name] = sum;
+                    costsOfLeaves.clear();
                     changed = true;
                 }
             }
@@ -422,6 +439,10 @@ private:
     QMap<Name, int> costs;
     QVector<Name> reached;
     QMap<Name, Step> ways;
+    // What was found out about leaves, which are asked for many times.
+    mutable QHash<const Particle*, QVector<Form>> formsOfLeaves;
+    mutable QHash<const Particle*, int> costsOfLeaves;
+    mutable QHash<const Particle*, Instance> smallestOfLeaves;
 };
 
 /// Writes documents, one element a line, and knows where their elements stand.
