@@ -121,8 +121,8 @@ private slots:
         }
     }
 
-    /// For each property of a feature that has everything but features with more than they need, which is enough
-    /// to have every kind of property.
+    /// For each kind of property. Features that have everything have them all, also where the features inside
+    /// have no more than they need.
     void everyMemberComesBack()
     {
         QFETCH(QString, type);

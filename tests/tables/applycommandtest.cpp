@@ -1,8 +1,8 @@
 #include "support/Documents.h"
 #include "support/Files.h"
-#include "support/Processes.h"
 #include "support/TestClass.h"
 #include "support/TestPaths.h"
+#include "support/ToolCommand.h"
 
 #include <memory>
 #include <QDir>
@@ -41,7 +41,7 @@ private:
         if (!writeFile(path("t.csv"), table)) {
             return {-1, {}, {}};
         }
-        return inspect(QStringList{"apply", path("t.csv"), path("a.gml"), "--out", path("out.gml")} +
+        return runTool(QStringList{"apply", path("t.csv"), path("a.gml"), "--out", path("out.gml")} +
                        options);
     }
 
@@ -54,7 +54,7 @@ private:
     /// What a save writes without an edit.
     QByteArray saved(const QString& name) const
     {
-        return inspect({"save", path(name), path("saved.gml")}).code == 0 ? contentOf(path("saved.gml"))
+        return runTool({"save", path(name), path("saved.gml")}).code == 0 ? contentOf(path("saved.gml"))
                                                                           : QByteArray();
     }
 
@@ -81,7 +81,7 @@ private slots:
     void aPlainDocumentIsWrittenAnew()
     {
         const auto plain = [this](const QString& name) {
-            return inspect({"save", path(name), path("plain.gml"), "--plain"}).code == 0
+            return runTool({"save", path(name), path("plain.gml"), "--plain"}).code == 0
                        ? contentOf(path("plain.gml"))
                        : QByteArray();
         };
@@ -120,8 +120,8 @@ private slots:
     {
         QFETCH(QString, document);
         QFETCH(QString, target);
-        QCOMPARE(inspect({"table", document, "--out", path(target)}).code, 0);
-        const ProcessResult result = inspect({"apply", path(target), document, "--out", path("out.gml")});
+        QCOMPARE(runTool({"table", document, "--out", path(target)}).code, 0);
+        const ProcessResult result = runTool({"apply", path(target), document, "--out", path("out.gml")});
         QVERIFY2(result.code == 0, result.err);
         QVERIFY(contentOf(path("out.gml")) == contentOf(document));
     }
@@ -186,7 +186,7 @@ private slots:
                                            {"--create"});
         QCOMPARE(result.err, QByteArray());
         QCOMPARE(result.code, 0);
-        QCOMPARE(inspect({"table", path("out.gml"), "--type", "Building", "--columns",
+        QCOMPARE(runTool({"table", path("out.gml"), "--type", "Building", "--columns",
                           "gen:demand,gen:floors,gen:note,gen:seen,gen:share", "--out", path("b")})
                      .code,
                  0);
@@ -209,7 +209,7 @@ private slots:
     {
         QVERIFY(writeFile(path("t.csv"), "gml:id,gen:owner\none,Bo\nthree,Cy\n"));
         const ProcessResult result =
-            inspect({"apply", path("t.csv"), path("a.gml"), path("b.gml"), "--out-dir", path("out")});
+            runTool({"apply", path("t.csv"), path("a.gml"), path("b.gml"), "--out-dir", path("out")});
         QCOMPARE(result.err, QByteArray());
         QCOMPARE(result.code, 0);
         QVERIFY(contentOf(path("out/a.gml")).contains(">Bo<"));
@@ -223,14 +223,14 @@ private slots:
         QVERIFY(writeFile(path("t.csv"), "gml:id,gen:owner\none,Bo\n"));
         const QStringList command{"apply",     path("t.csv"), path("a.gml"), path("other/c.gml"),
                                   "--out-dir", path("out")};
-        ProcessResult result = inspect(command);
+        ProcessResult result = runTool(command);
         QCOMPARE(result.code, 1);
         QVERIFY2(result.err.contains("line 2: one: the feature is in " + shown("a.gml") + " and in " +
                                      shown("other/c.gml")),
                  result.err);
         QVERIFY(!QFile::exists(path("out/a.gml")));
         QVERIFY(writeFile(path("t.csv"), "gml:id,file,gen:owner\none,elsewhere/c.gml,Bo\n"));
-        result = inspect(command);
+        result = runTool(command);
         QCOMPARE(result.err, QByteArray());
         QCOMPARE(contentOf(path("out/a.gml")), contentOf(path("a.gml")));
         QVERIFY(contentOf(path("out/c.gml")).contains(">Bo<"));
@@ -238,9 +238,9 @@ private slots:
 
     void aQueryMakesATable()
     {
-        QCOMPARE(inspect({"table", path("a.gml"), "--out", path("t.gpkg")}).code, 0);
+        QCOMPARE(runTool({"table", path("a.gml"), "--out", path("t.gpkg")}).code, 0);
         const ProcessResult result =
-            inspect({"apply", path("t.gpkg"), path("a.gml"), "--out", path("out.gml"), "--sql",
+            runTool({"apply", path("t.gpkg"), path("a.gml"), "--out", path("out.gml"), "--sql",
                      "SELECT \"gml:id\" AS key, 'from SQL' AS \"gen:owner\" FROM Building WHERE "
                      "\"Fields/MeasuredHeight\" < 10",
                      "--id-column", "key"});
@@ -355,14 +355,14 @@ private slots:
         QVERIFY(writeFile(floors, "gml:id,ordinal,outer,Properties/Energy/floorAreas/floorArea/type,"
                                   "Properties/Energy/floorAreas/floorArea/value\nmaison-du-port,2,,,97.5\n"));
         const QStringList command{"apply", floors, path("a.gml"), "--out", path("out.gml")};
-        ProcessResult result = inspect(command);
+        ProcessResult result = runTool(command);
         QCOMPARE(result.err, QByteArray());
         QVERIFY(contentOf(path("out.gml")).contains(">97.5<"));
         QCOMPARE(written(">97.5<", ">96.2<"), contentOf(path("a.gml")));
         QVERIFY(QFile::remove(path("out.gml")));
         QVERIFY(writeFile(
             floors, "gml:id,ordinal,Properties/Energy/floorAreas/floorArea/value\nmaison-du-port,3,1\n"));
-        result = inspect(command);
+        result = runTool(command);
         QCOMPARE(result.code, 1);
         QVERIFY2(
             result.err.contains("line 2: maison-du-port: Properties/Energy/floorAreas/floorArea/value: the "
@@ -373,14 +373,14 @@ private slots:
 
     void whatIsNoTableIsTold()
     {
-        QCOMPARE(inspect({"apply", path("none.csv"), path("a.gml"), "--out", path("out.gml")}).code, 1);
+        QCOMPARE(runTool({"apply", path("none.csv"), path("a.gml"), "--out", path("out.gml")}).code, 1);
         const ProcessResult result = apply("name,height\nx,1\n");
         QCOMPARE(result.code, 1);
         QVERIFY2(result.err.contains("has no table with a column gml:id"), result.err);
-        QCOMPARE(inspect({"apply", path("t.csv"), path("a.gml")}).code, 2);
-        QCOMPARE(inspect({"apply", path("t.csv"), path("a.gml"), path("b.gml"), "--out", path("o")}).code, 2);
+        QCOMPARE(runTool({"apply", path("t.csv"), path("a.gml")}).code, 2);
+        QCOMPARE(runTool({"apply", path("t.csv"), path("a.gml"), path("b.gml"), "--out", path("o")}).code, 2);
     }
 };
 
-TEST_CLASS(ApplyCommandTest, None)
+TEST_CLASS(ApplyCommandTest, Core)
 #include "applycommandtest.moc"

@@ -1,8 +1,8 @@
 #include "support/Documents.h"
 #include "support/Files.h"
-#include "support/Processes.h"
 #include "support/TestClass.h"
 #include "support/TestPaths.h"
+#include "support/ToolCommand.h"
 
 #include <gdal_priv.h>
 #include <memory>
@@ -89,7 +89,7 @@ private slots:
                                                           "<bldg:function>1000</bldg:function>",
                                                       "two")));
         const ProcessResult result =
-            inspect({"table", path("a.gml"), "--type", "Building", "--out", path("b.csv")});
+            runTool({"table", path("a.gml"), "--type", "Building", "--out", path("b.csv")});
         QCOMPARE(result.err, QByteArray());
         QCOMPARE(result.code, 0);
         QCOMPARE(table("b.csv"),
@@ -104,7 +104,7 @@ private slots:
     {
         QVERIFY(writeDocument("a.gml", buildingMember(generic("int", "n", "7") + height("2"), "one")));
         const ProcessResult result =
-            inspect({"table", path("a.gml"), "--type", "Building", "--columns",
+            runTool({"table", path("a.gml"), "--type", "Building", "--columns",
                      "gen:n,Fields/MeasuredHeight,gen:none", "--out", path("b.csv")});
         QCOMPARE(result.err, QByteArray("tolvik-inspect: no feature has gen:none\n"));
         QCOMPARE(result.code, 1);
@@ -117,7 +117,7 @@ private slots:
         QVERIFY(writeDocument(
             "a.gml", buildingMember(generic("int", "n", "7") + generic("int", "m", "7"), "one") +
                          buildingMember(generic("double", "n", "1.5") + generic("string", "m", "x"), "two")));
-        const ProcessResult result = inspect({"table", path("a.gml"), "--out", path("b")});
+        const ProcessResult result = runTool({"table", path("a.gml"), "--out", path("b")});
         QCOMPARE(result.code, 0);
         QVERIFY(table("b/columns.csv").contains("Building,gen:n,real,\nBuilding,gen:m,text,\n"));
         QVERIFY(table("b/Building.csv").contains(",7,7\n"));
@@ -128,7 +128,7 @@ private slots:
     {
         QVERIFY(writeDocument("a.gml", buildingMember(height("2", "m"), "one") +
                                            buildingMember(height("3", "ft"), "two")));
-        QCOMPARE(inspect({"table", path("a.gml"), "--out", path("b")}).code, 0);
+        QCOMPARE(runTool({"table", path("a.gml"), "--out", path("b")}).code, 0);
         QVERIFY2(table("b/Building.csv")
                      .startsWith(
                          "gml:id,parent,file,type,name,Fields/MeasuredHeight,Fields/MeasuredHeight/@uom\n"),
@@ -142,7 +142,7 @@ private slots:
     {
         QVERIFY(writeDocument("a.gml", buildingMember(reference("p") + reference("q"), "one") +
                                            buildingMember(reference("r"), "two")));
-        QCOMPARE(inspect({"table", path("a.gml"), "--out", path("b")}).code, 0);
+        QCOMPARE(runTool({"table", path("a.gml"), "--out", path("b")}).code, 0);
         const QByteArray file = shown("a.gml");
         QCOMPARE(table("b/Building.csv"),
                  "gml:id,parent,file,type,name\none,," + file + ",Building,\ntwo,," + file + ",Building,\n");
@@ -157,11 +157,11 @@ private slots:
         QVERIFY(writeDocument("a.gml", buildingMember(reference("p") + reference("q") + height("1"), "one")));
         QVERIFY(writeDocument("b.gml", buildingMember(reference("r") + generic("int", "n", "7"), "two")));
         const QStringList files{path("a.gml"), path("b.gml")};
-        QCOMPARE(inspect(QStringList{"table", "--columns-from", path("c.json"), "--out", path("all")} + files)
+        QCOMPARE(runTool(QStringList{"table", "--columns-from", path("c.json"), "--out", path("all")} + files)
                      .code,
                  0);
         for (const char* const tile : {"a", "b"}) {
-            const ProcessResult result = inspect({"table", path(QString(tile) + ".gml"), "--columns-from",
+            const ProcessResult result = runTool({"table", path(QString(tile) + ".gml"), "--columns-from",
                                                   path("c.json"), "--out", path(tile)});
             QCOMPARE(result.err, QByteArray());
         }
@@ -179,10 +179,10 @@ private slots:
         QVERIFY(writeDocument("a.gml", buildingMember(height("1") + generic("int", "n", "7"), "one")));
         QVERIFY(
             writeDocument("b.gml", buildingMember(height("2", "ft") + generic("string", "n", "x"), "two")));
-        QCOMPARE(inspect({"table", path("a.gml"), "--columns-from", path("c.json"), "--out", path("a")}).code,
+        QCOMPARE(runTool({"table", path("a.gml"), "--columns-from", path("c.json"), "--out", path("a")}).code,
                  0);
         const ProcessResult result =
-            inspect({"table", path("b.gml"), "--columns-from", path("c.json"), "--out", path("b")});
+            runTool({"table", path("b.gml"), "--columns-from", path("c.json"), "--out", path("b")});
         QCOMPARE(result.code, 1);
         QVERIFY2(result.err.contains("two: gen:n: the column is for whole, not for x\n"), result.err);
         QVERIFY2(result.err.contains(
@@ -195,14 +195,14 @@ private slots:
     {
         QVERIFY(writeDocument("a.gml", buildingMember(height("1"), "one")));
         QVERIFY(writeDocument("b.gml", buildingMember(generic("int", "n", "7") + height("2"), "two")));
-        QCOMPARE(inspect({"table", path("a.gml"), "--columns-from", path("c.json")}).code, 0);
+        QCOMPARE(runTool({"table", path("a.gml"), "--columns-from", path("c.json")}).code, 0);
         ProcessResult result =
-            inspect({"table", path("b.gml"), "--columns-from", path("c.json"), "--out", path("b")});
+            runTool({"table", path("b.gml"), "--columns-from", path("c.json"), "--out", path("b")});
         QCOMPARE(result.err, QByteArray("tolvik-inspect: 1 values of gen:n of Building have no column\n"));
         QCOMPARE(result.code, 0);
-        QCOMPARE(inspect({"table", path("b.gml"), "--columns-from", path("d.json")}).code, 0);
-        QCOMPARE(inspect({"columns", path("all.json"), path("c.json"), path("d.json")}).code, 0);
-        result = inspect({"table", path("b.gml"), "--columns-from", path("all.json"), "--out", path("b")});
+        QCOMPARE(runTool({"table", path("b.gml"), "--columns-from", path("d.json")}).code, 0);
+        QCOMPARE(runTool({"columns", path("all.json"), path("c.json"), path("d.json")}).code, 0);
+        result = runTool({"table", path("b.gml"), "--columns-from", path("all.json"), "--out", path("b")});
         QCOMPARE(result.err, QByteArray());
         QVERIFY(
             table("b/Building.csv").startsWith("gml:id,parent,file,type,name,Fields/MeasuredHeight,gen:n\n"));
@@ -215,7 +215,7 @@ private slots:
         QVERIFY(writeFile(path("broken.gml"), "<a/>"));
         QVERIFY(writeDocument("c.gml", buildingMember(height("2"), "two")));
         const ProcessResult result =
-            inspect({"table", path("a.gml"), path("broken.gml"), path("c.gml"), "--out", path("t")});
+            runTool({"table", path("a.gml"), path("broken.gml"), path("c.gml"), "--out", path("t")});
         QCOMPARE(result.code, 1);
         QVERIFY2(result.err.contains(shown("broken.gml") + " could not be loaded"), result.err);
         QVERIFY(table("t/Building.csv").contains("\none,"));
@@ -240,10 +240,10 @@ private slots:
             QStringList{"table", examples() + "/energy.gml", "--out", path(folder)} + format;
         // Rows without a geometry are left out, and told.
         const int code = folder == "fgb" ? 1 : 0;
-        QCOMPARE(inspect(command).code, code);
+        QCOMPARE(runTool(command).code, code);
         const QByteArray first = table(target);
         QVERIFY(first.size() > 100);
-        QCOMPARE(inspect(command).code, code);
+        QCOMPARE(runTool(command).code, code);
         QVERIFY(table(target) == first);
         const QStringList left =
             QDir(directory->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
@@ -254,7 +254,7 @@ private slots:
     {
         QVERIFY(writeDocument("a.gml", buildingMember(height("1"), "one")));
         QVERIFY(QDir(directory->path()).mkdir("b.gpkg"));
-        const ProcessResult result = inspect({"table", path("a.gml"), "--out", path("b.gpkg")});
+        const ProcessResult result = runTool({"table", path("a.gml"), "--out", path("b.gpkg")});
         QCOMPARE(result.code, 1);
         QVERIFY2(result.err.contains("b.gpkg could not be written"), result.err);
         QVERIFY(QFileInfo(path("b.gpkg")).isDir());
@@ -272,7 +272,7 @@ private slots:
     void usageIsChecked()
     {
         QFETCH(QStringList, options);
-        QCOMPARE(inspect(QStringList{"table", "a.gml"} + options).code, 2);
+        QCOMPARE(runTool(QStringList{"table", "a.gml"} + options).code, 2);
     }
 
     void aGeometryTellsWhatItIsMadeOf()
@@ -288,7 +288,7 @@ private slots:
                                   buildingMember("", "four"),
                               "EPSG:25832"));
         const ProcessResult result =
-            inspect({"table", path("a.gml"), "--type", "Building", "--out", path("b.geojson")});
+            runTool({"table", path("a.gml"), "--type", "Building", "--out", path("b.geojson")});
         QCOMPARE(result.err, QByteArray());
         const QJsonObject map = QJsonDocument::fromJson(table("b.geojson")).object();
         QVERIFY(map.value("crs")
@@ -327,7 +327,7 @@ private slots:
             "a.gml",
             buildingMember("<bldg:lod1MultiSurface>" + square("4", "1") + "</bldg:lod1MultiSurface>", "one"),
             "EPSG:25832"));
-        QCOMPARE(inspect({"table", path("a.gml"), "--3d", "--type", "Building", "--out", path("b.csv")}).code,
+        QCOMPARE(runTool({"table", path("a.gml"), "--3d", "--type", "Building", "--out", path("b.csv")}).code,
                  0);
         QVERIFY2(table("b.csv").contains("MULTIPOLYGON Z (((0 0 1,4 0 1,4 4 1,0 0 1)))"), table("b.csv"));
     }
@@ -339,7 +339,7 @@ private slots:
                                        buildingMember("<bldg:storeysAboveGround>3</bldg:storeysAboveGround>" +
                                                           generic("int", "n", "4"),
                                                       "one")));
-        QCOMPARE(inspect({"table", path("a.gml"), "--out", path("t.gpkg")}).code, 0);
+        QCOMPARE(runTool({"table", path("a.gml"), "--out", path("t.gpkg")}).code, 0);
         GDALAllRegister();
         const std::unique_ptr<GDALDataset> file(
             GDALDataset::Open(shown("t.gpkg").constData(), GDAL_OF_VECTOR | GDAL_OF_READONLY));
@@ -364,14 +364,14 @@ private slots:
     void otherContentIsThereOnDemand()
     {
         QVERIFY(writeDocument("a.gml", buildingMember("<x:note>red</x:note>", "one")));
-        QCOMPARE(inspect({"table", path("a.gml"), "--out", path("b")}).code, 0);
+        QCOMPARE(runTool({"table", path("a.gml"), "--out", path("b")}).code, 0);
         QVERIFY(!table("b/Building.csv").contains("red"));
-        QCOMPARE(inspect({"table", path("a.gml"), "--all", "--out", path("b")}).code, 0);
+        QCOMPARE(runTool({"table", path("a.gml"), "--all", "--out", path("b")}).code, 0);
         QVERIFY2(table("b/Building.csv").contains("Other content/x:note") &&
                      table("b/Building.csv").contains(",red"),
                  table("b/Building.csv"));
     }
 };
 
-TEST_CLASS(TableCommandTest, None)
+TEST_CLASS(TableCommandTest, Core)
 #include "tablecommandtest.moc"

@@ -1,7 +1,7 @@
 #include "support/Files.h"
-#include "support/Processes.h"
 #include "support/TestClass.h"
 #include "support/TestPaths.h"
+#include "support/ToolCommand.h"
 
 #include <QDir>
 #include <QJsonDocument>
@@ -72,7 +72,7 @@ private:
     /// Checks a document from standard input, which stands as `-` in front of each line.
     static QByteArrayList linesOf(const QByteArray& document)
     {
-        QByteArrayList lines = inspect({"check", "-"}, document).out.split('\n');
+        QByteArrayList lines = runTool({"check", "-"}, document).out.split('\n');
         lines.removeLast();
         return lines;
     }
@@ -167,7 +167,7 @@ private slots:
     {
         QFETCH(QByteArray, document);
         QFETCH(QByteArray, line);
-        const ProcessResult result = inspect({"check", "-"}, document);
+        const ProcessResult result = runTool({"check", "-"}, document);
         QCOMPARE(result.out, line + '\n');
         QCOMPARE(result.err, QByteArray());
         QCOMPARE(result.code, 1);
@@ -227,7 +227,7 @@ private slots:
     void findsNothing()
     {
         QFETCH(QByteArray, document);
-        const ProcessResult result = inspect({"check", "-"}, document);
+        const ProcessResult result = runTool({"check", "-"}, document);
         QCOMPARE(result.out, QByteArray());
         QCOMPARE(result.err, QByteArray());
         QCOMPARE(result.code, 0);
@@ -265,12 +265,12 @@ private slots:
         QCOMPARE(linesOf("<a/>"),
                  QByteArrayList{"-:1:1: /a: the root element is 'a', not the CityModel of CityGML 2.0"});
         QCOMPARE(linesOf(""), QByteArrayList{"-:1:1: no element found"});
-        QCOMPARE(inspect({"check", "-"}, "").code, 1);
+        QCOMPARE(runTool({"check", "-"}, "").code, 1);
     }
 
     void reportsInJson()
     {
-        const ProcessResult result = inspect(
+        const ProcessResult result = runTool(
             {"check", "--json", "-"},
             building("<bldg:measuredHeight uom='m'>\"a\"</bldg:measuredHeight>"
                      "<bldg:storeysAboveGround>many</bldg:storeysAboveGround>\n<bldg:lod1Solid n='1'/>") +
@@ -301,7 +301,7 @@ private slots:
         QVERIFY(writeFile(path("city/a.gml"), building("")));
         QVERIFY(writeFile(path("city/b.gml"), "<a/>"));
         QVERIFY(writeFile(path("city/c.gml"), building("<bldg:colour/>")));
-        const ProcessResult result = inspect({"check", "--recursive", path("city"), path("none.gml")});
+        const ProcessResult result = runTool({"check", "--recursive", path("city"), path("none.gml")});
         QCOMPARE(result.code, 1);
         const QByteArray city = path("city").toUtf8();
         QVERIFY2(result.out.startsWith(city + "/b.gml:1:1: "), result.out);
@@ -309,24 +309,24 @@ private slots:
         QCOMPARE(result.out.count('\n'), 2);
         QCOMPARE(result.err,
                  "tolvik-inspect: " + path("none.gml").toUtf8() + " could not be loaded: no such file\n");
-        QCOMPARE(inspect({"check", path("city/a.gml"), path("city/a.gml")}).code, 0);
-        QCOMPARE(inspect({"check", path("city/a.gml"), path("none.gml")}).code, 1);
+        QCOMPARE(runTool({"check", path("city/a.gml"), path("city/a.gml")}).code, 0);
+        QCOMPARE(runTool({"check", path("city/a.gml"), path("none.gml")}).code, 1);
         // Where nothing was checked nothing is sound.
         QVERIFY(QDir(directory->path()).mkpath("empty"));
-        QCOMPARE(inspect({"check", "--recursive", path("empty")}).code, 1);
+        QCOMPARE(runTool({"check", "--recursive", path("empty")}).code, 1);
     }
 
     void findsNothingInTheExamples()
     {
-        const ProcessResult result = inspect({"check", "--recursive", examples()});
+        const ProcessResult result = runTool({"check", "--recursive", examples()});
         QCOMPARE(result.out, QByteArray());
         QCOMPARE(result.code, 0);
     }
 
     void refusesWrongUsage()
     {
-        QCOMPARE(inspect({"check"}).code, 2);
-        QCOMPARE(inspect({"check", "--every", "-"}).code, 2);
+        QCOMPARE(runTool({"check"}).code, 2);
+        QCOMPARE(runTool({"check", "--every", "-"}).code, 2);
     }
 };
 

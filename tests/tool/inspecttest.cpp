@@ -2,6 +2,7 @@
 #include "support/Processes.h"
 #include "support/TestClass.h"
 #include "support/TestPaths.h"
+#include "support/ToolCommand.h"
 
 #include <QDir>
 #include <QFile>
@@ -201,7 +202,7 @@ private slots:
             {"set", path(file), "--id", "house", "Fields/Name", "x", path("out.gml")},
             {"save", path(file), path("out.gml")}};
         for (const QStringList& command : commands) {
-            const ProcessResult result = inspect(command);
+            const ProcessResult result = runTool(command);
             QCOMPARE(result.code, 1);
             QCOMPARE(result.out, QByteArray());
             QVERIFY2(result.err.endsWith(reason), result.err);
@@ -241,7 +242,7 @@ private slots:
     void refusesWrongUsage()
     {
         QFETCH(QStringList, arguments);
-        const ProcessResult result = inspect(arguments);
+        const ProcessResult result = runTool(arguments);
         QCOMPARE(result.code, 2);
         QCOMPARE(result.out, QByteArray());
         QVERIFY2(result.err.startsWith("tolvik-inspect: "), result.err);

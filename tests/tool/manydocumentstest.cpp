@@ -1,7 +1,7 @@
 #include "support/Files.h"
-#include "support/Processes.h"
 #include "support/TestClass.h"
 #include "support/TestPaths.h"
+#include "support/ToolCommand.h"
 
 #include <QDir>
 #include <QFile>
@@ -39,7 +39,7 @@ QByteArray rowsOf(const QByteArray& id)
 ProcessResult inspectAsAnyone(const QStringList& arguments)
 {
     if (::geteuid() != 0) {
-        return inspect(arguments);
+        return runTool(arguments);
     }
     return run("setpriv",
                QStringList{"--reuid=65534", "--regid=65534", "--clear-groups", program("tolvik-inspect")} +
@@ -71,7 +71,7 @@ private slots:
 
     void eachDocumentIsNamed()
     {
-        const ProcessResult result = inspect({"rows", path("b.gml"), path("a.gml")});
+        const ProcessResult result = runTool({"rows", path("b.gml"), path("a.gml")});
         QCOMPARE(result.out, shown("b.gml") + ":\n" + rowsOf("bee") + shown("a.gml") + ":\n" + rowsOf("ant"));
         QCOMPARE(result.err, QByteArray());
         QCOMPARE(result.code, 0);
@@ -83,18 +83,18 @@ private slots:
         QVERIFY(writeFile(path("list"), list));
         const QByteArray listed =
             shown("a.gml") + ":\n" + rowsOf("ant") + shown("b.gml") + ":\n" + rowsOf("bee");
-        QCOMPARE(inspect({"rows", "--files-from", path("list")}).out, listed);
-        QCOMPARE(inspect({"rows", "--files-from", "-"}, list).out, listed);
-        const ProcessResult more = inspect({"rows", path("b.gml"), "--files-from", path("list")});
+        QCOMPARE(runTool({"rows", "--files-from", path("list")}).out, listed);
+        QCOMPARE(runTool({"rows", "--files-from", "-"}, list).out, listed);
+        const ProcessResult more = runTool({"rows", path("b.gml"), "--files-from", path("list")});
         QCOMPARE(more.out, shown("b.gml") + ":\n" + rowsOf("bee") + listed);
         QCOMPARE(more.code, 1);
-        QCOMPARE(inspect({"rows", "--files-from", path("nothing")}).code, 1);
+        QCOMPARE(runTool({"rows", "--files-from", path("nothing")}).code, 1);
     }
 
     void theOthersGoOnBehindABrokenOne()
     {
         const ProcessResult result =
-            inspect({"rows", path("a.gml"), path("broken.gml"), path("nothing.gml"), path("b.gml")});
+            runTool({"rows", path("a.gml"), path("broken.gml"), path("nothing.gml"), path("b.gml")});
         QCOMPARE(result.out, shown("a.gml") + ":\n" + rowsOf("ant") + shown("b.gml") + ":\n" + rowsOf("bee"));
         QVERIFY2(
             result.err.contains("tolvik-inspect: " + shown("broken.gml") + " could not be loaded: document:"),
@@ -118,7 +118,7 @@ private slots:
         QFETCH(QStringList, command);
         QFETCH(int, length);
         const ProcessResult result =
-            inspect(command + QStringList{"--json", path("a.gml"), path("broken.gml"), path("b.gml")});
+            runTool(command + QStringList{"--json", path("a.gml"), path("broken.gml"), path("b.gml")});
         QCOMPARE(result.code, 1);
         QJsonParseError error;
         const QJsonArray documents = QJsonDocument::fromJson(result.out, &error).array();
@@ -131,14 +131,14 @@ private slots:
             QCOMPARE(document.toObject().value(command.first()).toArray().size(), length);
         }
         // The same as that of the document alone.
-        const ProcessResult alone = inspect(command + QStringList{"--json", path("a.gml")});
+        const ProcessResult alone = runTool(command + QStringList{"--json", path("a.gml")});
         QCOMPARE(QJsonDocument::fromJson(alone.out).array(),
                  documents.at(0).toObject().value(command.first()).toArray());
     }
 
     void jsonOfNothingIsAnEmptyArray()
     {
-        const ProcessResult result = inspect({"rows", "--json", path("broken.gml"), path("nothing.gml")});
+        const ProcessResult result = runTool({"rows", "--json", path("broken.gml"), path("nothing.gml")});
         QCOMPARE(result.code, 1);
         const QJsonDocument document = QJsonDocument::fromJson(result.out);
         QVERIFY2(document.isArray() && document.array().isEmpty(), result.out);
@@ -147,14 +147,14 @@ private slots:
     void aSelectionMayFailInOneDocument()
     {
         const QStringList files{path("a.gml"), path("b.gml")};
-        const ProcessResult text = inspect(QStringList{"properties", "--id", "bee"} + files);
+        const ProcessResult text = runTool(QStringList{"properties", "--id", "bee"} + files);
         QCOMPARE(text.code, 1);
         QCOMPARE(text.err, "tolvik-inspect: " + shown("a.gml") + " has no feature with the gml:id bee\n");
         QVERIFY2(text.out.startsWith(shown("a.gml") + ":\n" + shown("b.gml") + ":\n1 Building\n"), text.out);
 
         QJsonParseError error;
         const QJsonArray documents =
-            QJsonDocument::fromJson(inspect(QStringList{"properties", "--id", "bee", "--json"} + files).out,
+            QJsonDocument::fromJson(runTool(QStringList{"properties", "--id", "bee", "--json"} + files).out,
                                     &error)
                 .array();
         QCOMPARE(error.error, QJsonParseError::NoError);
@@ -172,7 +172,7 @@ private slots:
         for (const char* name : {"readme.txt", "gml", ".secret.gml", ".hidden/a.gml", "a.gml.bak"}) {
             QVERIFY(writeFile(path("city") + '/' + name, "no document"));
         }
-        const ProcessResult result = inspect({"rows", "--recursive", path("city")});
+        const ProcessResult result = runTool({"rows", "--recursive", path("city")});
         QCOMPARE(result.err, QByteArray());
         QCOMPARE(result.code, 0);
         QByteArray expected;
@@ -186,10 +186,10 @@ private slots:
     {
         QVERIFY(QDir(directory->path()).mkpath("city"));
         QVERIFY(writeFile(path("city/a.gml"), house("x")));
-        QCOMPARE(inspect({"rows", "--recursive", path("city")}).out,
+        QCOMPARE(runTool({"rows", "--recursive", path("city")}).out,
                  shown("city/a.gml") + ":\n" + rowsOf("x"));
         // A file is no directory, with the option or without.
-        QCOMPARE(inspect({"rows", "--recursive", path("a.gml")}).out, rowsOf("ant"));
+        QCOMPARE(runTool({"rows", "--recursive", path("a.gml")}).out, rowsOf("ant"));
     }
 
     void aLinkToADirectoryIsNotFollowed()
@@ -197,13 +197,13 @@ private slots:
         QVERIFY(QDir(directory->path()).mkpath("city"));
         QVERIFY(writeFile(path("city/a.gml"), house("x")));
         QVERIFY(QFile::link(path("city"), path("city/loop")));
-        QCOMPARE(inspect({"rows", "--recursive", path("city")}).out,
+        QCOMPARE(runTool({"rows", "--recursive", path("city")}).out,
                  shown("city/a.gml") + ":\n" + rowsOf("x"));
     }
 
     void aDirectoryIsReadOnRequestAlone()
     {
-        const ProcessResult result = inspect({"rows", directory->path(), path("a.gml")});
+        const ProcessResult result = runTool({"rows", directory->path(), path("a.gml")});
         QVERIFY2(result.err.endsWith(" could not be loaded: is a directory\n"), result.err);
         QCOMPARE(result.out, shown("a.gml") + ":\n" + rowsOf("ant"));
         QCOMPARE(result.code, 1);
@@ -212,7 +212,7 @@ private slots:
     void aDirectoryWithoutDocumentsIsTold()
     {
         QVERIFY(QDir(directory->path()).mkpath("empty"));
-        const ProcessResult result = inspect({"rows", "--recursive", path("empty"), path("a.gml")});
+        const ProcessResult result = runTool({"rows", "--recursive", path("empty"), path("a.gml")});
         QCOMPARE(result.err, "tolvik-inspect: " + shown("empty") + " has no documents\n");
         QCOMPARE(result.out, shown("a.gml") + ":\n" + rowsOf("ant"));
         QCOMPARE(result.code, 1);
@@ -253,7 +253,7 @@ private slots:
         QFETCH(QByteArray, changed);
         QVERIFY(writeFile(path("list"), shown("broken.gml") + "\n" + shown("a.gml") + "\n"));
         const ProcessResult result =
-            inspect(command + QStringList{"--files-from", path("list"), "--out-dir", path("out/new")});
+            runTool(command + QStringList{"--files-from", path("list"), "--out-dir", path("out/new")});
         QCOMPARE(result.code, 1);
         QVERIFY2(result.err.contains(shown("broken.gml") + " could not be loaded: "), result.err);
         QCOMPARE(contentOf(path("out/new/a.gml")).replace(changed, ">3<"), contentOf(path("a.gml")));
@@ -263,7 +263,7 @@ private slots:
 
     void eachDocumentThatLacksTheFeatureIsTold()
     {
-        const ProcessResult result = inspect({"set", "Fields/MeasuredHeight", "8", path("a.gml"),
+        const ProcessResult result = runTool({"set", "Fields/MeasuredHeight", "8", path("a.gml"),
                                               path("b.gml"), "--id", "bee", "--out-dir", path("out")});
         QCOMPARE(result.code, 1);
         QCOMPARE(result.err, "tolvik-inspect: " + shown("a.gml") + ": no feature has the gml:id bee\n");
@@ -276,19 +276,19 @@ private slots:
         QVERIFY(QDir(directory->path()).mkdir("other"));
         QVERIFY(QFile::copy(path("a.gml"), path("other/a.gml")));
         ProcessResult result =
-            inspect({"save", path("a.gml"), path("other/a.gml"), "--out-dir", path("out")});
+            runTool({"save", path("a.gml"), path("other/a.gml"), "--out-dir", path("out")});
         QCOMPARE(result.code, 2);
         QVERIFY2(result.err.contains("several documents would be written to " + shown("out/a.gml")),
                  result.err);
         QVERIFY(!QFile::exists(path("out")));
-        QCOMPARE(inspect({"save", "-", "--out-dir", path("out")}, house("bee")).code, 2);
-        QCOMPARE(inspect({"save", path("a.gml"), path("b.gml"), path("c.gml")}).code, 2);
+        QCOMPARE(runTool({"save", "-", "--out-dir", path("out")}, house("bee")).code, 2);
+        QCOMPARE(runTool({"save", path("a.gml"), path("b.gml"), path("c.gml")}).code, 2);
     }
 
     void picturesTakeTheNamesOfTheirDocuments()
     {
         const ProcessResult result =
-            inspect({"picture", examples() + "/district.gml", "--size", "40x30", "--out-dir", path("out")});
+            runTool({"picture", examples() + "/district.gml", "--size", "40x30", "--out-dir", path("out")});
         QCOMPARE(result.code, 0);
         QVERIFY(contentOf(path("out/district.png")).startsWith("\x89PNG"));
     }

@@ -1,7 +1,7 @@
 #include "support/Documents.h"
 #include "support/Files.h"
-#include "support/Processes.h"
 #include "support/TestClass.h"
+#include "support/ToolCommand.h"
 #include "support/XmlTree.h"
 
 #include <QFile>
@@ -34,14 +34,14 @@ private slots:
         const QByteArray member = buildingMember("<bldg:measuredHeight uom='m'>12,5</bldg:measuredHeight>"
                                                  "<x:note by='m'><x:a>one</x:a><x:a>two</x:a></x:note>");
         QVERIFY(writeFile(path("in.gml"), documentText(member + buildingMember(QByteArray(), "c"))));
-        QCOMPARE(inspect({"save", path("in.gml"), path("plain.gml")}).code, 0);
+        QCOMPARE(runTool({"save", path("in.gml"), path("plain.gml")}).code, 0);
     }
 
     void init() { QFile::remove(path("out.gml")); }
 
     void text()
     {
-        const ProcessResult result = inspect({"properties", path("in.gml"), "--id", "b"});
+        const ProcessResult result = runTool({"properties", path("in.gml"), "--id", "b"});
         QCOMPARE(result.code, 0);
         const QString text = QString::fromUtf8(result.out);
         QCOMPARE(text.mid(text.indexOf("  Other content")), QString("  Other content\n"
@@ -50,13 +50,13 @@ private slots:
                                                                     "      x:a: one\n"
                                                                     "      x:a: two\n"
                                                                     "    bldg:measuredHeight: 12,5\n"));
-        QVERIFY(inspect({"properties", path("in.gml"), "--id", "b", "--absent"}).out.contains("x:a: two"));
-        QVERIFY(!inspect({"properties", path("in.gml"), "--id", "c"}).out.contains("Other content"));
+        QVERIFY(runTool({"properties", path("in.gml"), "--id", "b", "--absent"}).out.contains("x:a: two"));
+        QVERIFY(!runTool({"properties", path("in.gml"), "--id", "c"}).out.contains("Other content"));
     }
 
     void json()
     {
-        const ProcessResult result = inspect({"properties", path("in.gml"), "--id", "b", "--json"});
+        const ProcessResult result = runTool({"properties", path("in.gml"), "--id", "b", "--json"});
         const QJsonArray groups = QJsonDocument::fromJson(result.out).object().value("children").toArray();
         const QJsonObject group = groups.last().toObject();
         QCOMPARE(group.value("name").toString(), QString("Other content"));
@@ -93,7 +93,7 @@ private slots:
     {
         QFETCH(QString, property);
         QFETCH(QString, difference);
-        const ProcessResult result = inspect(
+        const ProcessResult result = runTool(
             {"set", path("in.gml"), "--id", "b", "Other content/" + property, "<new>", path("out.gml")});
         QVERIFY2(result.code == 0, result.err);
         QCOMPARE(differences(), QStringList(difference));
@@ -115,7 +115,7 @@ private slots:
     {
         QFETCH(QString, property);
         QFETCH(QString, value);
-        const ProcessResult result = inspect(
+        const ProcessResult result = runTool(
             {"set", path("in.gml"), "--id", "b", "Other content/" + property, value, path("out.gml")});
         QCOMPARE(result.code, 1);
         QVERIFY(!result.err.isEmpty());

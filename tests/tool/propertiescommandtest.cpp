@@ -1,6 +1,6 @@
 #include "support/Files.h"
-#include "support/Processes.h"
 #include "support/TestClass.h"
+#include "support/ToolCommand.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -118,14 +118,14 @@ private slots:
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write(documentText);
         file.close();
-        QCOMPARE(inspect({"save", path("in.gml"), path("plain.gml")}).code, 0);
+        QCOMPARE(runTool({"save", path("in.gml"), path("plain.gml")}).code, 0);
     }
 
     void init() { QFile::remove(path("out.gml")); }
 
     void text()
     {
-        const ProcessResult result = inspect({"properties", path("in.gml"), "--id", "b"});
+        const ProcessResult result = runTool({"properties", path("in.gml"), "--id", "b"});
         QCOMPARE(result.code, 0);
         QCOMPARE(QString::fromUtf8(result.out), QString("1 Building\n"
                                                         "  Fields\n"
@@ -169,11 +169,11 @@ private slots:
                    "<bldg:measuredHeight uom='m'>high</bldg:measuredHeight>"
                    "</bldg:Building></core:cityObjectMember></core:CityModel>");
         file.close();
-        const ProcessResult result = inspect({"properties", path("lacking.gml"), "--row", "1"});
+        const ProcessResult result = runTool({"properties", path("lacking.gml"), "--row", "1"});
         QVERIFY2(result.out.contains("    MeasuredHeight:\n    n:\n"), result.out);
-        QCOMPARE(inspect({"set", path("lacking.gml"), "--id", "b", "Fields/n", "0", path("out.gml")}).code,
+        QCOMPARE(runTool({"set", path("lacking.gml"), "--id", "b", "Fields/n", "0", path("out.gml")}).code,
                  0);
-        const ProcessResult edited = inspect({"properties", path("out.gml"), "--row", "1"});
+        const ProcessResult edited = runTool({"properties", path("out.gml"), "--row", "1"});
         QVERIFY2(edited.out.contains("    MeasuredHeight:\n    n: 0\n"), edited.out);
     }
 
@@ -191,7 +191,7 @@ private slots:
                    "</bldg:Building></core:cityObjectMember></core:CityModel>");
         file.close();
         QJsonParseError error;
-        const ProcessResult result = inspect({"properties", path("numbers.gml"), "--row", "1", "--json"});
+        const ProcessResult result = runTool({"properties", path("numbers.gml"), "--row", "1", "--json"});
         QJsonDocument::fromJson(result.out, &error);
         QCOMPARE(error.error, QJsonParseError::NoError);
         QVERIFY2(result.out.contains("\"value\":\"nan\"") && result.out.contains("\"value\":\"-inf\""),
@@ -200,7 +200,7 @@ private slots:
 
     void json()
     {
-        const ProcessResult result = inspect({"properties", path("in.gml"), "--row", "1", "--json"});
+        const ProcessResult result = runTool({"properties", path("in.gml"), "--row", "1", "--json"});
         const QJsonObject root = QJsonDocument::fromJson(result.out).object();
         QCOMPARE(root.keys(),
                  (QStringList{"children", "editable", "name", "potentialValues", "unit", "value"}));
@@ -230,7 +230,7 @@ private slots:
         QCOMPARE(landmark.value("editable"), QJsonValue(false));
 
         const QJsonDocument every =
-            QJsonDocument::fromJson(inspect({"properties", path("in.gml"), "--every", "--json"}).out);
+            QJsonDocument::fromJson(runTool({"properties", path("in.gml"), "--every", "--json"}).out);
         QCOMPARE(every.array().size(), 3);
         QCOMPARE(every.array().at(1).toObject(), root);
     }
@@ -239,15 +239,15 @@ private slots:
     void aLabelIsTheFirstOfItsName()
     {
         const QString group = "Fields/ExternalReferences/externalObjectReference";
-        QCOMPARE(inspect({"set", path("in.gml"), "--id", "b", group + "[2]/ReferenceName", "two",
+        QCOMPARE(runTool({"set", path("in.gml"), "--id", "b", group + "[2]/ReferenceName", "two",
                           path("second.gml")})
                      .code,
                  0);
-        QCOMPARE(inspect({"set", path("second.gml"), "--id", "b", group + "/ReferenceName", "one",
+        QCOMPARE(runTool({"set", path("second.gml"), "--id", "b", group + "/ReferenceName", "one",
                           path("both.gml")})
                      .code,
                  0);
-        const QByteArray text = inspect({"properties", path("both.gml"), "--id", "b"}).out;
+        const QByteArray text = runTool({"properties", path("both.gml"), "--id", "b"}).out;
         QVERIFY2(text.contains("      externalObjectReference\n"
                                "        ReferenceName: one\n"
                                "        ReferenceUri: http://one\n"
@@ -259,7 +259,7 @@ private slots:
 
     void absentAttributes()
     {
-        const QString text = inspect({"properties", path("in.gml"), "--row", "1", "--absent"}).out;
+        const QString text = runTool({"properties", path("in.gml"), "--row", "1", "--absent"}).out;
         QVERIFY(text.contains("\n    RoofType:\n"));
         QVERIFY(text.contains("\n    StoreyHeightsBelowGround: []\n"));
         QVERIFY(text.contains("\n    TerminationDate:\n"));
@@ -308,7 +308,7 @@ private slots:
         QFETCH(QByteArray, before);
         QFETCH(QByteArray, after);
         const ProcessResult result =
-            inspect({"set", path("in.gml"), "--id", "b", "--", property, value, path("out.gml")});
+            runTool({"set", path("in.gml"), "--id", "b", "--", property, value, path("out.gml")});
         QCOMPARE(result.err, QByteArray());
         QCOMPARE(result.code, 0);
         QByteArray expected = contentOf(path("plain.gml"));
@@ -318,7 +318,7 @@ private slots:
 
     void makesAbsentAttributes()
     {
-        const ProcessResult result = inspect(
+        const ProcessResult result = runTool(
             {"set", path("in.gml"), "--id", "b", "Fields/YearOfConstruction", "1789", path("out.gml")});
         QCOMPARE(result.code, 0);
         QByteArray text = contentOf(path("out.gml"));
@@ -368,7 +368,7 @@ private slots:
         QFETCH(QString, property);
         QFETCH(QString, value);
         const ProcessResult result =
-            inspect({"set", path("in.gml"), "--id", "b", "--", property, value, path("out.gml")});
+            runTool({"set", path("in.gml"), "--id", "b", "--", property, value, path("out.gml")});
         QCOMPARE(result.code, 1);
         QVERIFY(result.err.startsWith("tolvik-inspect: "));
         QCOMPARE(result.err.count('\n'), 1);
@@ -398,7 +398,7 @@ private slots:
         QFETCH(QString, value);
         QFETCH(QByteArray, character);
         const ProcessResult result =
-            inspect({"set", path("in.gml"), "--id", "b", property, value, path("out.gml")});
+            runTool({"set", path("in.gml"), "--id", "b", property, value, path("out.gml")});
         QCOMPARE(result.code, 1);
         const QByteArray label = property.section('/', 1).toUtf8();
         QCOMPARE(result.err, "tolvik-inspect: " + label + " cannot hold the character " + character +
@@ -409,7 +409,7 @@ private slots:
     void textAtTheEdgeOfXml()
     {
         const QString value = QString::fromUtf8("\t\u0020\u007F\uD7FF\uE000\uFFFD\U00010000\U0010FFFF");
-        QCOMPARE(inspect({"set", path("in.gml"), "--id", "b", "Fields/a/b", value, path("out.gml")}).code, 0);
+        QCOMPARE(runTool({"set", path("in.gml"), "--id", "b", "Fields/a/b", value, path("out.gml")}).code, 0);
         QVERIFY(contentOf(path("out.gml")).contains(value.toUtf8()));
     }
 
@@ -417,11 +417,11 @@ private slots:
     {
         QVERIFY(QFile::copy(path("in.gml"), path("out.gml")));
         QCOMPARE(
-            inspect({"set", path("out.gml"), "--id", "b", "Fields/MeasuredHeight", "high", path("out.gml")})
+            runTool({"set", path("out.gml"), "--id", "b", "Fields/MeasuredHeight", "high", path("out.gml")})
                 .code,
             1);
         QCOMPARE(contentOf(path("out.gml")), documentText);
-        QCOMPARE(inspect({"set", path("out.gml"), "--id", "b", "Fields/MeasuredHeight", "7", path("out.gml")})
+        QCOMPARE(runTool({"set", path("out.gml"), "--id", "b", "Fields/MeasuredHeight", "7", path("out.gml")})
                      .code,
                  0);
         QCOMPARE(contentOf(path("out.gml")), contentOf(path("plain.gml")).replace(">12.5<", ">7<"));
@@ -456,10 +456,10 @@ private slots:
         file.write(momentsText);
         file.close();
         const QString id = property.contains("Energy") ? "demand" : "right";
-        const ProcessResult shown = inspect({"properties", path("moments.gml"), "--id", id, "--absent"});
+        const ProcessResult shown = runTool({"properties", path("moments.gml"), "--id", id, "--absent"});
         QVERIFY2(shown.out.contains(' ' + property.section('/', -1).toUtf8() + ':'), shown.out.constData());
         const ProcessResult result =
-            inspect({"set", path("moments.gml"), "--id", id, property, value, path("out.gml")});
+            runTool({"set", path("moments.gml"), "--id", id, property, value, path("out.gml")});
         QCOMPARE(result.code, written.isEmpty() ? 1 : 0);
         QCOMPARE(result.err.count('\n'), result.code);
         QCOMPARE(QFile::exists(path("out.gml")), !written.isEmpty());
@@ -470,7 +470,7 @@ private slots:
     void theSharedNameIsNoIdentifier()
     {
         const ProcessResult result =
-            inspect({"set", path("in.gml"), "--id", "truite", "Fields/ClassType", "x", path("out.gml")});
+            runTool({"set", path("in.gml"), "--id", "truite", "Fields/ClassType", "x", path("out.gml")});
         QCOMPARE(result.code, 1);
         QVERIFY(result.err.contains("no feature has the gml:id truite"));
     }

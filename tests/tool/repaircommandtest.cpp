@@ -1,7 +1,7 @@
 #include "support/Files.h"
-#include "support/Processes.h"
 #include "support/TestClass.h"
 #include "support/TestPaths.h"
+#include "support/ToolCommand.h"
 
 #include <QDir>
 #include <QFile>
@@ -49,7 +49,7 @@ private:
     void repairTo(const QByteArray& document, const QByteArray& expected, const QByteArrayList& notes)
     {
         QVERIFY(writeFile(path("in.gml"), document));
-        const ProcessResult result = inspect({"repair", path("in.gml"), path("out.gml"), "--plain"});
+        const ProcessResult result = runTool({"repair", path("in.gml"), path("out.gml"), "--plain"});
         QCOMPARE(result.err, QByteArray());
         QCOMPARE(result.code, 0);
         QByteArray told;
@@ -58,7 +58,7 @@ private:
         }
         QCOMPARE(result.out, told);
         QVERIFY(writeFile(path("expected.gml"), expected));
-        QCOMPARE(inspect({"save", path("expected.gml"), path("expected.gml"), "--plain"}).code, 0);
+        QCOMPARE(runTool({"save", path("expected.gml"), path("expected.gml"), "--plain"}).code, 0);
         QCOMPARE(contentOf(path("out.gml")), contentOf(path("expected.gml")));
         QCOMPARE(contentOf(path("in.gml")), document);
     }
@@ -90,13 +90,13 @@ private slots:
         const QByteArray others = "<x:a gml:id='p-2'/><x:a xlink:href='#p-3'/>";
         QVERIFY(
             writeFile(path("in.gml"), city(house("a", "p") + house("b", "p") + house("p", "r") + others)));
-        QCOMPARE(inspect({"repair", path("in.gml"), path("out.gml"), "--plain"}).code, 0);
+        QCOMPARE(runTool({"repair", path("in.gml"), path("out.gml"), "--plain"}).code, 0);
         const QByteArray out = contentOf(path("out.gml"));
         for (const char* name : {"p", "p-2", "p-4", "p-5"}) {
             QCOMPARE(out.count(QByteArray("gml:id=\"") + name + '"'), 1);
         }
         QCOMPARE(out.count("#p-3"), 1);
-        QCOMPARE(inspect({"rows", path("out.gml")}).code, 0);
+        QCOMPARE(runTool({"rows", path("out.gml")}).code, 0);
     }
 
     void referencesStayWhereTheFirstIsInTheirMember()
@@ -126,10 +126,10 @@ private slots:
                    "</bldg:Building></core:cityObjectMember>";
         };
         QVERIFY(writeFile(path("in.gml"), city(roof("p") + roof("p"))));
-        const ProcessResult result = inspect({"repair", path("in.gml"), path("out.gml"), "--plain"});
+        const ProcessResult result = runTool({"repair", path("in.gml"), path("out.gml"), "--plain"});
         QCOMPARE(result.out.count('\n'), 4);
         QVERIFY(writeFile(path("expected.gml"), city(roof("p") + roof("p-2"))));
-        QCOMPARE(inspect({"save", path("expected.gml"), path("expected.gml"), "--plain"}).code, 0);
+        QCOMPARE(runTool({"save", path("expected.gml"), path("expected.gml"), "--plain"}).code, 0);
         QCOMPARE(contentOf(path("out.gml")), contentOf(path("expected.gml")));
     }
 
@@ -155,7 +155,7 @@ private slots:
             older.replace(module + QByteArray("/2.0"), module + QByteArray("/1.0"));
         }
         QVERIFY(writeFile(path("in.gml"), older));
-        const ProcessResult result = inspect({"repair", path("in.gml"), path("out.gml"), "--plain"});
+        const ProcessResult result = runTool({"repair", path("in.gml"), path("out.gml"), "--plain"});
         QCOMPARE(result.code, 0);
         QCOMPARE(result.out.count('\n'), 3);
         QVERIFY2(result.out.startsWith(path("in.gml").toUtf8() +
@@ -163,7 +163,7 @@ private slots:
                                        "CityGML 2.0 now\n"),
                  result.out);
         QVERIFY2(result.out.contains("'p-3'"), result.out);
-        const ProcessResult rows = inspect({"rows", path("out.gml")});
+        const ProcessResult rows = runTool({"rows", path("out.gml")});
         QCOMPARE(rows.code, 0);
         // A load warns of the older version.
         QCOMPARE(rows.err, QByteArray());
@@ -187,7 +187,7 @@ private slots:
     void savesWhatNeedsNoRepair()
     {
         const QString district = examples() + "/district.gml";
-        const ProcessResult result = inspect({"repair", district, path("out.gml")});
+        const ProcessResult result = runTool({"repair", district, path("out.gml")});
         QCOMPARE(result.out, QByteArray());
         QCOMPARE(result.err, QByteArray());
         QCOMPARE(result.code, 0);
@@ -198,7 +198,7 @@ private slots:
     {
         const QByteArray document = city(house("a", "p") + house("a", "q") + "<!-- end -->");
         QVERIFY(writeFile(path("in.gml"), document));
-        const ProcessResult result = inspect({"repair", path("in.gml"), path("out.gml")});
+        const ProcessResult result = runTool({"repair", path("in.gml"), path("out.gml")});
         QCOMPARE(result.err, QByteArray());
         QByteArray expected = document;
         expected.replace(document.lastIndexOf("'a'"), 3, "'a-2'");
@@ -209,7 +209,7 @@ private slots:
     {
         const QByteArray wrong = "<bldg:storeysAboveGround>many</bldg:storeysAboveGround></bldg:Building>";
         QVERIFY(writeFile(path("in.gml"), city(house("a", "p").replace("</bldg:Building>", wrong))));
-        const ProcessResult result = inspect({"repair", path("in.gml"), path("out.gml"), "--plain"});
+        const ProcessResult result = runTool({"repair", path("in.gml"), path("out.gml"), "--plain"});
         QCOMPARE(result.code, 0);
         QVERIFY2(result.err.contains("'many' is not a whole number without sign"), result.err);
         QVERIFY(contentOf(path("out.gml")).contains(">many<"));
@@ -217,7 +217,7 @@ private slots:
 
     void readsStandardInput()
     {
-        QCOMPARE(inspect({"repair", "-", path("out.gml")}, city(house("a", "p") + house("a", "q"))).code, 0);
+        QCOMPARE(runTool({"repair", "-", path("out.gml")}, city(house("a", "p") + house("a", "q"))).code, 0);
         QVERIFY(contentOf(path("out.gml")).contains("gml:id=\"a-2\""));
     }
 
@@ -240,7 +240,7 @@ private slots:
         QCOMPARE(::link(QFile::encodeName(path("in.gml")).constData(),
                         QFile::encodeName(path("hard.gml")).constData()),
                  0);
-        const ProcessResult result = inspect({"repair", path("in.gml"), path(output)});
+        const ProcessResult result = runTool({"repair", path("in.gml"), path(output)});
         QCOMPARE(result.code, 1);
         QCOMPARE(result.out, QByteArray());
         QCOMPARE(result.err, "tolvik-inspect: " + path(output).toUtf8() + " is the document itself\n");
@@ -272,7 +272,7 @@ private slots:
         QFETCH(QString, output);
         QFETCH(QByteArray, reason);
         QVERIFY(writeFile(path("in.gml"), document));
-        const ProcessResult result = inspect({"repair", path("in.gml"), path(output)});
+        const ProcessResult result = runTool({"repair", path("in.gml"), path(output)});
         QCOMPARE(result.code, 1);
         QCOMPARE(result.out, QByteArray());
         QVERIFY2(result.err.endsWith(reason), result.err);
@@ -281,8 +281,8 @@ private slots:
 
     void refusesWrongUsage()
     {
-        QCOMPARE(inspect({"repair", examples() + "/district.gml"}).code, 2);
-        QCOMPARE(inspect({"repair", "--json", "-", path("out.gml")}).code, 2);
+        QCOMPARE(runTool({"repair", examples() + "/district.gml"}).code, 2);
+        QCOMPARE(runTool({"repair", "--json", "-", path("out.gml")}).code, 2);
     }
 };
 
