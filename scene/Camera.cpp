@@ -130,6 +130,12 @@ void Camera::zoom(double factor, const osg::Vec2d& at, double aspect)
     seenHeight = height;
 }
 
+double Camera::pixelSize(const osg::Vec3d& place, int pixels) const
+{
+    const double before = parallel ? 0 : (place - lookedAt) * toEye();
+    return seenHeight * std::max(0.0, 1 - before / distance()) / pixels;
+}
+
 osg::Matrixd Camera::viewMatrix() const
 {
     return osg::Matrixd::lookAt(lookedAt + toEye() * distance(), lookedAt, upwards());

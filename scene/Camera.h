@@ -42,6 +42,13 @@ public:
     /// What is seen of the scene from top to bottom, at the point that is looked at.
     double height() const { return seenHeight; }
 
+    /// What a pixel shows of the scene from top to bottom, in its units.
+    /// \param place  in the scene
+    /// \param pixels height of the picture
+    double pixelSize(const osg::Vec3d& place, int pixels) const;
+
+    /// The direction from the point that is looked at to the viewer, of length 1.
+    osg::Vec3d toEye() const;
     osg::Matrixd viewMatrix() const;
     /// \param bounds what is to be seen, for the range of depths
     osg::Matrixd projectionMatrix(double aspect, const osg::BoundingBoxd& bounds) const;
@@ -49,7 +56,6 @@ public:
 private:
     void fitHeight(const osg::BoundingBoxd& box, double aspect);
     void lookAtHeight(double height);
-    osg::Vec3d toEye() const;
     osg::Vec3d upwards() const;
     osg::Vec3d toRight() const;
     double distance() const;

@@ -71,6 +71,11 @@ osg::ref_ptr<osg::StateSet> makePartState(TileDrawable::Part part)
     setLook(*state, part == TileDrawable::Part::Faces   ? FeatureLook
                     : part == TileDrawable::Part::Edges ? EdgeLook
                                                         : MarkLook);
+    if (part == TileDrawable::Part::Edges) {
+        // Faint ones are mixed with the faces, which are drawn before them.
+        state->setRenderBinDetails(1, "RenderBin");
+        state->setAttributeAndModes(makeBlending());
+    }
     if (part == TileDrawable::Part::Marks) {
         state->setAttribute(new osg::LineWidth(2));
         state->setAttribute(new osg::Point(7));
@@ -445,6 +450,23 @@ void CityScene::show(Tile& tile, TileMesh mesh)
     }
     tile.triangles = mesh.triangles;
     tile.degenerate = mesh.degenerate;
+    tile.largestSurface = mesh.largestSurface;
+}
+
+void CityScene::leaveOutFarEdges(const Camera& camera, int pixels)
+{
+    for (const Tile& tile : tiles) {
+        // Where the tile is nearest.
+        const osg::BoundingSphere& around = tile.node->getBound();
+        const osg::Vec3d place = around.center() + camera.toEye() * around.radius();
+        const bool areFar = tile.largestSurface < smallestWithEdges * camera.pixelSize(place, pixels);
+        for (unsigned i = 0; i < tile.node->getNumChildren(); ++i) {
+            osg::Node& drawable = *tile.node->getChild(i);
+            if ((drawable.getNodeMask() & (EdgeMask | FarEdgeMask)) != 0) {
+                drawable.setNodeMask(areFar ? FarEdgeMask : EdgeMask);
+            }
+        }
+    }
 }
 
 /// Has a tile made anew. What is under way of it is not shown any more: it may be of looks that are gone.

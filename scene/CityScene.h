@@ -1,5 +1,6 @@
 #pragma once
 
+#include "scene/Camera.h"
 #include "scene/FeatureTable.h"
 #include "scene/LibraryObjects.h"
 #include "scene/Looks.h"
@@ -98,6 +99,9 @@ public:
     /// Around what is drawn of some features, hidden or not.
     osg::BoundingBoxd boundsOf(const std::vector<Slot>& which);
 
+    /// Leaves out the tiles' edges that are so far away that the shaders would let none of them be seen.
+    /// \param pixels height of the picture
+    void leaveOutFarEdges(const Camera& camera, int pixels);
     /// What is drawn.
     osg::Group* root() const { return top; }
 
@@ -108,6 +112,7 @@ private:
         osg::ref_ptr<osg::MatrixTransform> node;
         std::size_t triangles = 0;
         std::size_t degenerate = 0;
+        double largestSurface = 0;
         /// Counts how often the tile has been sent; what comes of earlier times is not wanted any more.
         unsigned version = 0;
         bool isStale = false;
@@ -175,7 +180,7 @@ private:
     osg::ref_ptr<osg::Group> top = new osg::Group;
 };
 
-/// Parts of what is drawn, as node masks.
-enum NodeMask : unsigned { FaceMask = 1, EdgeMask = 2, MarkMask = 4 };
+/// Parts of what is drawn, as node masks. Edges that are far away are not drawn.
+enum NodeMask : unsigned { FaceMask = 1, EdgeMask = 2, MarkMask = 4, FarEdgeMask = 8 };
 
 } // namespace tolvik::scene

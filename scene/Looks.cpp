@@ -23,7 +23,6 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
-#include <osg/BlendFunc>
 #include <osg/Texture2D>
 #include <QFile>
 #include <QFileInfo>
@@ -431,7 +430,7 @@ osg::ref_ptr<osg::StateSet> Looks::stateOf(std::uint32_t look)
     if (kinds[look].kind == LookKind::Material) {
         state->addUniform(new osg::Uniform("look", int(MaterialLook)));
         if (kinds[look].colour[3] < 255) {
-            state->setAttributeAndModes(new osg::BlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA));
+            state->setAttributeAndModes(makeBlending());
             state->setRenderingHint(osg::StateSet::TRANSPARENT_BIN);
         }
     } else if (kinds[look].kind == LookKind::Texture && textures[look].picture->image() != nullptr) {

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cstring>
-#include <osg/BlendFunc>
 #include <osg/GLExtensions>
 #include <osg/GLObjects>
 #include <osg/GraphicsContext>
@@ -112,6 +111,10 @@ Renderer::Renderer(CityScene& scene) : scene(scene), state(new osg::State)
     state->setContextID(osg::GraphicsContext::createNewContextID());
     colourView = makeView(makeViewProgram());
     identifierView = makeView(makeIdentifierProgram());
+    // What can be seen through is picked as well, and the highest byte of an identifier is no opacity.
+    const osg::StateAttribute::GLModeValue never = osg::StateAttribute::OFF | osg::StateAttribute::OVERRIDE;
+    identifierView->getSceneData()->getOrCreateStateSet()->setMode(GL_BLEND, never);
+    identifierView->getSceneData()->getOrCreateStateSet()->setMode(GL_ALPHA_TEST, never);
 }
 
 Renderer::~Renderer() = default;
@@ -125,6 +128,7 @@ osg::ref_ptr<osgUtil::SceneView> Renderer::makeView(osg::Program* program)
     root->getOrCreateStateSet()->addUniform(new osg::Uniform("section", osg::Vec4()));
     root->getOrCreateStateSet()->addUniform(new osg::Uniform("isByFeature", false));
     root->getOrCreateStateSet()->addUniform(new osg::Uniform("widening", osg::Vec4()));
+    root->getOrCreateStateSet()->addUniform(new osg::Uniform("pictureHeight", 1.0F));
     osg::ref_ptr<osgUtil::SceneView> view = new osgUtil::SceneView;
     view->setDefaults(osgUtil::SceneView::NO_SCENEVIEW_LIGHT);
     // Behind the defaults, to which a state of the view's own belongs.
@@ -155,6 +159,7 @@ void Renderer::prepare(osgUtil::SceneView& view, const Camera& camera, const QSi
 {
     const double aspect = static_cast<double>(size.width()) / size.height();
     const osg::Matrixd viewMatrix = camera.viewMatrix();
+    scene.leaveOutFarEdges(camera, size.height());
     view.setViewMatrix(viewMatrix);
     // What has nothing in the part is left out, by a projection of the part alone. It is drawn in the
     // coordinates of the whole picture all the same: lines have other pixels where they are cut off.
@@ -175,6 +180,7 @@ void Renderer::prepare(osgUtil::SceneView& view, const Camera& camera, const QSi
     osg::StateSet& stateSet = *view.getSceneData()->getOrCreateStateSet();
     stateSet.getUniform("section")->set(section);
     stateSet.getUniform("widening")->set(osg::Vec4(osg::Vec4d(scale.x(), scale.y(), middle.x(), middle.y())));
+    stateSet.getUniform("pictureHeight")->set(static_cast<float>(size.height()));
     stateSet.getUniform("selection")->set(vectorOf(options.selection));
     stateSet.getUniform("isByFeature")->set(options.isByFeature);
 }

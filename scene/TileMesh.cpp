@@ -3,6 +3,8 @@
 #include "scene/Triangulator.h"
 #include "scene/Vectors.h"
 
+#include <algorithm>
+#include <cmath>
 #include <map>
 #include <osg/BoundingBox>
 #include <utility>
@@ -18,10 +20,10 @@ using Part = TileDrawable::Part;
 /// Two triangles of a wall have four vertices, those of terrain three each.
 constexpr std::size_t verticesOfDrawable = 2800;
 
-osg::Vec4b packed(const Position& normal)
+osg::Vec4b packed(const Position& normal, double area)
 {
     const auto part = [](double value) { return static_cast<signed char>(std::lround(value * 127)); };
-    return {part(normal[0]), part(normal[1]), part(normal[2]), 0};
+    return {part(normal[0]), part(normal[1]), part(normal[2]), static_cast<signed char>(sizeByte(area))};
 }
 
 /// The arrays that are being filled for one look.
@@ -162,7 +164,8 @@ private:
         MeshArrays& arrays = arraysFor(patch.look);
         indexes.assign(positions.size() + triangulator.crossings().size(), -1);
         tag = vertexTag(patch.slot, patch.lod);
-        normal = packed(triangulator.normal());
+        normal = packed(triangulator.normal(), triangulator.area());
+        mesh.largestSurface = std::max(mesh.largestSurface, std::sqrt(triangulator.area()));
         for (const std::uint32_t corner : triangulator.triangles()) {
             arrays.triangles->push_back(vertexOf(corner, begin, arrays));
         }
@@ -270,6 +273,11 @@ private:
 };
 
 } // namespace
+
+int sizeByte(double area)
+{
+    return static_cast<int>(std::lround(std::clamp(std::log2(area) / 2 * sizeSteps, -127.0, 127.0)));
+}
 
 TileMesh buildTile(const Batch& batch, const std::vector<LookArrays>& looks)
 {

@@ -50,6 +50,8 @@ struct TileMesh
     citygml::Position origin = {};
     std::vector<TileDrawable> drawables;
     std::size_t triangles = 0;
+    /// That of the largest surface, as sizeOf() tells it.
+    double largestSurface = 0;
     /// Surfaces without an area, which have no triangles.
     std::size_t degenerate = 0;
 };
@@ -61,6 +63,13 @@ struct TileMesh
 /// the shader finds the feature's state.
 /// \param looks by the numbers that patches have; the first is that of none
 TileMesh buildTile(const Batch& batch, const std::vector<LookArrays>& looks);
+
+/// A number for the extent of a surface, in one byte of its vertices: the shader leaves out the edges of a
+/// surface that is small in the picture.
+/// \param area of the surface, above 0
+/// \return the binary logarithm of the square root, times sizeSteps
+int sizeByte(double area);
+constexpr int sizeSteps = 8;
 
 /// The feature and the level of detail of a vertex: the slot times 8, plus the level plus 1, or 0 for none.
 constexpr std::uint32_t vertexTag(Slot slot, int lod)

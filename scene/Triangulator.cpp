@@ -178,6 +178,7 @@ bool Triangulator::findNormal(const std::vector<Ring>& rings)
     for (double& part : up) {
         part /= size;
     }
+    enclosed = size / 2;
     return true;
 }
 

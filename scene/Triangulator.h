@@ -41,6 +41,8 @@ public:
     /// Upright on the last surface and of length 1; to the side from which its outer ring runs
     /// counterclockwise.
     const citygml::Position& normal() const { return up; }
+    /// What the outer ring of the last surface encloses, in the square of the unit of the positions.
+    double area() const { return enclosed; }
 
 private:
     using Ring = std::vector<std::uint32_t>;
@@ -55,6 +57,7 @@ private:
     const std::vector<citygml::Position>* given = nullptr;
     citygml::Position origin = {};
     citygml::Position up = {};
+    double enclosed = 0;
     std::vector<std::uint32_t> corners;
     std::vector<Crossing> crossed;
     std::unique_ptr<Tessellation> tessellation;

@@ -79,6 +79,7 @@ private slots:
     void surfacesThatAreReferredToAreDrawnOnce();
     void texturesAppear();
     void materialsAppearUntilAnotherThemeIsChosen();
+    void whatCanBeSeenThroughIsPicked();
     void picturesOutsideOfTheFolderAreNotRead_data();
     void picturesOutsideOfTheFolderAreNotRead();
     void whatIsAddedLaterIsDrawn();
@@ -86,6 +87,7 @@ private slots:
     void aSectionCutsAway();
     void aPictureCanHaveNoBackground();
     void placesAreFoundByPixel();
+    void edgesAreLeftOutWhereTheyAreFarAway();
     void whatIsFittedIsMetWhenComingNear();
 
 private:
@@ -337,6 +339,27 @@ void SceneTest::materialsAppearUntilAnotherThemeIsChosen()
     QVERIFY(colour.blue() > 100 && colour.green() == 0 && colour.red() == 0);
 }
 
+void SceneTest::whatCanBeSeenThroughIsPicked()
+{
+    const QByteArray glass = "<app:X3DMaterial><app:transparency>0.7</app:transparency>"
+                             "<app:diffuseColor>0 0 1</app:diffuseColor><app:target>#p</app:target>"
+                             "</app:X3DMaterial>";
+    const DocumentFile file(
+        documentText(appearanceMember("glass", glass) +
+                     buildingMember(multiSurface("lod2MultiSurface", square("", 0, 0)), "below") +
+                     buildingMember(multiSurface("lod2MultiSurface", square("p", 0, 2)), "above")));
+    SceneFixture fixture(file.path());
+    fixture.camera.setDirection(Camera::Direction::Top);
+    fixture.camera.fit(fixture.scene.bounds(), 1.5);
+    const QPoint middle(SceneFixture::width / 2, SceneFixture::height / 2);
+    const QColor seen = fixture.picture().pixelColor(middle);
+    QCOMPARE(fixture.slotAt(middle), fixture.slotOf("above"));
+    fixture.features().setHidden(fixture.slotOf("below"), true);
+    QVERIFY(fixture.picture().pixelColor(middle) != seen);
+    fixture.features().setSelection({fixture.slotOf("above")});
+    QCOMPARE(fixture.picture().pixelColor(middle), fixture.options.selection);
+}
+
 void SceneTest::picturesOutsideOfTheFolderAreNotRead_data()
 {
     QTest::addColumn<QString>("uri");
@@ -443,6 +466,30 @@ void SceneTest::placesAreFoundByPixel()
     QVERIFY2(
         (hit.position - osg::Vec3d(5, 5, 0)).length() < 0.1,
         qPrintable(QString("%1 %2 %3").arg(hit.position.x()).arg(hit.position.y()).arg(hit.position.z())));
+}
+
+void SceneTest::edgesAreLeftOutWhereTheyAreFarAway()
+{
+    SceneFixture fixture(examples() + "/district.gml");
+    const auto picturesDiffer = [&fixture] {
+        fixture.options.hasEdges = true;
+        const QImage withEdges = fixture.picture();
+        fixture.options.hasEdges = false;
+        const QImage without = fixture.picture();
+        return differences(withEdges, without) > 0;
+    };
+    const Camera near = fixture.camera;
+    for (const bool isParallel : {false, true}) {
+        fixture.camera = near;
+        fixture.camera.setParallel(isParallel);
+        QVERIFY(picturesDiffer());
+        // The largest surface is more than a tenth of the whole, and it is a few pixels large in the end.
+        fixture.camera.zoom(15, osg::Vec2d(), 1.5);
+        QVERIFY(picturesDiffer());
+        fixture.camera.zoom(20, osg::Vec2d(), 1.5);
+        QVERIFY(!picturesDiffer());
+        QVERIFY(coloursIn(fixture.picture()) > 1);
+    }
 }
 
 #include "scenetest.moc"
