@@ -470,6 +470,7 @@ const CoreProperty& CellEdit::existing()
 {
     if (existingTree.get() == nullptr) {
         existingTree = GmlCorePropertyCreator::createProperty(&feature, true);
+        Q_ASSERT(existingTree);
         if (hasOtherContent) {
             model.addPropertiesFromProviders(model.index(&feature), *existingTree);
         }
@@ -481,6 +482,7 @@ const CoreProperty& CellEdit::all()
 {
     if (fullTree.get() == nullptr) {
         fullTree = GmlCorePropertyCreator::createProperty(&feature, false);
+        Q_ASSERT(fullTree);
     }
     return *fullTree;
 }

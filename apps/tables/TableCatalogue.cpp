@@ -216,7 +216,8 @@ QVector<TableLayout> TableCatalogue::read(const QString& path)
     if (!document.object().value("tables").isArray()) {
         throw TableError(QStringLiteral("%1 is no file of columns").arg(path));
     }
-    for (const QJsonValue& value : document.object().value("tables").toArray()) {
+    const QJsonArray written = document.object().value("tables").toArray();
+    for (const auto& value : written) {
         const QJsonObject object = value.toObject();
         TableLayout table;
         table.name = object.value("name").toString();
@@ -227,7 +228,8 @@ QVector<TableLayout> TableCatalogue::read(const QString& path)
             table.group = tree.nodeAt(ColumnPath::parse(table.groupPath));
             tree.node(table.group).isRepeated = true;
         }
-        for (const QJsonValue& column : object.value("columns").toArray()) {
+        const QJsonArray columns = object.value("columns").toArray();
+        for (const auto& column : columns) {
             table.columns += columnFrom(column.toObject(), tree);
         }
         tables += table;

@@ -83,7 +83,7 @@ QString takeUnit(QString& name)
     if (open <= 0 || !name.endsWith(']')) {
         return QString();
     }
-    const QString unit = name.mid(open + 2, name.size() - open - 3);
+    QString unit = name.mid(open + 2, name.size() - open - 3);
     name.truncate(open);
     return unit;
 }

@@ -46,7 +46,7 @@ void freeCityModel(std::auto_ptr<CityModelType> document)
     const std::lock_guard<std::mutex> lock(mutex);
     try {
         freeing = std::async(std::launch::async, [document = toFree.get()] { delete document; });
-        toFree.release();
+        static_cast<void>(toFree.release());
     } catch (const std::system_error&) {
         // There is no thread to be had: the caller frees it.
     }

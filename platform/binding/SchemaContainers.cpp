@@ -71,14 +71,16 @@ void object_sequence::reserve(size_type count)
     if (count > max_size()) {
         throw std::length_error("too many elements in a sequence of a schema object");
     }
+    const bool isFirst = !hasBlock();
+    container* const kept = owner();
     // NOLINTNEXTLINE(bugprone-suspicious-realloc-usage): a block is found by the word, which stays
-    void* memory = std::realloc(hasBlock() ? block() : nullptr, sizeof(Block) + count * sizeof(type*));
+    void* memory = std::realloc(isFirst ? nullptr : block(), sizeof(Block) + count * sizeof(type*));
     if (memory == nullptr) {
         throw std::bad_alloc();
     }
     Block* const grown = static_cast<Block*>(memory);
-    if (!hasBlock()) {
-        grown->owner = owner();
+    if (isFirst) {
+        grown->owner = kept;
         grown->size = 0;
     }
     grown->capacity = static_cast<std::uint32_t>(count);
