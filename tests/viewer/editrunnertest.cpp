@@ -76,8 +76,8 @@ public:
             if (done < count) {
                 seenOnTheWay = done;
                 once->deleteLater();
-                // As a user, who acts between two slices.
-                QTimer::singleShot(0, window.get(), what);
+                // As a user, who acts before the next slice.
+                QMetaObject::invokeMethod(window.get(), what, Qt::QueuedConnection);
             }
         });
     }
