@@ -64,6 +64,14 @@ QString textOf(const CoreProperty& property)
                             : QString();
 }
 
+/// Whether a property is of a length of time, which it offers a moment for while it is absent.
+bool isDuration(const CoreProperty& property)
+{
+    const auto* const bound = dynamic_cast<const BoundProperty*>(&property);
+    // The one element of that type in all schemas.
+    return bound != nullptr && bound->member().name() == "duration";
+}
+
 /// Changes as few entries as can be: those at the beginning and at the end that stay are not touched.
 bool setEntries(citygml::Member& list, const QVariantList& former, const QVariantList& wanted)
 {
@@ -117,7 +125,7 @@ QVariant offeredValueOf(CoreProperty& property)
 {
     const QVariant value = editedValueOf(property);
     if (!value.isValid()) {
-        return property.defaultValue();
+        return isDuration(property) ? QVariant(QStringLiteral("P1Y")) : property.defaultValue();
     }
     return value.userType() == QMetaType::QUrl && property.editable() ? QVariant(textOf(property)) : value;
 }
