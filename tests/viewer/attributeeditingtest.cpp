@@ -148,6 +148,44 @@ private slots:
         panel.undo();
         QCOMPARE(panel.saved(), before);
     }
+
+    void setsOfAttributesComeAndGo()
+    {
+        const QByteArray inner = "<gen:genericAttributeSet name=\"terms\"><gen:stringAttribute name=\"b\">"
+                                 "<gen:value>2</gen:value></gen:stringAttribute></gen:genericAttributeSet>";
+        const QByteArray empty = "<gen:genericAttributeSet name=\"empty\"/>";
+        const QByteArray outer =
+            "<gen:genericAttributeSet name=\"contract\">"
+            "<gen:stringAttribute name=\"a\"><gen:value>1</gen:value></gen:stringAttribute>" +
+            inner + "</gen:genericAttributeSet>";
+        ShownPanel panel(documentWithBuilding(outer + empty));
+        const QByteArray before = panel.saved();
+        panel.view().setCurrentIndex(panel.cell("Fields/empty"));
+        answerDialog({{"type", "Text"}, {"name", "c"}, {"value", "3"}});
+        panel.panel.addAttribute();
+        QTRY_COMPARE(panel.text("Fields/empty/c"), "3");
+        panel.press("Fields/terms", Qt::Key_Delete);
+        QCOMPARE(panel.message(), QString());
+        QVERIFY(!panel.saved().contains("terms"));
+        QVERIFY(panel.saved().contains("name=\"a\""));
+        panel.view().setCurrentIndex(panel.cell("Fields/contract"));
+        answerDialog({{"", "lease"}});
+        panel.panel.renameCurrent();
+        QTRY_VERIFY(panel.cell("Fields/lease/a").isValid());
+        QVERIFY(panel.saved().contains("<gen:genericAttributeSet name=\"lease\">"));
+        panel.press("Fields/lease", Qt::Key_Delete);
+        QVERIFY(!panel.saved().contains("lease"));
+        QVERIFY(panel.cell("Fields/empty/c").isValid());
+        for (int i = 0; i < 4; ++i) {
+            panel.undo();
+        }
+        QCOMPARE(panel.saved(), before);
+        for (int i = 0; i < 4; ++i) {
+            panel.stack().redo();
+        }
+        QVERIFY(!panel.saved().contains("name=\"a\""));
+        QVERIFY(panel.saved().contains("name=\"c\""));
+    }
 };
 
 TEST_CLASS(AttributeEditingTest, Widgets)

@@ -182,6 +182,93 @@ private slots:
         QVERIFY(!panel.message().isEmpty());
     }
 
+    void anAbsentDurationComesIntoBeing()
+    {
+        ShownPanel panel(
+            contentOf(examples() + "/energy.gml").replace("<gml:duration>P1Y1M15D</gml:duration>", ""), {});
+        panel.showAbsent();
+        QModelIndexList found;
+        for (int row = 0; found.isEmpty() && row < panel.fixture.document().model().rowCount(); ++row) {
+            panel.fixture.document().goTo(row);
+            QTest::qWait(1);
+            found = panel.view().model()->match(panel.view().model()->index(0, 0), Qt::DisplayRole,
+                                                "duration", 1, Qt::MatchExactly | Qt::MatchRecursive);
+        }
+        QVERIFY(!found.isEmpty());
+        const QByteArray before = panel.saved();
+        QVERIFY(!before.contains("gml:duration"));
+        const QPersistentModelIndex value = found[0].siblingAtColumn(1);
+        typeInto(panel.view(), value, "a year");
+        QVERIFY(!panel.message().isEmpty());
+        QTest::keyClick(editorIn(panel.view()), Qt::Key_Escape);
+        QCOMPARE(panel.saved(), before);
+        typeInto(panel.view(), value, "P2Y3M");
+        QCOMPARE(panel.message(), QString());
+        QVERIFY(panel.saved().contains("<gml:duration>P2Y3M</gml:duration>"));
+        panel.undo();
+        QCOMPARE(panel.saved(), before);
+    }
+
+    void aUnitIsChanged()
+    {
+        ShownPanel panel(documentWithBuilding(manyAttributes));
+        const QByteArray before = panel.saved();
+        QCOMPARE(panel.text("Fields/MeasuredHeight", 2), QString("m"));
+        typeInto(panel.view(), panel.cell("Fields/MeasuredHeight", 2), "ft");
+        QCOMPARE(panel.message(), QString());
+        QCOMPARE(panel.text("Fields/MeasuredHeight", 2), QString("ft"));
+        QCOMPARE(panel.saved(), QByteArray(before).replace("uom=\"m\">12.5", "uom=\"ft\">12.5"));
+        QCOMPARE(panel.stack().undoText(), QString("change the unit of MeasuredHeight of Town hall"));
+        panel.undo();
+        QCOMPARE(panel.text("Fields/MeasuredHeight", 2), QString("m"));
+        QCOMPARE(panel.saved(), before);
+        panel.stack().redo();
+        QVERIFY(panel.saved().contains("uom=\"ft\""));
+    }
+
+    void aUnitIsChosen()
+    {
+        ShownPanel panel(documentWithBuilding(manyAttributes));
+        auto* const editor =
+            qobject_cast<QComboBox*>(openEditor(panel.view(), panel.cell("Fields/MeasuredHeight", 2)));
+        QVERIFY(editor != nullptr);
+        QCOMPARE(editor->currentText(), QString("m"));
+        QVERIFY(editor->findText("m2") > 0);
+        editor->setCurrentIndex(editor->findText("m2"));
+        QTest::keyClick(editor, Qt::Key_Return);
+        QVERIFY(panel.saved().contains("uom=\"m2\">12.5"));
+    }
+
+    void aUnitThatIsNoneIsRefused_data()
+    {
+        QTest::addColumn<QString>("unit");
+        QTest::newRow("nothing") << " ";
+        QTest::newRow("words") << "square metre";
+    }
+    void aUnitThatIsNoneIsRefused()
+    {
+        QFETCH(QString, unit);
+        ShownPanel panel(documentWithBuilding(manyAttributes));
+        const QByteArray before = panel.saved();
+        typeInto(panel.view(), panel.cell("Fields/MeasuredHeight", 2), unit);
+        QVERIFY(!panel.message().isEmpty());
+        QVERIFY(editorIn(panel.view()) != nullptr);
+        QTest::keyClick(editorIn(panel.view()), Qt::Key_Escape);
+        QCOMPARE(panel.saved(), before);
+        QCOMPARE(panel.stack().count(), 0);
+    }
+
+    void onlyMeasuresHaveUnitsToChange()
+    {
+        ShownPanel panel(documentWithBuilding(manyAttributes));
+        panel.showAbsent();
+        for (const char* const path : {"Fields/StoreysAboveGround", "Fields/ratio", "Fields/Description"}) {
+            QVERIFY2(!(panel.cell(path, 2).flags() & Qt::ItemIsEditable), path);
+        }
+        panel.press("Fields/MeasuredHeight", Qt::Key_Delete);
+        QVERIFY(!(panel.cell("Fields/MeasuredHeight", 2).flags() & Qt::ItemIsEditable));
+    }
+
     void aMemberThatTheSchemaNeedsStays()
     {
         ShownPanel panel(documentWithBuilding("<gml:boundedBy><gml:Envelope srsName='x'/></gml:boundedBy>"

@@ -1,6 +1,7 @@
 #include "apps/viewer/edits/EditedMember.h"
 
 #include "apps/viewer/edits/GenericAttributes.h"
+#include "citygml/MemberUnit.h"
 #include "gml/AbstractFeatureType.hxx"
 #include "UI/Models/CityGMLModel/CityGMLModel.h"
 #include "UI/Models/CityGMLModel/properties/BoundProperty.h"
@@ -85,6 +86,11 @@ bool EditedMember::isLostWhenEmpty(gml::AbstractFeatureType& feature) const
 {
     return held && held->isList() && found != nullptr &&
            lastingPlace(feature, MemberPlace()).kind == MemberPlace::Property;
+}
+
+std::optional<citygml::Member> EditedMember::unit() const
+{
+    return held ? citygml::unitOf(*held) : std::nullopt;
 }
 
 CapturedState EditedMember::capture() const

@@ -56,6 +56,9 @@ public:
     /// Whether the document has it.
     bool isPresent() const { return !held || held->present(); }
 
+    /// The unit of a measure; nothing where it is absent, and for any other member.
+    std::optional<citygml::Member> unit() const;
+
     /// The property, null for a place of another kind.
     CoreProperty* property() const { return found; }
     /// The member; nothing for content that no class has a member for.

@@ -11,6 +11,7 @@
 #include "gml/MeasureType.hxx"
 #include "UI/Models/CityGMLModel/properties/ValueConversion.h"
 
+#include <algorithm>
 #include <memory>
 #include <vector>
 
@@ -99,6 +100,20 @@ std::optional<citygml::Member> attributesOf(gml::AbstractFeatureType& feature, c
         }
     }
     return std::nullopt;
+}
+
+std::optional<PropertyStep> setWith(gml::AbstractFeatureType& feature, const citygml::Member& attributes)
+{
+    const auto* const set = dynamic_cast<const Set*>(&attributes.object());
+    auto* const object = dynamic_cast<core::AbstractCityObjectType*>(&feature);
+    if (set == nullptr || object == nullptr) {
+        return std::nullopt;
+    }
+    const std::vector<Set*> sets = setsOf(*object);
+    const auto found = std::find(sets.begin(), sets.end(), set);
+    const auto before =
+        std::count_if(sets.begin(), found, [set](const Set* each) { return each->name() == set->name(); });
+    return PropertyStep{QString::fromStdString(set->name()), static_cast<int>(before) + 1};
 }
 
 bool addAttribute(citygml::Member& attributes, AttributeType type, const QString& name, const QVariant& value,

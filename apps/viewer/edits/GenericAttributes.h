@@ -1,5 +1,6 @@
 #pragma once
 
+#include "apps/viewer/edits/PropertyPath.h"
 #include "citygml/Member.h"
 
 #include <optional>
@@ -26,6 +27,11 @@ std::optional<citygml::Member> attributesOf(gml::AbstractFeatureType& feature);
 /// \return nothing where there is no such set
 std::optional<citygml::Member> attributesOf(gml::AbstractFeatureType& feature, const QString& setName,
                                             int occurrence);
+
+/// Name of the set that has attributes, and which of the feature's sets of that name it is.
+/// \param attributes of the feature or of one of its sets
+/// \return nothing for the attributes of the feature itself
+std::optional<PropertyStep> setWith(gml::AbstractFeatureType& feature, const citygml::Member& attributes);
 
 /// Adds an attribute behind the others of a member from attributesOf().
 /// \param attributes of a feature or a set

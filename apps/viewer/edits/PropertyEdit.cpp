@@ -5,7 +5,6 @@
 #include "apps/viewer/document/Document.h"
 #include "apps/viewer/edits/GenericAttributes.h"
 #include "apps/viewer/features/FeatureTexts.h"
-#include "citygml/MemberUnit.h"
 #include "gen/AbstractGenericAttributeType.hxx"
 #include "gml/AbstractFeatureType.hxx"
 #include "UI/Models/CityGMLModel/properties/BoundProperty.h"
@@ -140,22 +139,28 @@ QString PropertyEdit::perform(int number)
 QString PropertyEdit::performOnEntry(gml::AbstractFeatureType& feature, citygml::Member& attributes)
 {
     Change change{locator().addressOf(feature), editedPlace(), CapturedState(), attributes.size(), false};
-    if (action == AddAttribute) {
-        const QString refusal = addAttributeTo(attributes);
-        if (!refusal.isEmpty()) {
-            return refusal;
-        }
-    } else {
-        gen::AbstractGenericAttributeType* const attribute = attributeOf(feature);
-        if (attribute == nullptr) {
-            return tr("%1 is not a generic attribute.").arg(toString(place.path));
-        }
-        change.entry = citygml::Member::holding(*attribute).position();
-        change.other.member = attributes.take(*change.entry);
-        change.isOut = true;
+    const QString refusal =
+        action == AddAttribute ? addAttributeTo(attributes) : takeAttributeOf(feature, change);
+    if (refusal.isEmpty()) {
+        changed.push_back(change);
+        announce(feature);
     }
-    changed.push_back(change);
-    announce(feature);
+    return refusal;
+}
+
+/// Takes the attribute of the property out of the list that holds it.
+QString PropertyEdit::takeAttributeOf(gml::AbstractFeatureType& feature, Change& change) const
+{
+    gen::AbstractGenericAttributeType* const attribute = attributeOf(feature);
+    if (attribute == nullptr) {
+        return tr("%1 is not a generic attribute.").arg(toString(place.path));
+    }
+    const citygml::Member entry = citygml::Member::holding(*attribute);
+    const std::optional<PropertyStep> set = setWith(feature, entry);
+    change.place.path = set ? PropertyPath{place.path.first(), *set} : PropertyPath();
+    change.entry = entry.position();
+    change.other.member = entry.list().take(*change.entry);
+    change.isOut = true;
     return QString();
 }
 
@@ -219,6 +224,8 @@ bool PropertyEdit::isAlreadyDone(const EditedMember& member) const
         return member.isPresent() && hasValue(member);
     case MakeAbsent:
         return !member.isPresent();
+    case SetUnit:
+        return member.unit() && member.unit()->text() == value.toString().toStdString();
     default:
         return false;
     }
@@ -263,6 +270,8 @@ QString PropertyEdit::performOn(gml::AbstractFeatureType& feature, EditedMember&
         break;
     case SetMeasure:
         return setMeasure(member);
+    case SetUnit:
+        return setUnit(member);
     }
     return QString();
 }
@@ -293,11 +302,23 @@ QString PropertyEdit::setMeasure(EditedMember& member) const
     const QVariantList parts = value.toList();
     CoreProperty& property = *member.property();
     property.setValue(parts.value(0));
-    std::optional<citygml::Member> unit = member.member() ? citygml::unitOf(*member.member()) : std::nullopt;
+    std::optional<citygml::Member> unit = member.unit();
     const bool isSet = unit && unit->setText(parts.value(1).toString().toStdString()) &&
                        apps::isSame(property.value(), parts.value(0));
     return isSet ? QString()
                  : tr("%1 cannot be \"%2\".").arg(property.name(), value.toStringList().join(' '));
+}
+
+/// A unit is a name or an address, and has no blanks in it.
+QString PropertyEdit::setUnit(const EditedMember& member) const
+{
+    const QString text = value.toString();
+    const bool isName =
+        !text.isEmpty() && std::none_of(text.begin(), text.end(), [](QChar each) { return each.isSpace(); });
+    std::optional<citygml::Member> unit = member.unit();
+    return unit && isName && unit->setText(text.toStdString())
+               ? QString()
+               : tr("The unit of %1 cannot be \"%2\".").arg(place.path.last().name, text);
 }
 
 QString PropertyEdit::makeAbsent(EditedMember& member) const
@@ -322,12 +343,19 @@ QString PropertyEdit::addAttributeTo(citygml::Member& attributes) const
     return isAdded ? QString() : tr("The feature can have no such attribute.");
 }
 
-/// The generic attribute of the property; null where it is of none.
+/// The generic attribute of the property, or the set of its group; null where it is of none.
 gen::AbstractGenericAttributeType* PropertyEdit::attributeOf(gml::AbstractFeatureType& feature) const
 {
     const std::optional<EditedMember> shown = EditedMember::find(document.model(), feature, place);
     const auto* const bound = shown ? dynamic_cast<const BoundProperty*>(shown->property()) : nullptr;
-    return bound != nullptr ? attributeAround(bound->member()) : nullptr;
+    if (bound != nullptr) {
+        return attributeAround(bound->member());
+    }
+    // The group of a set has no member of its own.
+    const PropertyStep& last = place.path.last();
+    const std::optional<citygml::Member> set =
+        place.path.size() == 2 ? attributesOf(feature, last.name, last.occurrence) : std::nullopt;
+    return set ? attributeAround(*set) : nullptr;
 }
 
 QString PropertyEdit::renameAttributeOf(gml::AbstractFeatureType& feature) const
@@ -351,6 +379,9 @@ void PropertyEdit::nameEdit()
     case SetValue:
     case SetMeasure:
         setText(tr("change %1 of %2").arg(what, where));
+        break;
+    case SetUnit:
+        setText(tr("change the unit of %1 of %2").arg(what, where));
         break;
     case MakeAbsent:
         setText(tr("make %1 of %2 absent").arg(what, where));

@@ -35,7 +35,8 @@ public:
         AddAttribute,    ///< `value` is a list: type, name and value of a generic attribute
         RenameAttribute, ///< `value` is the new name of the generic attribute of the property
         RemoveAttribute, ///< the generic attribute of the property leaves the document
-        SetMeasure       ///< `value` is a list: the number that an absent measure gets, and its unit
+        SetMeasure,      ///< `value` is a list: the number that an absent measure gets, and its unit
+        SetUnit          ///< `value` is the unit that a measure gets; the number stays to the letter
     };
 
     /// An edit that is yet to be done, for EditRunner.
@@ -88,9 +89,11 @@ private:
     QString setValue(EditedMember& member) const;
     QString refusalOfCharacters() const;
     QString setMeasure(EditedMember& member) const;
+    QString setUnit(const EditedMember& member) const;
     QString makeAbsent(EditedMember& member) const;
     bool isOfEntry() const { return action == AddAttribute || action == RemoveAttribute; }
     QString performOnEntry(gml::AbstractFeatureType& feature, citygml::Member& attributes);
+    QString takeAttributeOf(gml::AbstractFeatureType& feature, Change& change) const;
     QString addAttributeTo(citygml::Member& attributes) const;
     gen::AbstractGenericAttributeType* attributeOf(gml::AbstractFeatureType& feature) const;
     QString renameAttributeOf(gml::AbstractFeatureType& feature) const;

@@ -3,6 +3,7 @@
 #include "apps/common/MemberText.h"
 #include "apps/viewer/edits/GenericAttributes.h"
 #include "apps/viewer/properties/AddressText.h"
+#include "citygml/MemberUnit.h"
 #include "framework/AbstractUnit.h"
 #include "UI/Models/CityGMLModel/properties/BoundProperty.h"
 
@@ -32,6 +33,8 @@ void readProperty(CoreProperty& property, PropertyNode& node)
         const citygml::Member member = bound->member();
         node.isPresent = member.present();
         node.isGenericAttribute = attributeAround(member) != nullptr;
+        const bool isMeasure = property.unit() != nullptr || node.value.userType() == QMetaType::Double;
+        node.isUnitEditable = node.isEditable && isMeasure && citygml::unitOf(member).has_value();
     }
     if (property.unit() != nullptr) {
         node.unit = property.unit()->name();
@@ -76,6 +79,22 @@ void addAddresses(gml::AbstractFeatureType& feature, PropertyNode& root)
     }
 }
 
+/// Marks the groups of the feature's sets of attributes, also of those that are empty.
+void noteAttributeSets(gml::AbstractFeatureType& feature, PropertyNode& root)
+{
+    const PropertyNode* const fields = root.child({QStringLiteral("Fields"), 1});
+    if (fields == nullptr) {
+        return;
+    }
+    for (const auto& each : fields->children) {
+        const bool isGroup = !each->isBound && !each->value.isValid() && each->summary.isEmpty() &&
+                             std::all_of(each->children.begin(), each->children.end(),
+                                         [](const auto& child) { return child->isGenericAttribute; });
+        each->isAttributeSet =
+            isGroup && attributesOf(feature, each->step.name, each->step.occurrence).has_value();
+    }
+}
+
 bool isSameValue(const QVariant& a, const QVariant& b)
 {
     return a.userType() == b.userType() && a == b;
@@ -89,9 +108,13 @@ void mergeNode(PropertyNode& node, const PropertyNode& other)
         node.value = QVariant();
         node.summary.clear();
     }
-    if (node.unit != other.unit) {
+    node.isGenericAttribute = node.isGenericAttribute && other.isGenericAttribute;
+    node.isAttributeSet = node.isAttributeSet && other.isAttributeSet;
+    node.isUnitDiffering = node.isUnitDiffering || other.isUnitDiffering || node.unit != other.unit;
+    if (node.isUnitDiffering) {
         node.unit.clear();
     }
+    node.isUnitEditable = node.isUnitEditable && other.isUnitEditable;
     node.isEditable = node.isEditable && other.isEditable;
     node.isPresent = node.isPresent || other.isPresent;
 }
@@ -105,14 +128,6 @@ PropertyPath PropertyNode::path() const
         path.prepend(node->step);
     }
     return path;
-}
-
-bool PropertyNode::isAttributeSet() const
-{
-    // The attributes of the feature itself stand in the group of its other properties.
-    const bool isInGroup = parent != nullptr && parent->parent != nullptr;
-    return isInGroup && std::any_of(children.begin(), children.end(),
-                                    [](const auto& each) { return each->isGenericAttribute; });
 }
 
 int PropertyNode::row() const
@@ -152,6 +167,7 @@ std::unique_ptr<PropertyNode> readProperties(const CityGMLModel& model, gml::Abs
     auto root = std::make_unique<PropertyNode>();
     readChildren(*propertyTree(model, feature), *root);
     addAddresses(feature, *root);
+    noteAttributeSets(feature, *root);
     return root;
 }
 

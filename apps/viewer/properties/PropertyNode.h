@@ -17,20 +17,21 @@ struct PropertyNode
     QVariant value;       ///< invalid for a group, for an absent attribute, and where several features differ
     QVariant offered;     ///< what an editor starts from: the value, or the attribute's default
     QVariantList choices; ///< the literals of an enumeration
-    QString unit;
-    QString summary;                 ///< for the eye, in place of a value that there is none of
-    bool isBound = false;            ///< whether an attribute of the document stands behind it
+    QString unit;         ///< empty also where several features differ
+    QString summary;      ///< for the eye, in place of a value that there is none of
+    bool isBound = false; ///< whether an attribute of the document stands behind it
     bool isEditable = false;         ///< whether that can be given a value
     bool isPresent = true;           ///< of an attribute, whether any of the features has it
     bool isGenericAttribute = false; ///< whether the features can do without it and its name
     bool isDiffering = false;        ///< whether the features have different values
+    bool isAttributeSet = false;     ///< whether it is the group of a set of generic attributes
+    bool isUnitEditable = false;     ///< whether it is a measure, whose unit can be changed
+    bool isUnitDiffering = false;    ///< whether the features have different units
 
     PropertyNode* parent = nullptr;
     std::vector<std::unique_ptr<PropertyNode>> children;
 
     PropertyPath path() const;
-    /// Whether it is a group of generic attributes.
-    bool isAttributeSet() const;
     /// The place among the nodes beside it.
     int row() const;
     PropertyNode* child(const PropertyStep& step) const;

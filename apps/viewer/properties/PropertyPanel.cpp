@@ -39,6 +39,12 @@ QString wholeTextOf(const QModelIndex& cell)
     return value.isValid() ? ValueText().textOf(value) : cell.data().toString();
 }
 
+/// Whether it is a generic attribute or a set of them, which the features can do without.
+bool canBeRenamed(const PropertyNode& node)
+{
+    return node.isGenericAttribute || node.isAttributeSet;
+}
+
 } // namespace
 
 PropertyPanel::PropertyPanel(Document& document, QWidget* parent)
@@ -47,7 +53,9 @@ PropertyPanel::PropertyPanel(Document& document, QWidget* parent)
       delegate(new ValueDelegate(
           [this](const QModelIndex& index, const QVariant& value) {
               const PropertyNode* const node = properties->node(filter->mapToSource(index));
-              return edit(PropertyEdit::SetValue, {MemberPlace::Property, node->path()}, value);
+              const bool isUnit = index.column() == PropertyTreeModel::UnitColumn;
+              return edit(isUnit ? PropertyEdit::SetUnit : PropertyEdit::SetValue,
+                          {MemberPlace::Property, node->path()}, value);
           },
           this)),
       title(new QLabel), filterLine(new QLineEdit), absentButton(new QToolButton), addMenu(new QMenu(this)),
@@ -231,18 +239,18 @@ void PropertyPanel::refreshExpansion(const QModelIndex& parent, int first, int l
 void PropertyPanel::removeCurrent()
 {
     const PropertyNode* const node = currentNode();
-    if (node == nullptr || !node->isBound) {
+    if (node == nullptr || !(node->isBound || node->isAttributeSet)) {
         return;
     }
     const PropertyEdit::Action action =
-        node->isGenericAttribute ? PropertyEdit::RemoveAttribute : PropertyEdit::MakeAbsent;
+        canBeRenamed(*node) ? PropertyEdit::RemoveAttribute : PropertyEdit::MakeAbsent;
     editOrTell(action, {MemberPlace::Property, node->path()}, QVariant());
 }
 
 void PropertyPanel::addAttribute()
 {
     const PropertyNode* const node = currentNode();
-    const PropertyPath set = node != nullptr && node->isAttributeSet() ? node->path() : PropertyPath();
+    const PropertyPath set = node != nullptr && node->isAttributeSet ? node->path() : PropertyPath();
     AttributeDialog dialog(this);
     if (dialog.exec() == QDialog::Accepted) {
         editOrTell(PropertyEdit::AddAttribute, {MemberPlace::GenericAttributes, set}, dialog.attribute());
@@ -252,7 +260,7 @@ void PropertyPanel::addAttribute()
 void PropertyPanel::renameCurrent()
 {
     const PropertyNode* const node = currentNode();
-    if (node == nullptr || !node->isGenericAttribute) {
+    if (node == nullptr || !canBeRenamed(*node)) {
         return;
     }
     const MemberPlace place{MemberPlace::Property, node->path()};
@@ -302,13 +310,16 @@ void PropertyPanel::showContextMenu(const QPoint& place)
     QMenu menu(this);
     const QModelIndex value = view->currentIndex().sibling(view->currentIndex().row(), 1);
     const QUrl link = linkOf(value.data(ValueRole));
-    menu.addAction(tr("&Edit"), view, &PropertyView::editCurrent)->setEnabled(node->isEditable);
+    menu.addAction(tr("&Edit"), view, [this] { view->editCurrent(PropertyTreeModel::ValueColumn); })
+        ->setEnabled(node->isEditable);
+    menu.addAction(tr("Edit the &Unit"), view, [this] { view->editCurrent(PropertyTreeModel::UnitColumn); })
+        ->setEnabled(node->isUnitEditable);
     menu.addAction(tr("&Copy Value"), this,
                    [value] { QApplication::clipboard()->setText(wholeTextOf(value)); });
     menu.addAction(tr("&Follow the Link"), this, [this, link] { emit linkActivated(link); })
         ->setEnabled(!link.isEmpty());
     menu.addSeparator();
-    if (node->isGenericAttribute) {
+    if (canBeRenamed(*node)) {
         menu.addAction(tr("&Rename\u2026"), this, &PropertyPanel::renameCurrent);
         menu.addAction(tr("Re&move"), this, &PropertyPanel::removeCurrent);
     } else {

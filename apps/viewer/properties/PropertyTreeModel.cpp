@@ -1,5 +1,6 @@
 #include "apps/viewer/properties/PropertyTreeModel.h"
 
+#include "apps/viewer/properties/UnitNames.h"
 #include "apps/viewer/properties/ValueRoles.h"
 
 #include <utility>
@@ -67,14 +68,16 @@ QVariant PropertyTreeModel::data(const QModelIndex& index, int role) const
     case Qt::DisplayRole:
         return index.column() == NameColumn    ? node.step.name
                : index.column() == ValueColumn ? textOf(node)
-                                               : node.unit;
+                                               : unitTextOf(node);
     case Qt::ToolTipRole:
     case Qt::AccessibleDescriptionRole:
         return toolTipOf(node);
     case AbsentRole:
         return !node.isPresent;
     default:
-        return index.column() == ValueColumn ? valueData(node, role) : QVariant();
+        return index.column() == ValueColumn  ? valueData(node, role)
+               : index.column() == UnitColumn ? unitData(node, role)
+                                              : QVariant();
     }
 }
 
@@ -97,6 +100,19 @@ QVariant PropertyTreeModel::valueData(const PropertyNode& node, int role)
     }
 }
 
+/// What only the column of the units has.
+QVariant PropertyTreeModel::unitData(const PropertyNode& node, int role)
+{
+    switch (role) {
+    case OfferedRole:
+        return node.isUnitEditable ? QVariant(node.unit) : QVariant();
+    case SuggestionsRole:
+        return unitNames();
+    default:
+        return QVariant();
+    }
+}
+
 QVariant PropertyTreeModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole) {
@@ -111,7 +127,10 @@ Qt::ItemFlags PropertyTreeModel::flags(const QModelIndex& index) const
         return Qt::NoItemFlags;
     }
     const Qt::ItemFlags shown = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
-    return index.column() == ValueColumn && nodeAt(index).isEditable ? shown | Qt::ItemIsEditable : shown;
+    const PropertyNode& node = nodeAt(index);
+    const bool isEditable = (index.column() == ValueColumn && node.isEditable) ||
+                            (index.column() == UnitColumn && node.isUnitEditable);
+    return isEditable ? shown | Qt::ItemIsEditable : shown;
 }
 
 /// The node of an index, the root for an invalid one.
@@ -187,6 +206,9 @@ void PropertyTreeModel::takeValues(PropertyNode& node, const PropertyNode& wante
     node.isPresent = wanted.isPresent;
     node.isGenericAttribute = wanted.isGenericAttribute;
     node.isDiffering = wanted.isDiffering;
+    node.isAttributeSet = wanted.isAttributeSet;
+    node.isUnitEditable = wanted.isUnitEditable;
+    node.isUnitDiffering = wanted.isUnitDiffering;
     if (node.parent != nullptr) {
         emit dataChanged(indexOf(node, NameColumn), indexOf(node, UnitColumn));
     }
@@ -198,6 +220,11 @@ QString PropertyTreeModel::textOf(const PropertyNode& node) const
         return tr("(different values)");
     }
     return node.value.isValid() ? text.previewOf(node.value) : node.summary;
+}
+
+QString PropertyTreeModel::unitTextOf(const PropertyNode& node)
+{
+    return node.isUnitDiffering ? QStringLiteral("\u2026") : node.unit;
 }
 
 /// The box of a truth value.

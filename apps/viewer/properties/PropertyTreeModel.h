@@ -47,7 +47,9 @@ private:
     void insertNew(PropertyNode& node, PropertyNode& wanted);
     void takeValues(PropertyNode& node, const PropertyNode& wanted);
     QString textOf(const PropertyNode& node) const;
+    static QString unitTextOf(const PropertyNode& node);
     static QVariant valueData(const PropertyNode& node, int role);
+    static QVariant unitData(const PropertyNode& node, int role);
     static QVariant checkStateOf(const PropertyNode& node);
     QString toolTipOf(const PropertyNode& node) const;
 

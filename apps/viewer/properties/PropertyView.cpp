@@ -40,14 +40,17 @@ PropertyView::PropertyView(QWidget* parent) : QTreeView(parent)
     header()->setStretchLastSection(false);
 }
 
-void PropertyView::editCurrent()
+void PropertyView::editCurrent(int column)
 {
+    setCurrentIndex(currentIndex().siblingAtColumn(column));
     edit(currentIndex(), AllEditTriggers, nullptr);
 }
 
 bool PropertyView::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event)
 {
-    return QTreeView::edit(index.isValid() ? valueBeside(index) : index, trigger, event);
+    const bool isUnit =
+        index.column() == PropertyTreeModel::UnitColumn && (index.flags() & Qt::ItemIsEditable) != 0;
+    return QTreeView::edit(index.isValid() && !isUnit ? valueBeside(index) : index, trigger, event);
 }
 
 void PropertyView::keyPressEvent(QKeyEvent* event)
@@ -57,7 +60,7 @@ void PropertyView::keyPressEvent(QKeyEvent* event)
     } else if (event->matches(QKeySequence::Delete) && state() != EditingState) {
         emit removalRequested();
     } else if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && state() != EditingState) {
-        editCurrent();
+        edit(currentIndex(), AllEditTriggers, nullptr);
     } else {
         QTreeView::keyPressEvent(event);
     }

@@ -4,7 +4,8 @@
 
 namespace tolvik::viewer {
 
-/// A tree of properties in which editing always means the value, in whatever column the cursor stands.
+/// A tree of properties in which editing means the value in whatever column the cursor stands, unless it is
+/// on a unit that can be changed.
 class PropertyView : public QTreeView
 {
     Q_OBJECT
@@ -13,7 +14,8 @@ public:
     explicit PropertyView(QWidget* parent = nullptr);
 
     /// Opens the editor of the current property, if it has one.
-    void editCurrent();
+    /// \param column that of the value or of the unit
+    void editCurrent(int column);
 
 signals:
     /// The current property is to go.

@@ -80,8 +80,8 @@ ValueDelegate::ValueDelegate(Enter enter, QObject* parent)
 QWidget* ValueDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& /*option*/,
                                      const QModelIndex& index) const
 {
-    QWidget* const editor =
-        makeValueEditor(index.data(OfferedRole), index.data(ChoicesRole).toList(), text, parent);
+    QWidget* const editor = makeValueEditor(index.data(OfferedRole), index.data(ChoicesRole).toList(),
+                                            index.data(SuggestionsRole).toStringList(), text, parent);
     if (editor == nullptr) {
         return nullptr;
     }

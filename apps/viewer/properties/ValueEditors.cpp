@@ -88,6 +88,31 @@ private:
     int given = -1;
 };
 
+/// Texts of which some are entered often.
+class SuggestionEditor : public QComboBox, public ValueEditor
+{
+public:
+    SuggestionEditor(const QStringList& suggestions, QWidget* parent) : QComboBox(parent)
+    {
+        setEditable(true);
+        setInsertPolicy(NoInsert);
+        addItems(suggestions);
+    }
+
+    void setValue(const QVariant& value) override
+    {
+        given = value.toString();
+        setCurrentText(given);
+        lineEdit()->selectAll();
+    }
+
+    std::optional<QVariant> value(QString& /*reason*/) const override { return currentText().trimmed(); }
+    bool isChanged() const override { return currentText() != given; }
+
+private:
+    QString given;
+};
+
 /// Days and times. Without a value of its own it starts at the moment that is offered.
 class MomentEditor : public QDateTimeEdit, public ValueEditor
 {
@@ -134,9 +159,12 @@ bool isInCalendar(const QVariant& moment)
 
 ValueEditor::~ValueEditor() = default;
 
-QWidget* makeValueEditor(const QVariant& offered, const QVariantList& choices, const ValueText& text,
-                         QWidget* parent)
+QWidget* makeValueEditor(const QVariant& offered, const QVariantList& choices, const QStringList& suggestions,
+                         const ValueText& text, QWidget* parent)
 {
+    if (!suggestions.isEmpty()) {
+        return new SuggestionEditor(suggestions, parent);
+    }
     switch (kindOf(offered, choices)) {
     case ValueKind::Choice:
         return new ChoiceEditor(choices, parent);

@@ -33,8 +33,9 @@ protected:
 
 /// The editor for values like \a offered.
 /// \param choices literals to choose from, or none
+/// \param suggestions texts to choose from where any other text can be entered too, or none
 /// \return null where there is nothing to edit; owned by \a parent
-QWidget* makeValueEditor(const QVariant& offered, const QVariantList& choices, const ValueText& text,
-                         QWidget* parent);
+QWidget* makeValueEditor(const QVariant& offered, const QVariantList& choices, const QStringList& suggestions,
+                         const ValueText& text, QWidget* parent);
 
 } // namespace tolvik::viewer

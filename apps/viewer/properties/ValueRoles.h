@@ -10,7 +10,8 @@ enum ValueRole {
     OfferedRole,              ///< what an editor starts from
     ChoicesRole,              ///< the literals to choose from, a list
     AbsentRole,               ///< whether the document has no such attribute
-    DifferingRole             ///< whether the features have different values
+    DifferingRole,            ///< whether the features have different values
+    SuggestionsRole           ///< texts that are entered often, a list; any other text can be entered too
 };
 
 } // namespace tolvik::viewer

@@ -1406,6 +1406,14 @@ height&gt;3, function=1000 für Attribute. Eingabe führt zum nächsten Treffer.
         <source>remove attribute %1 of %2</source>
         <translation>Attribut %1 von %2 entfernen</translation>
     </message>
+    <message>
+        <source>The unit of %1 cannot be &quot;%2&quot;.</source>
+        <translation>Die Einheit von %1 kann nicht „%2“ sein.</translation>
+    </message>
+    <message>
+        <source>change the unit of %1 of %2</source>
+        <translation>Einheit von %1 von %2 ändern</translation>
+    </message>
 </context>
 <context>
     <name>tolvik::viewer::PropertyPanel</name>
@@ -1502,6 +1510,10 @@ height&gt;3, function=1000 für Attribute. Eingabe führt zum nächsten Treffer.
             <numerusform>%n Objekt</numerusform>
             <numerusform>%n Objekte</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Edit the &amp;Unit</source>
+        <translation>&amp;Einheit bearbeiten</translation>
     </message>
 </context>
 <context>

@@ -1406,6 +1406,14 @@ height&gt;3, function=1000 pour les attributs. Entrée mène au résultat suivan
         <source>remove attribute %1 of %2</source>
         <translation>supprimer l’attribut %1 de %2</translation>
     </message>
+    <message>
+        <source>The unit of %1 cannot be &quot;%2&quot;.</source>
+        <translation>L’unité de %1 ne peut pas être « %2 ».</translation>
+    </message>
+    <message>
+        <source>change the unit of %1 of %2</source>
+        <translation>modifier l’unité de %1 de %2</translation>
+    </message>
 </context>
 <context>
     <name>tolvik::viewer::PropertyPanel</name>
@@ -1502,6 +1510,10 @@ height&gt;3, function=1000 pour les attributs. Entrée mène au résultat suivan
             <numerusform>%n objet</numerusform>
             <numerusform>%n objets</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Edit the &amp;Unit</source>
+        <translation>Modifier l’&amp;unité</translation>
     </message>
 </context>
 <context>
