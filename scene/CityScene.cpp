@@ -23,6 +23,8 @@ namespace {
 using citygml::GeometryPiece;
 using citygml::Position;
 
+using PartStates = std::array<osg::ref_ptr<osg::StateSet>, 3>;
+
 constexpr std::size_t noTile = static_cast<std::size_t>(-1);
 /// Of a tile, in corners: about 1,400 triangles.
 constexpr std::size_t tileSize = 2800;
@@ -83,6 +85,12 @@ osg::ref_ptr<osg::StateSet> makePartState(TileDrawable::Part part)
     return state;
 }
 
+PartStates makePartStates()
+{
+    return {makePartState(TileDrawable::Part::Faces), makePartState(TileDrawable::Part::Edges),
+            makePartState(TileDrawable::Part::Marks)};
+}
+
 unsigned maskOf(TileDrawable::Part part)
 {
     switch (part) {
@@ -98,9 +106,7 @@ unsigned maskOf(TileDrawable::Part part)
 } // namespace
 
 CityScene::CityScene()
-    : lookArrays(std::make_shared<std::vector<LookArrays>>(1)),
-      partStates({makePartState(TileDrawable::Part::Faces), makePartState(TileDrawable::Part::Edges),
-                  makePartState(TileDrawable::Part::Marks)})
+    : lookArrays(std::make_shared<std::vector<LookArrays>>(1)), partStates(makePartStates())
 {
     osg::StateSet* const state = top->getOrCreateStateSet();
     table.bind(*state);
@@ -133,24 +139,38 @@ void CityScene::begin(std::vector<const Feature*> features, const QString& docum
 void CityScene::clear()
 {
     workers.clear();
+    top->removeChildren(0, top->getNumChildren());
+    letGo();
     coming.clear();
     looked = 0;
     areLooksRead = true;
     next = 0;
     cells.clear();
-    tiles.clear();
     staleTiles.clear();
     again.clear();
     tileOf.clear();
-    table.clear();
-    surfaceLooks.begin(DocumentFolder());
     libraryObjects = LibraryObjects();
     missingObjects.clear();
     cellSize = smallestCell;
     hasOrigin = false;
     sceneOrigin = {};
     srsName.clear();
-    top->removeChildren(0, top->getNumChildren());
+}
+
+/// Has what is large of a document end in another thread, where nobody waits for it. Everything goes at once:
+/// tiles and looks share what is no more shared by several threads.
+void CityScene::letGo()
+{
+    struct Former
+    {
+        std::vector<Tile> tiles;
+        PartStates states;
+        Looks looks;
+        std::shared_ptr<void> numbers;
+    };
+    workers.discard(std::make_shared<Former>(
+        Former{std::exchange(tiles, {}), partStates, std::exchange(surfaceLooks, Looks()), table.clear()}));
+    partStates = makePartStates();
 }
 
 bool CityScene::hasWork() const

@@ -125,6 +125,7 @@ private:
     };
     using Cell = std::array<long, 2>;
 
+    void letGo();
     bool hasWork() const;
     void workOn();
     void lookForAppearances();

@@ -12,6 +12,8 @@
 
 #include <algorithm>
 #include <typeindex>
+#include <unordered_map>
+#include <utility>
 
 namespace tolvik::scene {
 
@@ -87,7 +89,6 @@ void FeatureTable::reserve(std::size_t count)
     lods.reserve(count);
     states.reserve(count);
     colours.reserve(count);
-    slotByFeature.reserve(count);
 }
 
 Slot FeatureTable::add(const Feature& feature)
@@ -103,14 +104,14 @@ Slot FeatureTable::add(const Feature& feature)
     states.push_back(parent != noSlot && isSelected(parent) ? SelectedBit : 0);
     const std::uint32_t level = parent != noSlot ? (colours[parent] >> levelShift) + 1 : 0;
     colours.push_back(packed(TypeColours::of(feature)) | std::min(level, deepestLevel) << levelShift);
-    slotByFeature[&feature] = slot;
+    slotByFeature->set(&feature, slot);
     areLodsOld = areStatesOld = areColoursOld = true;
     return slot;
 }
 
 void FeatureTable::remove(Slot slot)
 {
-    slotByFeature.erase(features[slot]);
+    slotByFeature->erase(features[slot]);
     features[slot] = nullptr;
     lods[slot] = 0;
     setHidden(slot, true);
@@ -119,22 +120,22 @@ void FeatureTable::remove(Slot slot)
     areLodsOld = true;
 }
 
-void FeatureTable::clear()
+std::shared_ptr<void> FeatureTable::clear()
 {
     features.clear();
     parents.clear();
     units.clear();
     lods.clear();
-    slotByFeature.clear();
     states.clear();
     colours.clear();
     selection.clear();
+    return std::exchange(slotByFeature, std::make_shared<PointerMap<Slot>>());
 }
 
 Slot FeatureTable::slotOf(const Feature* feature) const
 {
-    const auto found = slotByFeature.find(feature);
-    return found != slotByFeature.end() ? found->second : noSlot;
+    const Slot* const found = slotByFeature->find(feature);
+    return found != nullptr ? *found : noSlot;
 }
 
 std::vector<Slot> FeatureTable::withBelow(const std::vector<Slot>& of) const

@@ -1,13 +1,14 @@
 #pragma once
 
 #include "scene/Batch.h"
+#include "scene/PointerMap.h"
 
+#include <memory>
 #include <osg/Image>
 #include <osg/StateSet>
 #include <osg/Texture2D>
 #include <QColor>
 #include <QVariant>
-#include <unordered_map>
 #include <vector>
 
 namespace gml {
@@ -52,7 +53,8 @@ public:
     Slot add(const Feature& feature);
     /// Takes a feature out: it is not found any more, and never drawn.
     void remove(Slot slot);
-    void clear();
+    /// \return something large that is not used any more, to be let go where nobody waits for it
+    std::shared_ptr<void> clear();
 
     std::size_t size() const { return features.size(); }
     /// noSlot for a feature that is not there.
@@ -112,7 +114,7 @@ private:
     std::vector<Slot> units;
     /// A bit for each level of detail that a feature has pieces in.
     std::vector<std::uint8_t> lods;
-    std::unordered_map<const Feature*, Slot> slotByFeature;
+    std::shared_ptr<PointerMap<Slot>> slotByFeature = std::make_shared<PointerMap<Slot>>();
 
     std::vector<std::uint8_t> states;
     std::vector<std::uint32_t> colours;

@@ -278,13 +278,13 @@ bool Looks::addTarget(const app::AbstractSurfaceDataType& data, std::size_t numb
 {
     if (const auto* const material = dynamic_cast<const app::X3DMaterialType*>(&data)) {
         if (number < material->target().size()) {
-            materialTargets[objectOf(data, material->target()[number])] = {cursor.look, nullptr};
+            materialTargets.set(objectOf(data, material->target()[number]), {cursor.look, nullptr});
             return true;
         }
     } else if (const auto* const ground = dynamic_cast<const app::GeoreferencedTextureType*>(&data)) {
         if (number < ground->target().size()) {
-            textureTargets[objectOf(data, ground->target()[number])] = {cursor.look,
-                                                                        textures[cursor.look].ground};
+            textureTargets.set(objectOf(data, ground->target()[number]),
+                               {cursor.look, textures[cursor.look].ground});
             return true;
         }
     } else if (const auto* const texture = dynamic_cast<const app::ParameterizedTextureType*>(&data)) {
@@ -309,7 +309,7 @@ void Looks::addAssociation(const app::TextureAssociationType& association)
         for (const app::textureCoordinates& coordinates : list->textureCoordinates()) {
             placeLists.push_back(
                 std::make_unique<std::vector<float>>(coordinates.begin(), coordinates.end()));
-            ringPlaces[objectOf(association, coordinates.ring())] = placeLists.back().get();
+            ringPlaces.set(objectOf(association, coordinates.ring()), placeLists.back().get());
         }
     } else if (const auto* const world = dynamic_cast<const app::TexCoordGenType*>(parameters)) {
         const app::worldToTexture& numbers = world->worldToTexture();
@@ -318,7 +318,7 @@ void Looks::addAssociation(const app::TextureAssociationType& association)
             std::copy(numbers.begin(), numbers.end(), target.matrix->begin());
         }
     }
-    textureTargets[objectOf(association, association.uri())] = target;
+    textureTargets.set(objectOf(association, association.uri()), target);
 }
 
 /// Takes a position to its place in a picture that lies flat on the ground; null where nothing says how.
@@ -349,20 +349,19 @@ std::shared_ptr<Looks::Matrix> Looks::worldMatrixOf(const app::GeoreferencedText
 
 const Looks::Target* Looks::targetOf(const citygml::GeometryPiece& piece) const
 {
-    for (auto object = piece.objects.rbegin(); object != piece.objects.rend() && !textureTargets.empty();
-         ++object) {
-        const auto found = textureTargets.find(*object);
-        const bool isKnown = found != textureTargets.end();
-        if (isKnown &&
-            (found->second.matrix != nullptr || ringPlaces.count(piece.runs.front().object) != 0)) {
-            return &found->second;
+    if (kinds.size() == 1) {
+        return nullptr;
+    }
+    for (auto object = piece.objects.rbegin(); object != piece.objects.rend(); ++object) {
+        const Target* const found = textureTargets.find(*object);
+        if (found != nullptr &&
+            (found->matrix != nullptr || ringPlaces.find(piece.runs.front().object) != nullptr)) {
+            return found;
         }
     }
-    for (auto object = piece.objects.rbegin(); object != piece.objects.rend() && !materialTargets.empty();
-         ++object) {
-        const auto found = materialTargets.find(*object);
-        if (found != materialTargets.end()) {
-            return &found->second;
+    for (auto object = piece.objects.rbegin(); object != piece.objects.rend(); ++object) {
+        if (const Target* const found = materialTargets.find(*object)) {
+            return found;
         }
     }
     return nullptr;
@@ -382,7 +381,7 @@ void Looks::appendPlaces(const citygml::GeometryPiece& piece, std::uint32_t look
         return;
     }
     for (const citygml::PositionRun& run : piece.runs) {
-        const auto found = ringPlaces.find(run.object);
+        const std::vector<float>* const* const found = ringPlaces.find(run.object);
         for (std::size_t i = run.begin; i < run.end; ++i) {
             std::array<float, 2> place = {0, 0};
             const std::size_t at = 2 * (i - run.begin);
@@ -392,8 +391,8 @@ void Looks::appendPlaces(const citygml::GeometryPiece& piece, std::uint32_t look
                 const double scale = m[8] * x + m[9] * y + m[10] * z + m[11];
                 place = {static_cast<float>((m[0] * x + m[1] * y + m[2] * z + m[3]) / scale),
                          static_cast<float>((m[4] * x + m[5] * y + m[6] * z + m[7]) / scale)};
-            } else if (found != ringPlaces.end() && at + 1 < found->second->size()) {
-                place = {(*found->second)[at], (*found->second)[at + 1]};
+            } else if (found != nullptr && at + 1 < (*found)->size()) {
+                place = {(**found)[at], (**found)[at + 1]};
             }
             places.push_back(place);
         }

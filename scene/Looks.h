@@ -1,5 +1,6 @@
 #pragma once
 
+#include "scene/PointerMap.h"
 #include "scene/TileMesh.h"
 
 #include <array>
@@ -132,10 +133,10 @@ private:
     std::map<std::uint32_t, Texture> textures;
     std::map<std::uint32_t, osg::ref_ptr<osg::StateSet>> states;
     std::map<QString, std::shared_ptr<Picture>> pictures;
-    std::unordered_map<const void*, Target> materialTargets;
-    std::unordered_map<const void*, Target> textureTargets;
+    PointerMap<Target> materialTargets;
+    PointerMap<Target> textureTargets;
     /// Of each ring: two numbers for each position.
-    std::unordered_map<const void*, const std::vector<float>*> ringPlaces;
+    PointerMap<const std::vector<float>*> ringPlaces;
     std::vector<std::unique_ptr<std::vector<float>>> placeLists;
     QStringList missingImages;
 };

@@ -1,9 +1,21 @@
 #include "scene/TileWorkers.h"
 
 #include <algorithm>
+#include <sys/resource.h>
 #include <utility>
 
 namespace tolvik::scene {
+
+namespace {
+
+/// Has the threads of the window, which come with a little to do now and then, go first.
+void yieldToOthers()
+{
+    // On Linux this is of the calling thread alone.
+    setpriority(PRIO_PROCESS, 0, 10);
+}
+
+} // namespace
 
 TileWorkers::~TileWorkers()
 {
@@ -54,6 +66,15 @@ void TileWorkers::clear()
     results.clear();
 }
 
+void TileWorkers::discard(std::shared_ptr<void> object)
+{
+    if (!threads.empty()) {
+        const std::lock_guard<std::mutex> lock(mutex);
+        discarded.push_back(std::move(object));
+        jobsChanged.notify_one();
+    }
+}
+
 /// Starts the threads with the first tile: a scene without features has none.
 void TileWorkers::start()
 {
@@ -65,11 +86,19 @@ void TileWorkers::start()
 
 void TileWorkers::run()
 {
+    yieldToOthers();
     std::unique_lock<std::mutex> lock(mutex);
     for (;;) {
-        jobsChanged.wait(lock, [this] { return isEnding || !jobs.empty(); });
+        jobsChanged.wait(lock, [this] { return isEnding || !jobs.empty() || !discarded.empty(); });
         if (isEnding) {
             return;
+        }
+        if (!discarded.empty()) {
+            auto former = std::exchange(discarded, {});
+            lock.unlock();
+            former.clear();
+            lock.lock();
+            continue;
         }
         const Job job = std::move(jobs.front());
         jobs.pop_front();

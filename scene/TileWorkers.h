@@ -40,6 +40,9 @@ public:
     std::size_t awaited() const;
     /// Gives up what was added and not taken.
     void clear();
+    /// Lets go of an object in one of the threads: that of a large one takes a while. Nobody else uses it,
+    /// nor what it holds.
+    void discard(std::shared_ptr<void> object);
 
 private:
     struct Job
@@ -59,6 +62,7 @@ private:
     std::condition_variable resultsChanged;
     std::deque<Job> jobs;
     std::vector<Result> results;
+    std::vector<std::shared_ptr<void>> discarded;
     std::size_t running = 0;
     /// Counts the calls of clear(): what was begun before is not wanted any more.
     unsigned round = 0;
