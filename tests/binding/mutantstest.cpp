@@ -14,7 +14,7 @@ using namespace testsupport;
 namespace {
 
 /// Of the examples, and as many of the real documents.
-constexpr int mutantsOfAQuickRun = 150;
+constexpr int mutantsOfAQuickRun = 100;
 constexpr int mutantsOfALongRun = 5000;
 
 /// What lenient reading reports; empty if it succeeds.
