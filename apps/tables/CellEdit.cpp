@@ -87,8 +87,9 @@ const CoreProperty* groupAt(const CoreProperty& around, const ColumnPath& path, 
 const CoreProperty* firstBound(const CoreProperty& group)
 {
     for (const auto& child : group.properties()) {
-        const bool isBound = dynamic_cast<const BoundProperty*>(child.get()) != nullptr;
-        if (const CoreProperty* const found = isBound ? child.get() : firstBound(*child)) {
+        const CoreProperty& property = *child;
+        const bool isBound = dynamic_cast<const BoundProperty*>(&property) != nullptr;
+        if (const CoreProperty* const found = isBound ? &property : firstBound(property)) {
             return found;
         }
     }

@@ -93,13 +93,14 @@ std::string PositionCount::misfit(Form form, std::string_view text, std::size_t 
         return misfitOfTuples(text, dimension, separators);
     }
     const std::size_t count = countWords(text);
-    if (form == Form::Position && count != dimension) {
-        return "a position of " + numbers(count) + ", and the dimension is " + std::to_string(dimension);
+    if (form == Form::Position) {
+        return count == dimension ? std::string()
+                                  : "a position of " + numbers(count) + ", and the dimension is " +
+                                        std::to_string(dimension);
     }
-    if (count % dimension != 0) {
-        return numbers(count) + " are no multiple of the dimension " + std::to_string(dimension);
-    }
-    return std::string();
+    return count % dimension == 0
+               ? std::string()
+               : numbers(count) + " are no multiple of the dimension " + std::to_string(dimension);
 }
 
 } // namespace binding

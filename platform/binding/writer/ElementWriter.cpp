@@ -6,6 +6,8 @@
 #include "platform/binding/xml/Namespaces.h"
 #include "platform/binding/xml/PrefixedName.h"
 
+#include <cassert>
+
 namespace citygml {
 namespace binding {
 
@@ -300,6 +302,7 @@ void ElementWriter::writeValue(const Content& content, const TypeIndex::FlatMemb
     }
     text.clear();
     if (child.isAbsent) {
+        assert(child.kept != nullptr);
         values.formatAbsent(content.object, member, *child.kept, text);
     } else {
         values.formatValue(content.object, member, child.index, child.kept, text);
