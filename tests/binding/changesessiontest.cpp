@@ -1,4 +1,3 @@
-#include "citygml/DocumentChanges.h"
 #include "citygml/Member.h"
 #include "core/CityModelType.hxx"
 #include "gml/CodeType.hxx"
@@ -9,6 +8,7 @@
 #include "support/Documents.h"
 #include "support/Files.h"
 #include "support/Mutants.h"
+#include "support/SavedChanges.h"
 #include "support/TestClass.h"
 #include "support/TestPaths.h"
 #include "support/Variants.h"
@@ -22,7 +22,6 @@
 #include <QRegularExpression>
 #include <QtTest>
 #include <random>
-#include <sstream>
 #include <string_view>
 
 using namespace testsupport;
@@ -491,24 +490,6 @@ class ChangeSessionTest : public QObject
     Q_OBJECT
 
 private:
-    static QByteArray saved(const QByteArray& original, const core::CityModelType& document)
-    {
-        std::istringstream stream(original.toStdString());
-        std::ostringstream target;
-        return citygml::writeChanges(stream, document, target) ? QByteArray::fromStdString(target.str())
-                                                               : QByteArray("(not written)");
-    }
-
-    static QByteArray parting(const QByteArray& actual, const QByteArray& expected)
-    {
-        int at = 0;
-        while (at < actual.size() && at < expected.size() && actual[at] == expected[at]) {
-            ++at;
-        }
-        const int from = qMax(0, at - 200);
-        return "\nactual:   ..." + actual.mid(from, 600) + "\nexpected: ..." + expected.mid(from, 600);
-    }
-
     /// Comments stay where they are, where a plain save may move them.
     static XmlNode withoutComments(const QByteArray& xml)
     {

@@ -17,6 +17,7 @@
 #include "support/Documents.h"
 #include "support/Files.h"
 #include "support/Mutants.h"
+#include "support/SavedChanges.h"
 #include "support/TestClass.h"
 #include "support/TestPaths.h"
 #include "support/Variants.h"
@@ -31,26 +32,6 @@
 using namespace testsupport;
 
 namespace {
-
-/// What a save of changes writes; null where it cannot.
-QByteArray saved(const QByteArray& original, const core::CityModelType& document)
-{
-    std::istringstream stream(original.toStdString());
-    std::ostringstream target;
-    const bool isWritten = citygml::writeChanges(stream, document, target);
-    return isWritten ? QByteArray::fromStdString(target.str()) : QByteArray();
-}
-
-/// The first place at which two texts part, for messages.
-QByteArray parting(const QByteArray& actual, const QByteArray& expected)
-{
-    int at = 0;
-    while (at < actual.size() && at < expected.size() && actual[at] == expected[at]) {
-        ++at;
-    }
-    const int from = qMax(0, at - 100);
-    return "\nactual:   ..." + actual.mid(from, 300) + "\nexpected: ..." + expected.mid(from, 300);
-}
 
 bldg::BuildingType& buildingIn(core::CityModelType& document, int number = 0)
 {

@@ -19,9 +19,11 @@ constexpr std::size_t mostPairs = 40000;
 // More than the bytes of any element.
 constexpr std::size_t identityWeight = std::size_t(1) << 44;
 
-bool haveSameName(const OutlineElement& a, const OutlineElement& b)
+/// Whether two nodes are elements with one name.
+bool areAlike(const OutlineNode& a, const OutlineNode& b)
 {
-    return a.local == b.local && *a.uri == *b.uri;
+    return a.element != nullptr && b.element != nullptr && a.element->local == b.element->local &&
+           *a.element->uri == *b.element->uri;
 }
 
 /// The identifier of an element, or the first of those in it; that of a generic attribute is its name. Empty
@@ -166,7 +168,6 @@ void NodeAlignment::matchEqual(Range a, Range b)
     }
 }
 
-/// Matches elements of which one has been edited, between those that are equal.
 void NodeAlignment::matchSimilar()
 {
     Range a{0, 0}, b{0, 0};
@@ -181,8 +182,10 @@ void NodeAlignment::matchSimilar()
     }
 }
 
+/// Matches elements of which one has been edited, between those that are equal.
 void NodeAlignment::matchSimilar(Range a, Range b)
 {
+    matchKnown(a, b);
     const std::size_t countA = a.end - a.begin, countB = b.end - b.begin;
     if (countA == 0 || countB == 0) {
         return;
@@ -212,6 +215,25 @@ void NodeAlignment::matchSimilar(Range a, Range b)
     }
 }
 
+/// Matches elements at the beginnings that are told by their identifiers, as most are, and takes them out.
+void NodeAlignment::matchKnown(Range& a, Range& b)
+{
+    std::unordered_map<std::string_view, int> timesA, timesB;
+    for (std::size_t i = a.begin; i < a.end; ++i) {
+        ++timesA[identity(*nodesBefore[i])];
+    }
+    for (std::size_t i = b.begin; i < b.end; ++i) {
+        ++timesB[identity(*nodesAfter[i])];
+    }
+    for (; a.begin < a.end && b.begin < b.end; ++a.begin, ++b.begin) {
+        const std::string& known = identity(*nodesBefore[a.begin]);
+        if (!areIdentical(a.begin, b.begin) || timesA[known] != 1 || timesB[known] != 1) {
+            return;
+        }
+        found[a.begin] = b.begin;
+    }
+}
+
 void NodeAlignment::matchInTurn(Range a, Range b)
 {
     for (std::size_t j = b.begin; a.begin < a.end; ++a.begin) {
@@ -221,19 +243,33 @@ void NodeAlignment::matchInTurn(Range a, Range b)
     }
 }
 
+/// Whether two nodes are elements with one name and one identifier.
+bool NodeAlignment::areIdentical(std::size_t a, std::size_t b) const
+{
+    const OutlineNode &was = *nodesBefore[a], &is = *nodesAfter[b];
+    return areAlike(was, is) && !identity(was).empty() && identity(was) == identity(is);
+}
+
 /// How much would stay if one node were made of the other; 0 where that cannot be.
 std::size_t NodeAlignment::similarity(std::size_t a, std::size_t b) const
 {
-    const OutlineElement* const elementA = nodesBefore[a]->element.get();
-    const OutlineElement* const elementB = nodesAfter[b]->element.get();
-    if (elementA == nullptr || elementB == nullptr || !haveSameName(*elementA, *elementB)) {
+    const OutlineNode &was = *nodesBefore[a], &is = *nodesAfter[b];
+    if (!areAlike(was, is)) {
         return 0;
     }
     // One that has been edited beyond recognition is still the same if it has kept its identifier.
-    const std::string identity = identityOf(*elementA);
-    const bool isKnown = !identity.empty() && identity == identityOf(*elementB);
-    return (isKnown ? identityWeight : 0) +
-           commonBytes(piecesOf(before, *elementA), piecesOf(after, *elementB));
+    return (areIdentical(a, b) ? identityWeight : 0) +
+           commonBytes(piecesOf(before, *was.element), piecesOf(after, *is.element));
+}
+
+/// The identity of a node's element; empty for any other node.
+const std::string& NodeAlignment::identity(const OutlineNode& node) const
+{
+    const auto known = identities.try_emplace(&node);
+    if (known.second && node.element != nullptr) {
+        known.first->second = identityOf(*node.element);
+    }
+    return known.first->second;
 }
 
 const NodeAlignment::Pieces& NodeAlignment::piecesOf(const XmlOutline& outline,

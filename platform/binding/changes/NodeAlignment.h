@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <optional>
+#include <string>
 #include <unordered_map>
 #include <vector>
 
@@ -35,8 +36,11 @@ private:
     void matchEqual(Range a, Range b);
     void matchSimilar();
     void matchSimilar(Range a, Range b);
+    void matchKnown(Range& a, Range& b);
     void matchInTurn(Range a, Range b);
+    bool areIdentical(std::size_t a, std::size_t b) const;
     std::size_t similarity(std::size_t a, std::size_t b) const;
+    const std::string& identity(const OutlineNode& node) const;
     const Pieces& piecesOf(const XmlOutline& outline, const OutlineElement& element) const;
 
     const XmlOutline& before;
@@ -46,6 +50,8 @@ private:
     // Equal nodes have the same number.
     std::vector<std::size_t> namesBefore, namesAfter;
     std::vector<std::optional<std::size_t>> found;
+    // Of nodes that were asked about.
+    mutable std::unordered_map<const OutlineNode*, std::string> identities;
     mutable std::unordered_map<const OutlineElement*, Pieces> pieces;
 };
 

@@ -76,13 +76,14 @@ NodeAlignment::Nodes nodesOf(const OutlineElement& element, const std::vector<st
     return nodes;
 }
 
-bool comesFirst(const ByteEdit& a, const ByteEdit& b)
-{
-    // What is put in somewhere stands in front of what is taken out there.
-    return a.begin != b.begin ? a.begin < b.begin : a.end == a.begin && b.end != b.begin;
-}
-
 } // namespace
+
+bool putInOrder(std::vector<ByteEdit>& edits)
+{
+    std::stable_sort(edits.begin(), edits.end());
+    const auto overlap = [](const ByteEdit& a, const ByteEdit& b) { return b.begin < a.end; };
+    return std::adjacent_find(edits.begin(), edits.end(), overlap) == edits.end();
+}
 
 bool OutlineMerge::run()
 {
@@ -91,9 +92,7 @@ bool OutlineMerge::run()
     }
     merge(original.root(), before.root(), after.root());
     declareNamespaces();
-    std::stable_sort(changes.begin(), changes.end(), comesFirst);
-    const auto overlap = [](const ByteEdit& a, const ByteEdit& b) { return b.begin < a.end; };
-    return isOpen && std::adjacent_find(changes.begin(), changes.end(), overlap) == changes.end();
+    return putInOrder(changes) && isOpen;
 }
 
 void OutlineMerge::merge(const Element& place, const Element& was, const Element& is)

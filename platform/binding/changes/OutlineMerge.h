@@ -17,7 +17,22 @@ struct ByteEdit
     std::size_t begin, end;
     /// In the encoding of the document.
     std::string bytes;
+
+    bool operator==(const ByteEdit& other) const
+    {
+        return begin == other.begin && end == other.end && bytes == other.bytes;
+    }
+    /// What is put in somewhere stands in front of what is taken out there.
+    bool operator<(const ByteEdit& other) const
+    {
+        return begin != other.begin ? begin < other.begin : end == begin && other.end != other.begin;
+    }
 };
+
+/// Puts edits in the order of the bytes.
+///
+/// \return false where some overlap
+bool putInOrder(std::vector<ByteEdit>& edits);
 
 /// Finds out how the bytes of a document have to change, so that it says what an edited document says.
 ///

@@ -2,13 +2,13 @@
 
 #include "citygml/ReadingThreads.h"
 #include "gml/AbstractGMLType.hxx"
+#include "platform/binding/changes/MarkupSearch.h"
 #include "platform/binding/changes/SameContent.h"
 #include "platform/binding/reader/DocumentHandler.h"
 #include "platform/binding/reader/Encodings.h"
 #include "platform/binding/reader/ReadingThreads.h"
 #include "platform/binding/values/WhiteSpace.h"
 #include "platform/binding/writer/DocumentWriter.h"
-#include "platform/binding/xml/PrefixedName.h"
 
 #include <log4cplus/logger.h>
 
@@ -32,26 +32,10 @@ constexpr std::size_t largestSample = 1 << 20;
 constexpr std::size_t mostAhead = 8;
 constexpr std::size_t mostBehind = 32;
 
-bool startsWith(std::string_view text, std::size_t at, std::string_view start)
+/// The white space at the end of a text.
+std::string_view lastBlankIn(std::string_view text)
 {
-    return text.compare(at, start.size(), start) == 0;
-}
-
-/// Where the next element begins, behind white space, comments and instructions.
-std::size_t elementBegin(std::string_view bytes, std::size_t at)
-{
-    for (;;) {
-        at = bytes.find('<', at);
-        if (startsWith(bytes, at, "<!--")) {
-            at = bytes.find("-->", at);
-        } else if (startsWith(bytes, at, "<?")) {
-            at = bytes.find("?>", at);
-        } else if (startsWith(bytes, at, "<![CDATA[")) {
-            at = bytes.find("]]>", at);
-        } else {
-            return at;
-        }
-    }
+    return text.substr(text.find_last_not_of(" \t\r\n") + 1);
 }
 
 std::string identifierOf(const xml_schema::type& object)
@@ -91,11 +75,11 @@ WrittenChildren::WrittenChildren(const core::CityModelType& document)
 
 std::optional<std::size_t> WrittenChildren::find(const std::string& identifier)
 {
-    if (numbers.empty()) {
+    std::call_once(areNumbersKnown, [this] {
         for (std::size_t i = 0; i < all.size(); ++i) {
-            numbers.emplace(identifierIn(*all[i]), i);
+            numbers.emplace(identifierIn(*all[i].object), i);
         }
-    }
+    });
     const auto found = numbers.find(identifier);
     return identifier.empty() || found == numbers.end() ? std::nullopt
                                                         : std::optional<std::size_t>(found->second);
@@ -104,18 +88,18 @@ std::optional<std::size_t> WrittenChildren::find(const std::string& identifier)
 void WrittenChildren::elide(std::size_t first, std::size_t count, const std::string& number)
 {
     for (std::size_t i = first; i < first + count; ++i) {
-        elided[all[i]] = i == first ? number : std::string();
+        elided[all[i].object] = i == first ? number : std::string();
     }
 }
 
-const std::string* WrittenChildren::numberOf(const xml_schema::type& child)
+const std::string* WrittenChildren::numberOf(const ChildObject& child, int depth)
 {
     static const std::string none;
     if (isCollecting) {
-        all.push_back(&child);
+        all.push_back(child);
         return &none;
     }
-    const auto found = elided.find(&child);
+    const auto found = depth == 1 ? elided.find(child.object) : elided.end();
     return found != elided.end() ? &found->second : nullptr;
 }
 
@@ -136,8 +120,14 @@ struct ReducedOriginal::Piece
         bool isSame = false;
         /// Null where it is the same, and where it cannot be read apart from the rest.
         std::unique_ptr<xml_schema::type> object;
+        /// The number of the document's child that it becomes by these edits, places counted from its first
+        /// byte; none where neither is known.
+        std::size_t edited = 0;
+        std::optional<std::vector<ByteEdit>> edits;
     };
     std::vector<Child> children;
+    /// What the edits of the children need in front of all.
+    std::vector<ByteEdit> headEdits;
 
     std::size_t endOf(std::size_t child) const { return ends[child]; }
     std::size_t endInFrontOf(std::size_t child) const { return child != 0 ? ends[child - 1] : 0; }
@@ -151,12 +141,12 @@ struct ReducedOriginal::Piece
         return std::string_view(bytes).substr(children[child].begin, endOf(child) - children[child].begin);
     }
 
-    void compare(const RootContext& context, const std::vector<const xml_schema::type*>& document);
+    void compare(const RootContext& context, const std::vector<ChildObject>& document);
+    void findEdits(const ChildrenMerge& merge, WrittenChildren& document);
 };
 
 /// Reads the children and compares each with the one of the document that may be the same.
-void ReducedOriginal::Piece::compare(const RootContext& context,
-                                     const std::vector<const xml_schema::type*>& document)
+void ReducedOriginal::Piece::compare(const RootContext& context, const std::vector<ChildObject>& document)
 {
     struct Reading
     {
@@ -185,7 +175,7 @@ void ReducedOriginal::Piece::compare(const RootContext& context,
                 continue;
             }
             children[i].isSame =
-                number < document.size() && haveSameContent(*read.front().object, *document[number]);
+                number < document.size() && haveSameContent(*read.front().object, *document[number].object);
             if (!children[i].isSame) {
                 children[i].object = std::move(read.front().object);
             }
@@ -196,8 +186,32 @@ void ReducedOriginal::Piece::compare(const RootContext& context,
     }
 }
 
-ReducedOriginal::ReducedOriginal(std::istream& stream, WrittenChildren& written)
-    : stream(stream), written(written), start(static_cast<std::uint64_t>(stream.tellg())), mark(newMark())
+/// Finds out how those become the document's that are not the same and have its identifier.
+void ReducedOriginal::Piece::findEdits(const ChildrenMerge& merge, WrittenChildren& document)
+{
+    std::vector<EditedChild> edited;
+    std::vector<Child*> which;
+    for (std::size_t i = 0; i < children.size(); ++i) {
+        Child& child = children[i];
+        const std::optional<std::size_t> number =
+            child.object != nullptr ? document.find(identifierIn(*child.object)) : std::nullopt;
+        if (number) {
+            child.edited = *number;
+            which.push_back(&child);
+            edited.push_back({lastBlankIn(gapOf(i)), bytesOf(i), child.object.get(),
+                              document.children()[*number], std::nullopt});
+        }
+    }
+    headEdits = merge.run(edited);
+    for (std::size_t i = 0; i < which.size(); ++i) {
+        which[i]->edits = std::move(edited[i].edits);
+    }
+}
+
+ReducedOriginal::ReducedOriginal(std::istream& stream, const core::CityModelType& document,
+                                 WrittenChildren& written, const NamespaceMap& prefixes)
+    : stream(stream), document(document), written(written), prefixes(prefixes),
+      start(static_cast<std::uint64_t>(stream.tellg())), mark(newMark())
 {
     read();
 }
@@ -208,10 +222,10 @@ void ReducedOriginal::read()
     while (!isAtEnd && !cutter.isDone()) {
         isAtEnd = !readBlock();
         cutter.scan(buffer);
-        if (!context && cutter.rootBegin() != 0 && !readHead()) {
+        if (merge == nullptr && cutter.rootBegin() != 0 && !readHead()) {
             break;
         }
-        if (context) {
+        if (merge != nullptr) {
             addPieces(isAtEnd || cutter.isDone());
         }
     }
@@ -252,8 +266,8 @@ bool ReducedOriginal::readHead()
     if (!handler.hasRoot() || handler.isOlderVersion()) {
         return false;
     }
-    context.emplace(handler.rootContext());
     reduced.assign(buffer, 0, end);
+    merge = std::make_unique<ChildrenMerge>(reduced, handler.rootContext(), document, prefixes, mark);
     buffer.erase(0, end);
     bufferBegin = end;
     cutter.drop(end);
@@ -289,7 +303,8 @@ void ReducedOriginal::addPiece(std::vector<std::size_t> ends)
 
     const unsigned threads = readingThreads();
     const auto compare = [this, shared = std::shared_ptr<Piece>(std::move(piece))] {
-        shared->compare(*context, written.children());
+        shared->compare(merge->rootContext(), written.children());
+        shared->findEdits(*merge, written);
         return shared;
     };
     try {
@@ -308,6 +323,11 @@ void ReducedOriginal::takePiece()
     const std::shared_ptr<const Piece> piece = pieces.front().get();
     pieces.pop_front();
     childrenInPieces -= piece->children.size();
+    for (const ByteEdit& edit : piece->headEdits) {
+        if (std::find(headEdits.begin(), headEdits.end(), edit) == headEdits.end()) {
+            headEdits.push_back(edit);
+        }
+    }
     for (std::size_t i = 0; i < piece->children.size(); ++i) {
         const std::optional<std::size_t> match = matchOf(*piece, i);
         unmatched = match ? 0 : unmatched + 1;
@@ -323,6 +343,9 @@ std::optional<std::size_t> ReducedOriginal::matchOf(const Piece& piece, std::siz
     if (found.isSame && piece.guess + child >= expected) {
         return piece.guess + child;
     }
+    if (found.edits && found.edited >= expected) {
+        return found.edited;
+    }
     return found.object != nullptr ? search(*found.object) : std::nullopt;
 }
 
@@ -330,7 +353,7 @@ std::optional<std::size_t> ReducedOriginal::search(const xml_schema::type& child
 {
     const auto& children = written.children();
     const auto isSame = [&](std::size_t number) {
-        return number >= expected && number < children.size() && haveSameContent(child, *children[number]);
+        return number >= expected && number < children.size() && haveSameContent(child, *children[number].object);
     };
     // Where it is if those since the last one were edited, or else, if some of them were taken out.
     const std::size_t likely = expected + unmatched;
@@ -357,24 +380,38 @@ std::optional<std::size_t> ReducedOriginal::search(const xml_schema::type& child
 void ReducedOriginal::addChild(const Piece& piece, std::size_t child, std::optional<std::size_t> match)
 {
     const std::string_view bytes = piece.bytesOf(child), gap = piece.gapOf(child);
-    const std::uint64_t end = piece.begin + piece.endOf(child);
     if (run && match == run->first + run->count && isBlank(gap)) {
-        ++run->count;
-        run->end = end;
+        addToRun(piece, child);
         return;
     }
     endRun();
     reduced += gap;
-    const std::string_view tag = bytes.substr(0, bytes.find('>'));
-    const std::string_view name = bytes.substr(1, bytes.find_first_of(" \t\r\n/>", 1) - 1);
     // New elements are indented as one that is there.
     const bool isSample = !hasSample && bytes.size() < largestSample;
     hasSample = hasSample || isSample;
     // The empty element has no declarations.
-    if (match && !isSample && tag.find("xmlns") == std::string_view::npos) {
-        run.emplace(Run{std::string(name), piece.begin + piece.children[child].begin, end, *match, 1});
+    const bool declares = bytes.substr(0, bytes.find('>')).find("xmlns") != std::string_view::npos;
+    if (match && !isSample && !declares) {
+        run.emplace(Run{std::string(tagNameAt(bytes, 0)), piece.begin + piece.children[child].begin, 0,
+                        *match, 0, {}});
+        addToRun(piece, child);
     } else {
         reduced += bytes;
+    }
+}
+
+void ReducedOriginal::addToRun(const Piece& piece, std::size_t child)
+{
+    ++run->count;
+    run->end = piece.begin + piece.endOf(child);
+    const Piece::Child& added = piece.children[child];
+    if (!added.edits) {
+        return;
+    }
+    for (ByteEdit edit : *added.edits) {
+        edit.begin += piece.begin + added.begin;
+        edit.end += piece.begin + added.begin;
+        run->edits.push_back(std::move(edit));
     }
 }
 
@@ -386,17 +423,24 @@ void ReducedOriginal::endRun()
     const std::string number = mark + std::to_string(elisions.size());
     const std::size_t begin = reduced.size();
     reduced += '<' + run->name + " n=\"" + number + "\"/>";
-    elisions.push_back({begin, reduced.size(), run->begin, run->end});
+    elisions.push_back({begin, reduced.size(), run->begin, run->end, std::move(run->edits)});
     written.elide(run->first, run->count, number);
     run.reset();
 }
 
-bool ReducedOriginal::write(const std::vector<ByteEdit>& edits, std::ostream& target)
+bool ReducedOriginal::write(std::vector<ByteEdit> edits, std::ostream& target)
 {
+    for (const ByteEdit& edit : headEdits) {
+        if (std::find(edits.begin(), edits.end(), edit) == edits.end()) {
+            edits.push_back(edit);
+        }
+    }
     std::vector<std::vector<Inserted>> inserted;
+    bool isPossible = putInOrder(edits);
     for (const ByteEdit& edit : edits) {
         std::optional<std::vector<Inserted>> parts = partsOf(edit.bytes);
-        if (!parts || cutsElision(edit.begin) || cutsElision(edit.end)) {
+        isPossible = isPossible && parts && !cutsElision(edit.begin) && !cutsElision(edit.end);
+        if (!isPossible) {
             return false;
         }
         inserted.push_back(std::move(*parts));
@@ -459,10 +503,21 @@ void ReducedOriginal::copy(std::size_t begin, std::size_t end, std::ostream& tar
 
 void ReducedOriginal::copy(const Elision& elision, std::ostream& target)
 {
+    std::uint64_t at = elision.first;
+    for (const ByteEdit& edit : elision.edits) {
+        copyOriginal(at, edit.begin, target);
+        target.write(edit.bytes.data(), static_cast<std::streamsize>(edit.bytes.size()));
+        at = edit.end;
+    }
+    copyOriginal(at, elision.last, target);
+}
+
+void ReducedOriginal::copyOriginal(std::uint64_t begin, std::uint64_t end, std::ostream& target)
+{
     std::array<char, blockSize> block{};
     stream.clear();
-    stream.seekg(static_cast<std::streamoff>(start + elision.first));
-    for (std::uint64_t left = elision.last - elision.first; left != 0 && stream;) {
+    stream.seekg(static_cast<std::streamoff>(start + begin));
+    for (std::uint64_t left = end - begin; left != 0 && stream;) {
         stream.read(block.data(), static_cast<std::streamsize>(std::min<std::uint64_t>(left, blockSize)));
         target.write(block.data(), stream.gcount());
         left -= static_cast<std::uint64_t>(stream.gcount());

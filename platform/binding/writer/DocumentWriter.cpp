@@ -119,7 +119,7 @@ void writeDocument(std::ostream& stream, const core::CityModelType& model, const
 }
 
 std::string textForComparison(const core::CityModelType& model, const NamespaceMap& wanted,
-                              RootChildSelection* selection)
+                              ElementSelection* selection)
 {
     std::ostringstream stream;
     writeDocument(stream, model, wanted,

@@ -10,7 +10,7 @@
 namespace citygml {
 namespace binding {
 
-class RootChildSelection;
+class ElementSelection;
 
 /// The namespaces that a host wants declared, with the places of their schemas, by prefix.
 using NamespaceMap = xsd::cxx::xml::dom::namespace_infomap<char>;
@@ -27,7 +27,7 @@ void writeDocument(std::ostream& stream, const core::CityModelType& model, const
 /// \param namespaces as above
 /// \param selection may be null
 std::string textForComparison(const core::CityModelType& model, const NamespaceMap& namespaces,
-                              RootChildSelection* selection);
+                              ElementSelection* selection);
 
 } // namespace binding
 } // namespace citygml

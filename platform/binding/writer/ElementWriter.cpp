@@ -174,9 +174,16 @@ void ElementWriter::writeContent(const xml_schema::type& object, const TypeIndex
 {
     const bool isIndented = kept == nullptr || !kept->hasText();
     Content content{object, type, kept, depth + 1, isIndented, KeptContent::NodeCursor(kept)};
-    writeChildren(content);
-    while (const KeptContent::Node* const node = content.nodes.take()) {
-        writeNode(content, *node);
+    const bool isSelected = depth == 0 && selection != nullptr && selection->rootChildren() != nullptr;
+    if (isSelected) {
+        for (const ChildObject& child : *selection->rootChildren()) {
+            writeObject(content, child.member, *child.object);
+        }
+    } else {
+        writeChildren(content);
+        while (const KeptContent::Node* const node = content.nodes.take()) {
+            writeNode(content, *node);
+        }
     }
     if (content.isEmpty) {
         out.endEmptyTag();
@@ -267,11 +274,16 @@ void ElementWriter::writeChild(Content& content, MemberCursor& children, const P
         writeValue(content, member, child);
         return;
     }
-    const xml_schema::type& object = member.declaration->ops->at(content.object, child.index);
+    writeObject(content, member.index, member.declaration->ops->at(content.object, child.index));
+}
+
+void ElementWriter::writeObject(Content& content, MemberIndex member, const xml_schema::type& object)
+{
     const TypeIndex& type = index.typeOf(object);
-    const ElementNames::Tag& tag = names.ofObject(content.type, member.index, object, type);
-    const bool isSelected = selection != nullptr && content.depth == 1;
-    if (const std::string* const number = isSelected ? selection->numberOf(object) : nullptr) {
+    const ElementNames::Tag& tag = names.ofObject(content.type, member, object, type);
+    const std::string* const number =
+        selection != nullptr ? selection->numberOf({&object, member}, content.depth) : nullptr;
+    if (number != nullptr) {
         writeNumber(content, tag.name, *number);
         return;
     }

@@ -17,14 +17,24 @@
 namespace citygml {
 namespace binding {
 
-/// Says of children of the root that they are written in another way.
-class RootChildSelection
+/// An object, and the index of the member of its parent that holds it.
+struct ChildObject
+{
+    const xml_schema::type* object;
+    MemberIndex member;
+};
+
+/// Says of elements that they are written in another way.
+class ElementSelection
 {
 public:
-    virtual ~RootChildSelection() = default;
-    /// \return null for a child to be written as it is, an empty text for one that is left out, else a number
-    /// for an empty element in its place, with only this as an attribute `n`
-    virtual const std::string* numberOf(const xml_schema::type& child) = 0;
+    virtual ~ElementSelection() = default;
+    /// \return the only children of the root that are written, with nothing between them; null for all
+    virtual const std::vector<ChildObject>* rootChildren() const { return nullptr; }
+    /// \param depth 1 for children of the root
+    /// \return null for an element to be written as it is, an empty text for one that is left out, else a
+    /// number for an empty element in its place, with only this as an attribute `n`
+    virtual const std::string* numberOf(const ChildObject& child, int depth) = 0;
 };
 
 /// Writes objects as elements: their attributes, texts and children by the schema tables, and between these
@@ -38,14 +48,13 @@ public:
     /// \param rootScope see KeptContentWriter
     ElementWriter(XmlOutput& out, NamespaceDeclarations& namespaces, const KeptContent::Scope* rootScope);
 
-    /// Marks what no member holds from now on, see KeptContentWriter, and selects among the children of the
-    /// root.
+    /// Marks what no member holds from now on, see KeptContentWriter, and selects among the elements.
     ///
-    /// \param rootChildren may be null
-    void writeForComparison(RootChildSelection* rootChildren)
+    /// \param elements may be null
+    void writeForComparison(ElementSelection* elements)
     {
         keptWriter.markNodes();
-        selection = rootChildren;
+        selection = elements;
     }
     /// Writes a whole document, from the start tag of its root to the end tag.
     ///
@@ -88,6 +97,7 @@ private:
     void writeInKeptOrder(Content& content);
     MemberCursor cursorOf(const Content& content, std::size_t member) const;
     void writeChild(Content& content, MemberCursor& children, const KeptContent::Position& position);
+    void writeObject(Content& content, MemberIndex member, const xml_schema::type& object);
     void writeNumber(Content& content, const std::string& tag, const std::string& number);
     void writeValue(const Content& content, const TypeIndex::FlatMember& member,
                     const MemberCursor::Child& child);
@@ -98,7 +108,7 @@ private:
     ElementNames names;
     ValueWriter values;
     KeptContentWriter keptWriter;
-    RootChildSelection* selection = nullptr;
+    ElementSelection* selection = nullptr;
     // The text of the attribute or element that is being written; here, so that its memory is used again.
     std::string text;
 };
