@@ -380,7 +380,13 @@ QModelIndex CityGMLProxyModel::mapFromSource(const QModelIndex& index) const
     if (source == nullptr || sourceBusy || !index.isValid()) {
         return QModelIndex();
     }
-    TreeNodeGML* const node = treeNode(document()->getFeature(index));
+    // The source's own indexes know the feature: its entry is looked for while the source looks up the row.
+    auto* const known = static_cast<gml::AbstractFeatureType*>(index.internalPointer());
+    gml::AbstractFeatureType* const feature = document()->getFeature(index);
+    TreeNodeGML* node = treeNode(known);
+    if (feature != known) {
+        node = treeNode(feature);
+    }
     if (node == nullptr) {
         return QModelIndex();
     }
