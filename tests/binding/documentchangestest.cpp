@@ -7,6 +7,8 @@
 #include "citygml/ReadingThreads.h"
 #include "core/CityModelType.hxx"
 #include "energy/poly_isLandmarked.hxx"
+#include "gen/GenericAttributeSetType.hxx"
+#include "gen/IntAttributeType.hxx"
 #include "gml/BoundingShapeType.hxx"
 #include "gml/CodeType.hxx"
 #include "gml/DirectPositionType.hxx"
@@ -196,6 +198,29 @@ private slots:
             "<core:cityObjectMember><bldg:Building><bldg:class><![CDATA[a<b]]></bldg:class></bldg:Building>"
             "</core:cityObjectMember>",
             on([](bldg::BuildingType& b) { b.class_(gml::CodeType("c<d")); }), "a<b", "c<d");
+        const QByteArray sets = "<gen:genericAttributeSet name='a' ><gen:intAttribute name='b'><gen:value>1"
+                                "</gen:value></gen:intAttribute><gen:intAttribute name='c'><gen:value>1"
+                                "</gen:value></gen:intAttribute></gen:genericAttributeSet>";
+        const QByteArray other = QByteArray(sets).replace("a' >", "a'>").replace(">1<", ">2<");
+        const auto valueIn = [](xml_schema::type & set) -> auto&
+        {
+            auto& attributes = dynamic_cast<gen::GenericAttributeSetType&>(set)._genericAttribute();
+            return dynamic_cast<gen::IntAttributeType&>(attributes.front()).value();
+        };
+        add("first of two with one name", buildingMember(sets + other), on([valueIn](bldg::BuildingType& b) {
+                auto& attributes = b._GenericApplicationPropertyOfCityObject();
+                attributes.erase(attributes.begin());
+                valueIn(attributes.front()) = 3;
+            }),
+            sets + other.left(other.indexOf(">2<") + 3), other.left(other.indexOf(">2<")) + ">3<");
+        add("like one in front", buildingMember(sets), on([valueIn](bldg::BuildingType& b) {
+                auto& attributes = b._GenericApplicationPropertyOfCityObject();
+                attributes.insert(attributes.begin(), attributes.front());
+                dynamic_cast<gen::GenericAttributeSetType&>(attributes.front())._genericAttribute().clear();
+                valueIn(attributes.back()) = 3;
+            }),
+            sets.left(sets.indexOf(">1<") + 3),
+            "<gen:genericAttributeSet name=\"a\"/>" + sets.left(sets.indexOf(">1<")) + ">3<");
         add("empty element", "<core:cityObjectMember><bldg:Building/></core:cityObjectMember>",
             on([](bldg::BuildingType& b) { b.class_(gml::CodeType("c")); }), "<bldg:Building/>",
             "<bldg:Building><bldg:class>c</bldg:class></bldg:Building>");

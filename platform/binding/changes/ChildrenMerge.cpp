@@ -179,8 +179,7 @@ ChildrenMerge::Extract::unchangedIn(const EditedChild& child) const
         for (std::size_t i = 0; i < count; ++i) {
             const InnerElement& element = ofMember.second[i];
             const xml_schema::type& object = ops.at(*is, i);
-            if (element.end - element.begin >= shortestElided && !index.typeOf(object).hasText() &&
-                haveSameContent(ops.at(*was, i), object)) {
+            if (element.end - element.begin >= shortestElided && haveSameContent(ops.at(*was, i), object)) {
                 result.push_back({element.begin, element.end, &object});
             }
         }
@@ -229,26 +228,22 @@ bool ChildrenMerge::Extract::take(const std::vector<ByteEdit>& edits, std::vecto
     return true;
 }
 
-/// The edit of the child's bytes that is one of the extract's; nothing where it is not in the child, or makes
-/// something else of what stands for elements.
+/// The edit of the child's bytes that is one of the extract's; nothing where it is not in the child, or moves
+/// what stands for an element.
 std::optional<ByteEdit> ChildrenMerge::Extract::editIn(const Part& part, const ByteEdit& edit) const
 {
-    if (edit.begin < part.begin || edit.end > part.end ||
-        edit.bytes.find(merge.mark) != std::string::npos) {
+    if (edit.begin < part.begin || edit.bytes.find(merge.mark) != std::string::npos) {
         return std::nullopt;
     }
-    // How much farther a place is in the child.
-    std::size_t extract = part.begin, child = 0;
+    // A place in the extract, and the same in the child.
+    std::size_t inExtract = part.begin, inChild = 0;
     for (const Elided& elided : part.elided) {
-        if (edit.begin < elided.end && edit.end > elided.begin) {
-            return std::nullopt;
-        }
         if (edit.begin >= elided.end) {
-            extract = elided.end;
-            child = elided.last;
+            inExtract = elided.end;
+            inChild = elided.last;
         }
     }
-    return ByteEdit{edit.begin - extract + child, edit.end - extract + child, edit.bytes};
+    return ByteEdit{edit.begin - inExtract + inChild, edit.end - inExtract + inChild, edit.bytes};
 }
 
 std::vector<ByteEdit> ChildrenMerge::run(std::vector<EditedChild>& children) const

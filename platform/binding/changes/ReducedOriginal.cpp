@@ -323,11 +323,7 @@ void ReducedOriginal::takePiece()
     const std::shared_ptr<const Piece> piece = pieces.front().get();
     pieces.pop_front();
     childrenInPieces -= piece->children.size();
-    for (const ByteEdit& edit : piece->headEdits) {
-        if (std::find(headEdits.begin(), headEdits.end(), edit) == headEdits.end()) {
-            headEdits.push_back(edit);
-        }
-    }
+    headEdits.insert(headEdits.end(), piece->headEdits.begin(), piece->headEdits.end());
     for (std::size_t i = 0; i < piece->children.size(); ++i) {
         const std::optional<std::size_t> match = matchOf(*piece, i);
         unmatched = match ? 0 : unmatched + 1;
@@ -353,7 +349,8 @@ std::optional<std::size_t> ReducedOriginal::search(const xml_schema::type& child
 {
     const auto& children = written.children();
     const auto isSame = [&](std::size_t number) {
-        return number >= expected && number < children.size() && haveSameContent(child, *children[number].object);
+        return number >= expected && number < children.size() &&
+               haveSameContent(child, *children[number].object);
     };
     // Where it is if those since the last one were edited, or else, if some of them were taken out.
     const std::size_t likely = expected + unmatched;
@@ -392,8 +389,8 @@ void ReducedOriginal::addChild(const Piece& piece, std::size_t child, std::optio
     // The empty element has no declarations.
     const bool declares = bytes.substr(0, bytes.find('>')).find("xmlns") != std::string_view::npos;
     if (match && !isSample && !declares) {
-        run.emplace(Run{std::string(tagNameAt(bytes, 0)), piece.begin + piece.children[child].begin, 0,
-                        *match, 0, {}});
+        run.emplace(Run{
+            std::string(tagNameAt(bytes, 0)), piece.begin + piece.children[child].begin, 0, *match, 0, {}});
         addToRun(piece, child);
     } else {
         reduced += bytes;

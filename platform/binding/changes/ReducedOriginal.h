@@ -68,7 +68,8 @@ public:
     /// puts elsewhere keep their bytes.
     ///
     /// \param edits those that are not known
-    /// \return false, with nothing written, where edits overlap or one of them makes something else of what stands for children
+    /// \return false, with nothing written, where edits overlap, or one of them makes something else of what
+    /// stands for children
     bool write(std::vector<ByteEdit> edits, std::ostream& target);
 
 private:
