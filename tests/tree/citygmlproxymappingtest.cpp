@@ -93,6 +93,18 @@ private slots:
         QCOMPARE(model.calls, 1);
     }
 
+    void anOldIndexMeansTheFeatureOfItsRow()
+    {
+        CityTree city;
+        const QModelIndex row = city.source("d1");
+        const QModelIndex old = city.model.index(row.row(), 0);
+        city.model.removeFeature(city.feature("d1"));
+        gml::AbstractFeatureType* const now = city.model.getFeature(old.row());
+        QVERIFY(old.internalPointer() != now);
+        QCOMPARE(city.tree.mapFromSource(old), city.tree.index(now));
+        QVERIFY(city.tree.mapFromSource(old).isValid());
+    }
+
     void indexOfANode()
     {
         const CityTree city;

@@ -15,10 +15,10 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <exception>
 #include <istream>
 #include <ostream>
 #include <random>
-#include <system_error>
 
 namespace citygml {
 namespace binding {
@@ -117,17 +117,18 @@ struct ReducedOriginal::Piece
     struct Child
     {
         std::size_t begin = 0;
-        bool isSame = false;
-        /// Null where it is the same, and where it cannot be read apart from the rest.
+        /// Null where it cannot be read apart from the rest, and where it is not needed any more.
         std::unique_ptr<xml_schema::type> object;
-        /// The number of the document's child that it becomes by these edits, places counted from its first
-        /// byte; none where neither is known.
-        std::size_t edited = 0;
+        /// The number of the document's child that it becomes by some edits, places counted from its first
+        /// byte, and none of these where it is the same; nothing where that is not known.
+        std::size_t number = 0;
         std::optional<std::vector<ByteEdit>> edits;
     };
     std::vector<Child> children;
     /// What the edits of the children need in front of all.
     std::vector<ByteEdit> headEdits;
+    /// What has kept the children from being compared.
+    std::exception_ptr failure;
 
     std::size_t endOf(std::size_t child) const { return ends[child]; }
     std::size_t endInFrontOf(std::size_t child) const { return child != 0 ? ends[child - 1] : 0; }
@@ -141,12 +142,27 @@ struct ReducedOriginal::Piece
         return std::string_view(bytes).substr(children[child].begin, endOf(child) - children[child].begin);
     }
 
-    void compare(const RootContext& context, const std::vector<ChildObject>& document);
+    void compare(const ChildrenMerge& merge, WrittenChildren& document);
+
+private:
+    void readChildren(const RootContext& context, const std::vector<ChildObject>& document);
+    static void compareWith(Child& child, std::size_t number, const std::vector<ChildObject>& document);
     void findEdits(const ChildrenMerge& merge, WrittenChildren& document);
 };
 
-/// Reads the children and compares each with the one of the document that may be the same.
-void ReducedOriginal::Piece::compare(const RootContext& context, const std::vector<ChildObject>& document)
+/// Reads the children and compares each with the one of the document that may be the same or become of it.
+void ReducedOriginal::Piece::compare(const ChildrenMerge& merge, WrittenChildren& document)
+{
+    try {
+        readChildren(merge.rootContext(), document.children());
+        findEdits(merge, document);
+    } catch (...) {
+        failure = std::current_exception();
+    }
+}
+
+void ReducedOriginal::Piece::readChildren(const RootContext& context,
+                                          const std::vector<ChildObject>& document)
 {
     struct Reading
     {
@@ -170,19 +186,25 @@ void ReducedOriginal::Piece::compare(const RootContext& context, const std::vect
         try {
             reading->parser.feed(bytesOf(i), reading->handler);
             std::vector<RootChild> read = reading->handler.takeChildren();
-            const std::size_t number = guess + i;
-            if (read.size() != 1) {
-                continue;
-            }
-            children[i].isSame =
-                number < document.size() && haveSameContent(*read.front().object, *document[number].object);
-            if (!children[i].isSame) {
+            if (read.size() == 1) {
                 children[i].object = std::move(read.front().object);
+                compareWith(children[i], guess + i, document);
             }
         } catch (...) {
             // Who reads the rest reads it too.
             reading = nullptr;
         }
+    }
+}
+
+/// Notes the document's child with that number if it is the same.
+void ReducedOriginal::Piece::compareWith(Child& child, std::size_t number,
+                                         const std::vector<ChildObject>& document)
+{
+    if (number < document.size() && haveSameContent(*child.object, *document[number].object)) {
+        child.number = number;
+        child.edits.emplace();
+        child.object.reset();
     }
 }
 
@@ -195,8 +217,12 @@ void ReducedOriginal::Piece::findEdits(const ChildrenMerge& merge, WrittenChildr
         Child& child = children[i];
         const std::optional<std::size_t> number =
             child.object != nullptr ? document.find(identifierIn(*child.object)) : std::nullopt;
-        if (number) {
-            child.edited = *number;
+        if (!number) {
+            continue;
+        }
+        compareWith(child, *number, document.children());
+        if (!child.edits) {
+            child.number = *number;
             which.push_back(&child);
             edited.push_back({lastBlankIn(gapOf(i)), bytesOf(i), child.object.get(),
                               document.children()[*number], std::nullopt});
@@ -205,6 +231,9 @@ void ReducedOriginal::Piece::findEdits(const ChildrenMerge& merge, WrittenChildr
     headEdits = merge.run(edited);
     for (std::size_t i = 0; i < which.size(); ++i) {
         which[i]->edits = std::move(edited[i].edits);
+        if (which[i]->edits) {
+            which[i]->object.reset();
+        }
     }
 }
 
@@ -215,6 +244,8 @@ ReducedOriginal::ReducedOriginal(std::istream& stream, const core::CityModelType
 {
     read();
 }
+
+ReducedOriginal::~ReducedOriginal() = default;
 
 void ReducedOriginal::read()
 {
@@ -229,7 +260,7 @@ void ReducedOriginal::read()
             addPieces(isAtEnd || cutter.isDone());
         }
     }
-    while (!pieces.empty()) {
+    while (pieces && !pieces->isEmpty()) {
         takePiece();
     }
     endRun();
@@ -301,27 +332,21 @@ void ReducedOriginal::addPiece(std::vector<std::size_t> ends)
     cutter.drop(end);
     childrenInPieces += piece->ends.size();
 
-    const unsigned threads = readingThreads();
-    const auto compare = [this, shared = std::shared_ptr<Piece>(std::move(piece))] {
-        shared->compare(merge->rootContext(), written.children());
-        shared->findEdits(*merge, written);
-        return shared;
-    };
-    try {
-        pieces.push_back(std::async(threads > 1 ? std::launch::async : std::launch::deferred, compare));
-    } catch (const std::system_error&) {
-        // There is no thread to be had.
-        pieces.push_back(std::async(std::launch::deferred, compare));
+    if (!pieces) {
+        pieces.emplace([this](Piece& added) { added.compare(*merge, written); }, readingThreads());
     }
-    while (pieces.size() > threads) {
+    pieces->add(std::move(piece));
+    while (pieces->isFull() || pieces->isFirstRead()) {
         takePiece();
     }
 }
 
 void ReducedOriginal::takePiece()
 {
-    const std::shared_ptr<const Piece> piece = pieces.front().get();
-    pieces.pop_front();
+    const std::unique_ptr<const Piece> piece = pieces->take();
+    if (piece->failure != nullptr) {
+        std::rethrow_exception(piece->failure);
+    }
     childrenInPieces -= piece->children.size();
     headEdits.insert(headEdits.end(), piece->headEdits.begin(), piece->headEdits.end());
     for (std::size_t i = 0; i < piece->children.size(); ++i) {
@@ -336,17 +361,19 @@ void ReducedOriginal::takePiece()
 std::optional<std::size_t> ReducedOriginal::matchOf(const Piece& piece, std::size_t child)
 {
     const Piece::Child& found = piece.children[child];
-    if (found.isSame && piece.guess + child >= expected) {
-        return piece.guess + child;
-    }
-    if (found.edits && found.edited >= expected) {
-        return found.edited;
+    if (found.edits && found.number >= expected) {
+        return found.number;
     }
     return found.object != nullptr ? search(*found.object) : std::nullopt;
 }
 
+/// The number of a child without an identifier.
 std::optional<std::size_t> ReducedOriginal::search(const xml_schema::type& child)
 {
+    if (written.find(identifierIn(child))) {
+        // They have been compared.
+        return std::nullopt;
+    }
     const auto& children = written.children();
     const auto isSame = [&](std::size_t number) {
         return number >= expected && number < children.size() &&
@@ -361,10 +388,6 @@ std::optional<std::size_t> ReducedOriginal::search(const xml_schema::type& child
         if (number == 0) {
             break;
         }
-    }
-    const std::optional<std::size_t> known = written.find(identifierIn(child));
-    if (known) {
-        return isSame(*known) ? known : std::nullopt;
     }
     for (std::size_t number = likely + 1; number <= likely + mostAhead; ++number) {
         if (isSame(number)) {

@@ -3,13 +3,12 @@
 #include "core/CityModelType.hxx"
 #include "platform/binding/changes/ChildrenMerge.h"
 #include "platform/binding/changes/OutlineMerge.h"
+#include "platform/binding/reader/PieceQueue.h"
 #include "platform/binding/reader/RootCutter.h"
 #include "platform/binding/writer/ElementWriter.h"
 
 #include <cstddef>
 #include <cstdint>
-#include <deque>
-#include <future>
 #include <iosfwd>
 #include <memory>
 #include <mutex>
@@ -62,6 +61,9 @@ public:
     /// \param prefixes see writeChanges()
     ReducedOriginal(std::istream& stream, const core::CityModelType& document, WrittenChildren& written,
                     const NamespaceMap& prefixes);
+    ~ReducedOriginal();
+    ReducedOriginal(const ReducedOriginal&) = delete;
+    ReducedOriginal& operator=(const ReducedOriginal&) = delete;
 
     const std::string& bytes() const { return reduced; }
     /// Writes the bytes of the original that the bytes stand for, with edits of these. Children that an edit
@@ -132,7 +134,7 @@ private:
     std::unique_ptr<const ChildrenMerge> merge;
     // What known edits of children need in front of these.
     std::vector<ByteEdit> headEdits;
-    std::deque<std::future<std::shared_ptr<Piece>>> pieces;
+    std::optional<PieceQueue<Piece>> pieces;
     std::size_t childrenInPieces = 0;
     // The number of the first child of the document that is behind all that were found, and how many of the
     // original have been met since that are not as one of the document.

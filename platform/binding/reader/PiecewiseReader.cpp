@@ -131,7 +131,7 @@ void PiecewiseReader::addPieces()
 void PiecewiseReader::addPiece(std::vector<std::size_t> ends)
 {
     if (!queue) {
-        queue.emplace(*context, threads);
+        queue.emplace([this](Piece& piece) { piece.read(*context); }, threads);
     }
     std::string rest;
     if (!spares.empty()) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/binding/reader/Piece.h"
 #include "platform/binding/reader/PieceQueue.h"
 #include "platform/binding/reader/RootCutter.h"
 #include "platform/binding/reader/XmlParser.h"
@@ -63,7 +64,7 @@ private:
     bool isInLargeChild = false;
     // Whether the root has begun, so that its children can be cut.
     std::optional<RootContext> context;
-    std::optional<PieceQueue> queue;
+    std::optional<PieceQueue<Piece>> queue;
     // Where the document goes on behind the pieces that were taken; none while the parser is there.
     std::optional<XmlParser::Place> place;
 };
