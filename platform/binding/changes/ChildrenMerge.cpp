@@ -5,6 +5,7 @@
 #include "platform/binding/changes/SameContent.h"
 #include "platform/binding/kept/KeptContent.h"
 #include "platform/binding/reader/RootCutter.h"
+#include "platform/binding/values/WhiteSpace.h"
 #include "platform/binding/xml/PrefixedName.h"
 
 #include <algorithm>
@@ -67,7 +68,7 @@ std::vector<InnerElement> innerElements(std::string_view child)
 } // namespace
 
 /// Some children in a document of their own, in which elements of theirs that are as they were are short: an
-/// empty one with a number stands for each.
+/// empty one with a number stands for some that follow each other.
 class ChildrenMerge::Extract : public ElementSelection
 {
 public:
@@ -88,11 +89,11 @@ public:
     }
 
 private:
-    /// An element of the child that is as it was, and the object that it was and is.
+    /// Elements of the child, with nothing between them, that are as they were, and what they are.
     struct Unchanged
     {
         std::size_t begin, end;
-        const xml_schema::type* object;
+        std::vector<const xml_schema::type*> objects;
     };
     /// An empty element in the extract, and the bytes of the child that it stands for.
     struct Elided
@@ -109,6 +110,9 @@ private:
 
     void add(EditedChild& child);
     std::vector<Unchanged> unchangedIn(const EditedChild& child) const;
+    static void addUnchanged(std::string_view bytes, const std::vector<InnerElement>& elements,
+                             const TypeIndex::FlatMember& member, const xml_schema::type& was,
+                             const xml_schema::type& is, std::vector<Unchanged>& result);
     const TypeIndex::FlatMember* memberOf(const TypeIndex& type, std::string_view tag) const;
     std::optional<ByteEdit> editIn(const Part& part, const ByteEdit& edit) const;
 
@@ -140,7 +144,9 @@ void ChildrenMerge::Extract::add(EditedChild& child)
         extract.append(1, '<').append(tagNameAt(child.bytes, unchanged.begin));
         extract.append(" n=\"").append(number).append("\"/>");
         part.elided.push_back({begin, extract.size(), unchanged.begin, unchanged.end});
-        numbers.emplace(unchanged.object, number);
+        for (const xml_schema::type* const object : unchanged.objects) {
+            numbers.emplace(object, object == unchanged.objects.front() ? number : std::string());
+        }
         at = unchanged.end;
     }
     extract.append(child.bytes, at);
@@ -167,26 +173,43 @@ ChildrenMerge::Extract::unchangedIn(const EditedChild& child) const
         elements[memberOf(type, tagNameAt(child.bytes, element.begin))].push_back(element);
     }
     std::vector<Unchanged> result;
-    for (const auto& ofMember : elements) {
-        const TypeIndex::FlatMember* const member = ofMember.first;
+    for (const auto& [member, ofMember] : elements) {
         // An element may have been set aside.
-        if (member == nullptr || member->type == nullptr ||
-            member->declaration->ops->count(*was) != ofMember.second.size()) {
-            continue;
-        }
-        const MemberOps& ops = *member->declaration->ops;
-        const std::size_t count = std::min(ofMember.second.size(), ops.count(*is));
-        for (std::size_t i = 0; i < count; ++i) {
-            const InnerElement& element = ofMember.second[i];
-            const xml_schema::type& object = ops.at(*is, i);
-            if (element.end - element.begin >= shortestElided && haveSameContent(ops.at(*was, i), object)) {
-                result.push_back({element.begin, element.end, &object});
-            }
+        if (member != nullptr && member->type != nullptr &&
+            member->declaration->ops->count(*was) == ofMember.size()) {
+            addUnchanged(child.bytes, ofMember, *member, *was, *is, result);
         }
     }
     std::sort(result.begin(), result.end(),
               [](const Unchanged& a, const Unchanged& b) { return a.begin < b.begin; });
     return result;
+}
+
+/// Adds those of one member.
+///
+/// \param elements of all its objects, as they were
+void ChildrenMerge::Extract::addUnchanged(std::string_view bytes, const std::vector<InnerElement>& elements,
+                                          const TypeIndex::FlatMember& member, const xml_schema::type& was,
+                                          const xml_schema::type& is, std::vector<Unchanged>& result)
+{
+    const MemberOps& ops = *member.declaration->ops;
+    const std::size_t count = std::min(elements.size(), ops.count(is));
+    // Whether the last one that was added is the one in front, and nothing can come between.
+    bool isNext = false;
+    for (std::size_t i = 0; i < count; ++i) {
+        const InnerElement& element = elements[i];
+        const xml_schema::type& object = ops.at(is, i);
+        const bool isSame = haveSameContent(ops.at(was, i), object);
+        if (isSame && isNext && isBlank(bytes.substr(result.back().end, element.begin - result.back().end))) {
+            result.back().end = element.end;
+            result.back().objects.push_back(&object);
+        } else if (isSame && element.end - element.begin >= shortestElided) {
+            result.push_back({element.begin, element.end, {&object}});
+            isNext = member.group == 0;
+        } else {
+            isNext = false;
+        }
+    }
 }
 
 /// The member that takes an element with that tag; null where there is none.

@@ -220,7 +220,9 @@ void ReducedOriginal::Piece::findEdits(const ChildrenMerge& merge, WrittenChildr
         if (!number) {
             continue;
         }
-        compareWith(child, *number, document.children());
+        if (*number != guess + i) {
+            compareWith(child, *number, document.children());
+        }
         if (!child.edits) {
             child.number = *number;
             which.push_back(&child);

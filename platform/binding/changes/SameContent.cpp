@@ -4,6 +4,7 @@
 #include "platform/binding/SchemaIndex.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstring>
 #include <string>
 #include <typeinfo>
@@ -152,9 +153,12 @@ bool haveSameContent(const xml_schema::type& a, const xml_schema::type& b)
     if (type.hasText() && !isSameText(a, b, *type.record()->text)) {
         return false;
     }
-    // The attributes come last; an identifier among them tells most that differ apart.
-    return std::all_of(type.members().rbegin(), type.members().rend(),
-                       [&](const TypeIndex::FlatMember& member) { return isSameMember(a, b, member); });
+    // An identifier among the attributes tells most that differ apart, and geometry, which is most of a
+    // feature, comes last.
+    const auto attributes = type.members().begin() + static_cast<std::ptrdiff_t>(type.elementCount());
+    const auto isSame = [&](const TypeIndex::FlatMember& member) { return isSameMember(a, b, member); };
+    return std::all_of(attributes, type.members().end(), isSame) &&
+           std::all_of(type.members().begin(), attributes, isSame);
 }
 
 } // namespace binding
