@@ -32,6 +32,8 @@ constexpr std::size_t tileSize = 2800;
 constexpr double smallestCell = 100;
 /// So many cells may be waiting for more.
 constexpr std::size_t mostCells = 64;
+/// So many pieces of a feature, or of a tile that is made anew, are taken at once.
+constexpr std::size_t piecesOfStep = 500;
 /// So many steps that take about a microsecond are done without a look at the clock.
 constexpr std::size_t shortSteps = 64;
 /// What no number of a coordinate system comes near; larger ones would be infinite in single precision.
@@ -145,6 +147,7 @@ void CityScene::clear()
     looked = 0;
     areLooksRead = true;
     next = 0;
+    walk = Walk();
     cells.clear();
     staleTiles.clear();
     again.clear();
@@ -175,7 +178,8 @@ void CityScene::letGo()
 
 bool CityScene::hasWork() const
 {
-    return next < coming.size() || !areLooksRead || !again.empty() || !cells.empty() || !staleTiles.empty();
+    return next < coming.size() || !areLooksRead || !walk.members.empty() || !again.empty() ||
+           !cells.empty() || !staleTiles.empty();
 }
 
 bool CityScene::addSome(int milliseconds)
@@ -191,13 +195,15 @@ bool CityScene::addSome(int milliseconds)
     return false;
 }
 
-/// Does a step of what is to be done, which takes a millisecond at most unless a feature is very large.
+/// Does a step of what is to be done, which takes a few milliseconds at most.
 void CityScene::workOn()
 {
     if (looked < coming.size()) {
         lookForAppearances();
     } else if (!areLooksRead) {
         readLooks();
+    } else if (!walk.members.empty()) {
+        walkOn();
     } else if (next < coming.size()) {
         addNext();
     } else if (!again.empty()) {
@@ -261,27 +267,80 @@ void CityScene::addFeature(const Feature& feature)
 {
     const Slot slot = table.add(feature);
     tileOf.push_back(noTile);
-    Batch batch;
-    append(slot, feature, batch);
-    addToCell(slot, std::move(batch));
+    beginWalk({slot}, noTile);
 }
 
 /// Adds what a feature has to draw now that had nothing.
 void CityScene::addAgain(Slot slot)
 {
-    const Feature* const feature = table.featureOf(slot);
-    if (feature != nullptr && tileOf[slot] == noTile) {
-        Batch batch;
-        table.clearLods(slot);
-        append(slot, *feature, batch);
-        addToCell(slot, std::move(batch));
+    if (tileOf[slot] == noTile) {
+        beginWalk({slot}, noTile);
     }
+}
+
+void CityScene::beginWalk(std::vector<Slot> members, std::size_t tile)
+{
+    walk = Walk();
+    walk.members = std::move(members);
+    walk.tile = tile;
+    walkOn();
+}
+
+void CityScene::walkOn()
+{
+    std::size_t left = piecesOfStep;
+    for (; walk.reached < walk.members.size(); ++walk.reached, walk.place = {}) {
+        const Slot slot = walk.members[walk.reached];
+        // It may have gone meanwhile.
+        const Feature* const feature = table.featureOf(slot);
+        if (feature == nullptr) {
+            continue;
+        }
+        if (walk.place.path.empty()) {
+            table.clearLods(slot);
+        }
+        const bool isMore = citygml::walkGeometry(*feature, walk.place, [&](const GeometryPiece& piece) {
+            append(slot, piece, walk.batch);
+            return --left > 0;
+        });
+        if (isMore) {
+            return;
+        }
+    }
+    endWalk();
+}
+
+/// Forgets what has been walked through so far: it is of former looks or geometry.
+void CityScene::restartWalk()
+{
+    walk.reached = 0;
+    walk.place = {};
+    walk.batch = Batch();
+}
+
+void CityScene::endWalk()
+{
+    Walk done = std::exchange(walk, Walk());
+    if (done.tile == noTile) {
+        addToCell(done.members.front(), std::move(done.batch));
+    } else {
+        workers.add(done.tile, tiles[done.tile].version, std::move(done.batch), lookArrays);
+    }
+}
+
+/// Whether a feature without a tile is being walked through.
+bool CityScene::isWalking(Slot slot) const
+{
+    return !walk.members.empty() && walk.tile == noTile && walk.members.front() == slot;
 }
 
 void CityScene::addToCell(Slot slot, Batch batch)
 {
     if (batch.patches.empty()) {
         return;
+    }
+    if (batch.positions.size() >= tileSize) {
+        return send({{slot}, std::move(batch)});
     }
     const Position at = difference(batch.positions.front(), sceneOrigin);
     const Cell cell = {static_cast<long>(std::floor(at[0] / cellSize)),
@@ -341,16 +400,14 @@ void CityScene::enlargeCells()
     }
 }
 
-void CityScene::append(Slot slot, const Feature& feature, Batch& batch)
+void CityScene::append(Slot slot, const GeometryPiece& piece, Batch& batch)
 {
-    citygml::walkGeometry(feature, [&](const GeometryPiece& piece) {
-        if (piece.kind == GeometryPiece::Kind::LibraryObject) {
-            appendLibraryObject(slot, piece, batch);
-        } else if (!isDrawnElsewhere(piece) &&
-                   std::all_of(piece.positions.begin(), piece.positions.end(), isFinite)) {
-            appendPiece(slot, piece, batch);
-        }
-    });
+    if (piece.kind == GeometryPiece::Kind::LibraryObject) {
+        appendLibraryObject(slot, piece, batch);
+    } else if (!isDrawnElsewhere(piece) &&
+               std::all_of(piece.positions.begin(), piece.positions.end(), isFinite)) {
+        appendPiece(slot, piece, batch);
+    }
 }
 
 /// Whether a piece that a reference led to is drawn as part of the feature in which it stands.
@@ -494,6 +551,9 @@ void CityScene::makeStale(std::size_t number)
 {
     Tile& tile = tiles[number];
     ++tile.version;
+    if (!walk.members.empty() && walk.tile == number) {
+        walk = Walk();
+    }
     if (!tile.isStale) {
         tile.isStale = true;
         staleTiles.push_back(number);
@@ -503,6 +563,7 @@ void CityScene::makeStale(std::size_t number)
 void CityScene::makeAllStale()
 {
     areLooksRead = false;
+    restartWalk();
     sendAll();
     for (std::size_t number = 0; number < tiles.size(); ++number) {
         makeStale(number);
@@ -511,17 +572,8 @@ void CityScene::makeAllStale()
 
 void CityScene::rebuildTile(std::size_t number)
 {
-    Tile& tile = tiles[number];
-    tile.isStale = false;
-    Batch batch;
-    for (const Slot slot : tile.members) {
-        // A feature may have gone while the tile had no number yet.
-        if (const Feature* const feature = table.featureOf(slot)) {
-            table.clearLods(slot);
-            append(slot, *feature, batch);
-        }
-    }
-    workers.add(number, tile.version, std::move(batch), lookArrays);
+    tiles[number].isStale = false;
+    beginWalk(tiles[number].members, number);
 }
 
 void CityScene::add(const Feature& feature)
@@ -559,6 +611,9 @@ void CityScene::rebuild(const Feature& feature)
     }
     if (slot == noSlot) {
         return;
+    }
+    if (isWalking(slot)) {
+        return restartWalk();
     }
     if (tileOf[slot] == noTile) {
         // It may wait for the end of its tile.

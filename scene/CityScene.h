@@ -123,6 +123,16 @@ private:
         std::vector<Slot> members;
         Batch batch;
     };
+    /// The features that are being walked through, for a new place or for a tile that is made anew. A large
+    /// one takes several steps.
+    struct Walk
+    {
+        std::vector<Slot> members;
+        std::size_t reached = 0;          ///< of the members
+        citygml::GeometryWalkPlace place; ///< in that member
+        Batch batch;
+        std::size_t tile = 0; ///< noTile for a feature that has none
+    };
     using Cell = std::array<long, 2>;
 
     void letGo();
@@ -133,10 +143,15 @@ private:
     void addNext();
     void addFeature(const Feature& feature);
     void addAgain(Slot slot);
+    void beginWalk(std::vector<Slot> members, std::size_t tile);
+    void walkOn();
+    void restartWalk();
+    void endWalk();
+    bool isWalking(Slot slot) const;
     void addToCell(Slot slot, Batch batch);
     static void join(Batch& batch, Batch more);
     void enlargeCells();
-    void append(Slot slot, const Feature& feature, Batch& batch);
+    void append(Slot slot, const citygml::GeometryPiece& piece, Batch& batch);
     void appendPiece(Slot slot, const citygml::GeometryPiece& piece, Batch& batch);
     void appendLibraryObject(Slot slot, const citygml::GeometryPiece& piece, Batch& batch);
     bool isDrawnElsewhere(const citygml::GeometryPiece& piece) const;
@@ -155,6 +170,7 @@ private:
     bool areLooksRead = true;
     std::size_t next = 0;
     /// @}
+    Walk walk;
     std::map<Cell, Pending> cells;
     double cellSize = 0;
     std::vector<Tile> tiles;

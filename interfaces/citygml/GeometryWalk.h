@@ -87,6 +87,29 @@ struct GeometryPiece
 TOLVIK_BINDING_EXPORT void walkGeometry(const gml::AbstractFeatureType& feature,
                                         const std::function<void(const GeometryPiece& piece)>& receive);
 
+/// Where a walk through a feature has stopped.
+struct GeometryWalkPlace
+{
+    /// Which of the children has been reached, from the feature inwards; empty for a walk that is to begin.
+    std::vector<std::size_t> path;
+    /// How many references have been followed: of a walk in parts as well there is a limit.
+    int references = 0;
+};
+
+/// The same in parts, for a thread that has other things to do meanwhile.
+/// \code
+/// GeometryWalkPlace place;
+/// while (walkGeometry(feature, place, [&](const GeometryPiece& piece) { return isTimeLeft(); })) {
+///     // other things
+/// }
+/// \endcode
+/// If the feature's geometry changes meanwhile, pieces may be left out or come twice.
+/// \param place   where the walk goes on, and then where it has stopped
+/// \param receive called for each piece; returns whether the walk goes on
+/// \return whether the walk was stopped; what is left may turn out to be nothing
+TOLVIK_BINDING_EXPORT bool walkGeometry(const gml::AbstractFeatureType& feature, GeometryWalkPlace& place,
+                                        const std::function<bool(const GeometryPiece& piece)>& receive);
+
 /// The innermost feature around an object, or the object itself; null for one that is in no feature.
 TOLVIK_BINDING_EXPORT const gml::AbstractFeatureType* featureAround(const xml_schema::type& object);
 

@@ -2,7 +2,9 @@
 
 #include "gml/AbstractFeatureType.hxx"
 #include "support/Documents.h"
+#include "support/Files.h"
 #include "support/TestClass.h"
+#include "support/TestPaths.h"
 
 #include <cmath>
 #include <QtTest>
@@ -76,12 +78,41 @@ Document readMembers(const QByteArray& members)
     return read(documentText(members, moreNamespaces));
 }
 
+QStringList piecesOf(const gml::AbstractFeatureType& feature)
+{
+    QStringList lines;
+    citygml::walkGeometry(feature, [&](const GeometryPiece& piece) { lines << lineOf(piece); });
+    return lines;
+}
+
+/// The same by a walk that stops after each so many pieces.
+QStringList piecesInPartsOf(const gml::AbstractFeatureType& feature, int partSize)
+{
+    QStringList lines;
+    citygml::GeometryWalkPlace place;
+    int count = 0;
+    while (citygml::walkGeometry(feature, place, [&](const GeometryPiece& piece) {
+        lines << lineOf(piece);
+        return ++count % partSize != 0;
+    })) {
+    }
+    return lines;
+}
+
+/// Of all features, if they are the same in parts.
 QStringList piecesOf(const QByteArray& members)
 {
     const Document document = readMembers(members);
     QStringList lines;
     for (const gml::AbstractFeatureType* feature : featuresOf(*document)) {
-        citygml::walkGeometry(*feature, [&](const GeometryPiece& piece) { lines << lineOf(piece); });
+        const QStringList pieces = piecesOf(*feature);
+        for (const int partSize : {1, 2, 3}) {
+            const QStringList inParts = piecesInPartsOf(*feature, partSize);
+            if (inParts != pieces) {
+                return QStringList("in parts:") + inParts;
+            }
+        }
+        lines << pieces;
     }
     return lines;
 }
@@ -124,6 +155,8 @@ private slots:
     void geometryOfExtensions();
     void geometryOfFeaturesBelowIsTheirOwn();
     void surfacesAroundAPieceAreListed();
+    void walksInPartsHandOverTheSame_data();
+    void walksInPartsHandOverTheSame();
 };
 
 TEST_CLASS(GeometryWalkTest, None)
@@ -365,6 +398,22 @@ void GeometryWalkTest::surfacesAroundAPieceAreListed()
         });
     }
     QCOMPARE(count, 1);
+}
+
+void GeometryWalkTest::walksInPartsHandOverTheSame_data()
+{
+    addPathRows(exampleAndSharedDocuments());
+}
+
+void GeometryWalkTest::walksInPartsHandOverTheSame()
+{
+    QFETCH(QString, path);
+    const Document document = read(contentOf(path));
+    for (const gml::AbstractFeatureType* feature : featuresOf(*document)) {
+        for (const int partSize : {1, 7}) {
+            QCOMPARE(piecesInPartsOf(*feature, partSize), piecesOf(*feature));
+        }
+    }
 }
 
 #include "geometrywalktest.moc"

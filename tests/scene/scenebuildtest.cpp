@@ -30,6 +30,20 @@ QByteArray manyBuildings()
     return documentText(members);
 }
 
+/// A building of many surfaces, and another one.
+QByteArray largeBuilding(const QByteArray& looks = QByteArray())
+{
+    QByteArray surfaces;
+    for (int i = 0; i < 2600; ++i) {
+        surfaces += square("p" + QByteArray::number(i), 11.0 * (i % 70), i / 70, "r" + QByteArray::number(i));
+    }
+    return documentText(looks +
+                        buildingMember("<bldg:lod2MultiSurface><gml:MultiSurface gml:id='p'>" + surfaces +
+                                           "</gml:MultiSurface></bldg:lod2MultiSurface>",
+                                       "large") +
+                        buildingMember(multiSurface("lod2MultiSurface", square("", -40, 0)), "small"));
+}
+
 QColor middleOf(const QImage& picture)
 {
     return picture.pixelColor(SceneFixture::width / 2, SceneFixture::height / 2);
@@ -59,6 +73,10 @@ private slots:
     void featuresThatGoMeanwhileAreNotDrawn();
     void featuresThatChangeMeanwhileAreDrawnOnce();
     void aSceneEndsWhileItIsBuilt();
+    void largeFeaturesTakeManySteps();
+    void largeFeaturesGoWhileTheyCome();
+    void largeFeaturesChangeWhileTheyCome();
+    void aThemeIsChosenWhileALargeFeatureComes();
     void aThemeIsChosenMeanwhile();
     void whatIsRemovedFromTheDocumentGoes();
     void whatGetsItsFirstGeometryIsDrawn();
@@ -205,6 +223,109 @@ void SceneBuildTest::aSceneEndsWhileItIsBuilt()
         }
     }
     QVERIFY(fixture.hasContent());
+}
+
+void SceneBuildTest::largeFeaturesTakeManySteps()
+{
+    const DocumentFile file(largeBuilding());
+    SceneFixture fixture(file.path());
+    const QImage atOnce = fixture.picture();
+    QCOMPARE(fixture.scene.counts().triangles, std::size_t(5202));
+    fixture.begin();
+    int steps = 0;
+    while (fixture.scene.addSome(0)) {
+        ++steps;
+    }
+    QVERIFY2(steps > 7, qPrintable(QString::number(steps)));
+    fixture.scene.addAll();
+    QCOMPARE(differences(fixture.picture(), atOnce), 0);
+    // The same when it is made anew.
+    fixture.scene.rebuild(*fixture.model.getFeature("large"));
+    for (steps = 0; fixture.scene.addSome(0); ++steps) {
+    }
+    QVERIFY2(steps > 4, qPrintable(QString::number(steps)));
+    fixture.scene.addAll();
+    QCOMPARE(fixture.scene.counts().triangles, std::size_t(5202));
+    QCOMPARE(differences(fixture.picture(), atOnce), 0);
+}
+
+void SceneBuildTest::largeFeaturesGoWhileTheyCome()
+{
+    const DocumentFile file(largeBuilding());
+    for (const int steps : {1, 3, 5, 8, 11}) {
+        SceneFixture fixture(file.path());
+        follow(fixture);
+        fixture.begin();
+        doSome(fixture, steps);
+        fixture.model.removeFeature(fixture.model.getFeature("large"));
+        fixture.scene.addAll();
+        const std::map<Slot, int> seen = fixture.renderer->pixelsOf(
+            fixture.camera, QSize(SceneFixture::width, SceneFixture::height), fixture.options);
+        QCOMPARE(seen.size(), std::size_t(1));
+        QCOMPARE(seen.begin()->first, fixture.slotOf("small"));
+    }
+}
+
+void SceneBuildTest::largeFeaturesChangeWhileTheyCome()
+{
+    const DocumentFile file(largeBuilding());
+    for (const int steps : {1, 3, 5, 8, 11, 101, 105, 111}) {
+        SceneFixture fixture(file.path());
+        fixture.begin();
+        doSome(fixture, steps % 100);
+        auto& large = dynamic_cast<bldg::BuildingType&>(*fixture.model.getFeature("large"));
+        const auto& small = dynamic_cast<const bldg::BuildingType&>(*fixture.model.getFeature("small"));
+        large.lod2MultiSurface(small.lod2MultiSurface().get());
+        fixture.scene.rebuild(large);
+        if (steps > 100) {
+            // Again while it is made anew.
+            doSome(fixture, 2);
+            fixture.scene.rebuild(large);
+        }
+        fixture.scene.addAll();
+        QCOMPARE(fixture.scene.counts().triangles, std::size_t(4));
+    }
+}
+
+void SceneBuildTest::aThemeIsChosenWhileALargeFeatureComes()
+{
+    const QByteArray green = "<app:X3DMaterial><app:diffuseColor>0 1 0</app:diffuseColor>"
+                             "<app:target>#p</app:target></app:X3DMaterial>";
+    const DocumentFile file(largeBuilding(appearanceMember("red", material("1 0 0")) +
+                                          appearanceMember("blue", green) +
+                                          appearanceMember("blue", material("0 0 1"))));
+    const auto countsOf = [](SceneFixture& fixture) {
+        std::map<QString, int> counts;
+        fixture.features().setHidden(fixture.slotOf("small"), true);
+        const QImage picture = fixture.picture();
+        for (const QPoint& pixel : fixture.grid(24, 16)) {
+            const QColor colour = picture.pixelColor(pixel);
+            ++counts[colour == fixture.options.background ? "nothing"
+                     : isRed(colour)                      ? "red"
+                     : isBlue(colour)                     ? "blue"
+                                                          : "other"];
+        }
+        return counts;
+    };
+    for (const int steps : {0, 2, 4, 5, 7, 11}) {
+        SceneFixture fixture(file.path());
+        fixture.options.hasEdges = false;
+        fixture.begin();
+        doSome(fixture, steps);
+        fixture.scene.setTheme("blue", true);
+        fixture.scene.addAll();
+        std::map<QString, int> counts = countsOf(fixture);
+        QCOMPARE(counts["red"] + counts["other"], 0);
+        QVERIFY(counts["blue"] > 10);
+        // The same while it is made anew.
+        fixture.scene.rebuild(*fixture.model.getFeature("large"));
+        doSome(fixture, steps);
+        fixture.scene.setTheme(QString(), false);
+        fixture.scene.addAll();
+        counts = countsOf(fixture);
+        QCOMPARE(counts["red"] + counts["blue"], 0);
+        QVERIFY(counts["other"] > 10);
+    }
 }
 
 void SceneBuildTest::aThemeIsChosenMeanwhile()

@@ -78,30 +78,96 @@ class GeometryWalker
 {
 public:
     GeometryWalker(const gml::AbstractFeatureType& feature,
-                   const std::function<void(const GeometryPiece& piece)>& receive)
+                   const std::function<bool(const GeometryPiece& piece)>& receive)
         : feature(feature), receive(receive)
     {
         piece.owner = &feature;
     }
 
-    void walk()
+    /// \return whether it was stopped
+    bool walk(GeometryWalkPlace& place)
     {
+        begun = std::move(place.path);
+        references = place.references;
         const GeometryPlan& plan = plans.of(feature);
         const int ownLod = lodOfFeature(feature, plan);
-        for (const TypeIndex::FlatMember* member : plan.members) {
-            const MemberOps& ops = *member->declaration->ops;
-            const std::size_t count = ops.count(feature);
-            for (std::size_t i = 0; i < count; ++i) {
-                const xml_schema::type& child = ops.at(feature, i);
-                piece.member = &elementNameOf(*member, child);
-                const int lod = lodOfName(*piece.member);
-                piece.lod = lod >= 0 ? lod : ownLod;
-                enter(child);
-            }
-        }
+        Steps steps(*this);
+        steps.throughMembers(feature, plan,
+                             [&](const TypeIndex::FlatMember& member, const xml_schema::type& child) {
+                                 piece.member = &elementNameOf(member, child);
+                                 const int lod = lodOfName(*piece.member);
+                                 piece.lod = lod >= 0 ? lod : ownLod;
+                                 enter(child);
+                             });
+        place.path.assign(stopped.rbegin(), stopped.rend());
+        place.references = references;
+        return isStopped;
     }
 
 private:
+    /// Goes through what is in one object, from where an earlier part of the walk has stopped.
+    class Steps
+    {
+    public:
+        explicit Steps(GeometryWalker& walker)
+            : walker(walker), first(walker.level < walker.begun.size() ? walker.begun[walker.level] : 0)
+        {
+            ++walker.level;
+        }
+        ~Steps() { --walker.level; }
+        Steps(const Steps&) = delete;
+        Steps& operator=(const Steps&) = delete;
+
+        /// \param visit called with each member and what is in it
+        template <typename Visit>
+        void throughMembers(const xml_schema::type& object, const GeometryPlan& plan, Visit visit)
+        {
+            for (const TypeIndex::FlatMember* member : plan.members) {
+                const MemberOps& ops = *member->declaration->ops;
+                const std::size_t count = ops.count(object);
+                for (std::size_t i = pass(count); i < count && !walker.isStopped; ++i) {
+                    take([&] { visit(*member, ops.at(object, i)); });
+                }
+            }
+        }
+        /// What there is besides members.
+        template <typename Visit>
+        void through(Visit visit)
+        {
+            if (pass(1) == 0 && !walker.isStopped) {
+                take(visit);
+            }
+        }
+        bool isEmpty() const { return next == 0; }
+
+    private:
+        /// Passes over what has been done.
+        /// \return how many of so many that is
+        std::size_t pass(std::size_t count)
+        {
+            const std::size_t done = std::min(count, first - std::min(first, next));
+            next += done;
+            return done;
+        }
+        template <typename Visit>
+        void take(Visit visit)
+        {
+            if (next > first) {
+                walker.begun.clear();
+            }
+            visit();
+            if (walker.isStopped) {
+                // The innermost step is done, those around it go on within.
+                walker.stopped.push_back(walker.stopped.empty() ? next + 1 : next);
+            }
+            ++next;
+        }
+
+        GeometryWalker& walker;
+        const std::size_t first;
+        std::size_t next = 0;
+    };
+
     /// Sets a value until the end of a block.
     template <typename T>
     class Set
@@ -161,17 +227,12 @@ private:
 
     void enterMembers(const xml_schema::type& object, const GeometryPlan& plan)
     {
-        bool isEmpty = true;
-        for (const TypeIndex::FlatMember* member : plan.members) {
-            const MemberOps& ops = *member->declaration->ops;
-            const std::size_t count = ops.count(object);
-            for (std::size_t i = 0; i < count; ++i) {
-                enter(ops.at(object, i));
-                isEmpty = false;
-            }
-        }
-        if (isEmpty) {
-            enterReference(object, plan);
+        Steps steps(*this);
+        steps.throughMembers(
+            object, plan,
+            [this](const TypeIndex::FlatMember&, const xml_schema::type& child) { enter(child); });
+        if (steps.isEmpty()) {
+            steps.through([&] { enterReference(object, plan); });
         }
     }
 
@@ -235,16 +296,18 @@ private:
         }
         const Set<bool> isImplicit(piece.isImplicit, true);
         placement.matrix = placementOf(implicit, plan);
-        if (implicit.libraryObject().present()) {
-            sendLibraryObject(implicit);
-        }
-        for (const TypeIndex::FlatMember* member : plan.members) {
-            const MemberOps& ops = *member->declaration->ops;
-            if (isReferencePoint(*member) || ops.count(implicit) == 0) {
-                continue;
+        Steps steps(*this);
+        steps.through([&] {
+            if (implicit.libraryObject().present()) {
+                sendLibraryObject(implicit);
             }
-            enter(ops.at(implicit, 0));
-        }
+        });
+        steps.throughMembers(implicit, plan,
+                             [this](const TypeIndex::FlatMember& member, const xml_schema::type& child) {
+                                 if (!isReferencePoint(member)) {
+                                     enter(child);
+                                 }
+                             });
     }
 
     static bool isReferencePoint(const TypeIndex::FlatMember& member)
@@ -280,7 +343,7 @@ private:
         piece.libraryObject = *implicit.libraryObject();
         piece.mimeType = implicit.mimeType().present() ? std::string(*implicit.mimeType()) : std::string();
         piece.placement = placement.matrix;
-        receive(piece);
+        isStopped = !receive(piece);
         piece.placement = GeometryPiece().placement;
         piece.libraryObject.clear();
         piece.mimeType.clear();
@@ -470,16 +533,23 @@ private:
             std::transform(piece.positions.begin(), piece.positions.end(), piece.positions.begin(),
                            placement);
         }
-        receive(piece);
+        isStopped = !receive(piece);
     }
 
     const GeometryPlans& plans = GeometryPlans::instance();
     const gml::AbstractFeatureType& feature;
-    const std::function<void(const GeometryPiece& piece)>& receive;
+    const std::function<bool(const GeometryPiece& piece)>& receive;
     GeometryPiece piece;
     Placement placement = {GeometryPiece().placement};
     int depth = 0;
     int references = 0;
+
+    /// Of the steps around each other, the outermost first: with which each goes on that was stopped before.
+    std::vector<std::size_t> begun;
+    /// The same for the next part of the walk, the innermost first.
+    std::vector<std::size_t> stopped;
+    std::size_t level = 0;
+    bool isStopped = false;
 };
 
 } // namespace
@@ -489,7 +559,17 @@ private:
 void walkGeometry(const gml::AbstractFeatureType& feature,
                   const std::function<void(const GeometryPiece& piece)>& receive)
 {
-    binding::GeometryWalker(feature, receive).walk();
+    GeometryWalkPlace place;
+    walkGeometry(feature, place, [&receive](const GeometryPiece& piece) {
+        receive(piece);
+        return true;
+    });
+}
+
+bool walkGeometry(const gml::AbstractFeatureType& feature, GeometryWalkPlace& place,
+                  const std::function<bool(const GeometryPiece& piece)>& receive)
+{
+    return binding::GeometryWalker(feature, receive).walk(place);
 }
 
 const gml::AbstractFeatureType* featureAround(const xml_schema::type& object)
