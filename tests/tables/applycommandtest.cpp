@@ -144,12 +144,18 @@ private slots:
             << QByteArray("gml:id,gen:owner,Fields/MeasuredHeight [ft]\none,Bo,3\n")
             << QByteArray("t: line 2: one: Fields/MeasuredHeight [ft]: the unit is \"m\", and "
                           "not \"ft\"\n");
+        QTest::newRow("same number in another unit")
+            << QByteArray("gml:id,gen:owner,Fields/MeasuredHeight [ft]\none,Bo,12.5\n")
+            << QByteArray("t: line 2: one: Fields/MeasuredHeight [ft]: the unit is \"m\", and "
+                          "not \"ft\"\n");
         QTest::newRow("unit of the row")
             << QByteArray("gml:id,gen:owner,Fields/MeasuredHeight,"
                           "Fields/MeasuredHeight/@uom\none,Bo,3,ft\n")
             << QByteArray("t: line 2: one: Fields/MeasuredHeight: the unit is \"m\"");
         QTest::newRow("type") << QByteArray("gml:id,gen:owner,type\none,Bo,Bridge\n")
                               << QByteArray("t: line 2: one: type: it is \"Building\"");
+        QTest::newRow("parent") << QByteArray("gml:id,gen:owner,parent\none,Bo,two\n")
+                                << QByteArray("t: line 2: one: parent: it is \"\"");
     }
 
     void nothingIsWrittenWhereACellIsWrong()
@@ -164,6 +170,49 @@ private slots:
         QCOMPARE(apply(table, {"--skip-bad"}).code, 1);
         QVERIFY(contentOf(path("out.gml")).contains(">Bo<"));
         QVERIFY(written(">Bo<", ">Ada<") == saved("a.gml"));
+    }
+
+    /// Spreadsheets have one kind of numbers.
+    void aWholeNumberMayBeWrittenAsAReal()
+    {
+        QVERIFY(writeFile(
+            path("a.gml"),
+            documentText(buildingMember("<bldg:storeysAboveGround>03</bldg:storeysAboveGround>", "one"))));
+        QCOMPARE(apply("gml:id,Fields/StoreysAboveGround\none,3.0\n").err, QByteArray());
+        QCOMPARE(contentOf(path("out.gml")), contentOf(path("a.gml")));
+    }
+
+    void whatTheSchemaRequiresStays()
+    {
+        const QByteArray member = "<core:cityObjectMember><energy:EnergyDemand gml:id='one'>"
+                                  "<energy:endUse>Cooking</energy:endUse></energy:EnergyDemand>"
+                                  "</core:cityObjectMember>";
+        QVERIFY(
+            writeFile(path("a.gml"),
+                      documentText(member, " xmlns:energy='http://www.sig3d.org/citygml/2.0/energy/1.0'")));
+        const ProcessResult result =
+            apply("gml:id,Properties/Energy/endUse\none,NULL\n", {"--absent", "NULL", "--skip-bad"});
+        QCOMPARE(result.code, 1);
+        QVERIFY2(result.err.contains("line 2: one: Properties/Energy/endUse: it cannot be removed"),
+                 result.err);
+        QCOMPARE(contentOf(path("out.gml")), contentOf(path("a.gml")));
+    }
+
+    void anAttributeOfASetCanBeTakenOut()
+    {
+        const auto note = [](const QByteArray& name) {
+            return "<gen:stringAttribute name='" + name + "'><gen:value>" + name +
+                   "</gen:value></gen:stringAttribute>";
+        };
+        const QByteArray set =
+            "<gen:genericAttributeSet name='set'>" + note("a") + note("b") + "</gen:genericAttributeSet>";
+        QVERIFY(writeFile(path("a.gml"), documentText(buildingMember(note("b") + set, "one"))));
+        QCOMPARE(runTool({"table", path("a.gml"), "--type", "Building", "--out", path("b.csv")}).code, 0);
+        const QByteArray columns = contentOf(path("b.csv")).split('\n').first();
+        QVERIFY2(columns.endsWith(",gen:set/b"), columns);
+        QCOMPARE(apply("gml:id,gen:set/b\none,-\n", {"--absent", "-"}).err, QByteArray());
+        QCOMPARE(contentOf(path("out.gml")).replace(note("a"), note("a") + note("b")),
+                 contentOf(path("a.gml")));
     }
 
     void aWordTakesAttributesOut()
@@ -234,6 +283,30 @@ private slots:
         QCOMPARE(result.err, QByteArray());
         QCOMPARE(contentOf(path("out/a.gml")), contentOf(path("a.gml")));
         QVERIFY(contentOf(path("out/c.gml")).contains(">Bo<"));
+    }
+
+    void aRowOfTwoDocumentsChangesNeither()
+    {
+        QVERIFY(writeFile(path("c.gml"), documentText(house("one", "1") + house("four", "4"))));
+        QVERIFY(writeFile(path("t.csv"), "gml:id,gen:owner\none,Bo\nfour,Cy\n"));
+        QCOMPARE(runTool({"apply", path("t.csv"), path("a.gml"), path("c.gml"), "--out-dir", path("out"),
+                          "--skip-bad"})
+                     .code,
+                 1);
+        QCOMPARE(contentOf(path("out/a.gml")), contentOf(path("a.gml")));
+        QCOMPARE(contentOf(path("out/c.gml")).count(">Cy<"), 1);
+        QVERIFY(!contentOf(path("out/c.gml")).contains(">Bo<"));
+    }
+
+    /// Those of a CSV stand in a table of their own.
+    void theUnitsOfAnExportedTableCount()
+    {
+        QCOMPARE(runTool({"table", path("a.gml"), "--out", path("t")}).code, 0);
+        QVERIFY(writeFile(path("a.gml"), contentOf(path("a.gml")).replace("uom='m'", "uom='ft'")));
+        const ProcessResult result = runTool({"apply", path("t"), path("a.gml"), "--out", path("out.gml")});
+        QCOMPARE(result.code, 1);
+        QVERIFY2(result.err.contains("one: Fields/MeasuredHeight: the unit is \"ft\", and not \"m\""),
+                 result.err);
     }
 
     void aQueryMakesATable()
@@ -369,6 +442,22 @@ private slots:
                                 "feature has no group 3 of floorArea"),
             result.err);
         QVERIFY(!QFile::exists(path("out.gml")));
+    }
+
+    void eachRowOfAFeatureChangesItsGroup()
+    {
+        const auto reference = [](const QByteArray& name) {
+            return "<core:externalReference><core:externalObject><core:name>" + name +
+                   "</core:name></core:externalObject></core:externalReference>";
+        };
+        QVERIFY(writeFile(path("a.gml"), documentText(buildingMember(
+                                             reference("p") + reference("q") + reference("r"), "one"))));
+        const QString references = path("Building_externalObjectReference.csv");
+        QVERIFY(writeFile(references,
+                          "gml:id,ordinal,Fields/ExternalReferences/externalObjectReference/ReferenceName\n"
+                          "one,3,x\none,1,y\n"));
+        QCOMPARE(runTool({"apply", references, path("a.gml"), "--out", path("out.gml")}).err, QByteArray());
+        QCOMPARE(written(">x<", ">r<").replace(">y<", ">p<"), contentOf(path("a.gml")));
     }
 
     void whatIsNoTableIsTold()

@@ -45,6 +45,32 @@ QByteArray square(const QByteArray& side, const QByteArray& z)
            "gml:MultiSurface>";
 }
 
+/// A footprint of one square metre.
+QByteArray footprintAt(int x, int y)
+{
+    const auto corner = [](int east, int north) {
+        return QByteArray::number(east) + ' ' + QByteArray::number(north) + " 0 ";
+    };
+    return "<bldg:lod0FootPrint><gml:MultiSurface><gml:surfaceMember><gml:Polygon><gml:exterior>"
+           "<gml:LinearRing><gml:posList>" +
+           corner(x, y) + corner(x + 1, y) + corner(x + 1, y + 1) + corner(x, y) +
+           "</gml:posList></gml:LinearRing></gml:exterior></gml:Polygon></gml:surfaceMember></"
+           "gml:MultiSurface>"
+           "</bldg:lod0FootPrint>";
+}
+
+QByteArray periodOfYear(const QByteArray& begin, const QByteArrayList& days)
+{
+    QByteArray text =
+        "<energy:periodOfYear><energy:PeriodOfYear><energy:period><gml:TimePeriod><gml:beginPosition>" +
+        begin + "</gml:beginPosition></gml:TimePeriod></energy:period>";
+    for (const QByteArray& day : days) {
+        text += "<energy:dailySchedule><energy:DailySchedule><energy:dayType>" + day +
+                "</energy:dayType></energy:DailySchedule></energy:dailySchedule>";
+    }
+    return text + "</energy:PeriodOfYear></energy:periodOfYear>";
+}
+
 } // namespace
 
 /// `tolvik-inspect table`.
@@ -152,6 +178,27 @@ private slots:
                      file + ",1,,p\none," + file + ",2,,q\ntwo," + file + ",1,,r\n");
     }
 
+    void aGroupInsideAnotherNamesThatOne()
+    {
+        QVERIFY(writeFile(
+            path("a.gml"),
+            documentText("<core:cityObjectMember><energy:UsageZone gml:id='zone'><energy:coolingSchedule>"
+                         "<energy:DailyPatternSchedule>" +
+                             periodOfYear("2023-01-01", {"Tuesday"}) +
+                             periodOfYear("2023-05-01", {"Friday", "Sunday"}) +
+                             "</energy:DailyPatternSchedule></energy:coolingSchedule></energy:UsageZone>"
+                             "</core:cityObjectMember>",
+                         " xmlns:energy='http://www.sig3d.org/citygml/2.0/energy/1.0'")));
+        const ProcessResult result = runTool({"table", path("a.gml"), "--out", path("b")});
+        QVERIFY2(result.code == 0, result.err);
+        const QByteArray file = shown("a.gml");
+        const QByteArray days = table("b/UsageZone_dailySchedule.csv");
+        QCOMPARE(days.mid(days.indexOf('\n') + 1), "zone," + file + ",1,1,Tuesday\nzone," + file +
+                                                       ",2,2,Friday\nzone," + file + ",3,2,Sunday\n");
+        const QByteArray periods = table("b/UsageZone_periodOfYear.csv");
+        QVERIFY2(periods.contains("zone," + file + ",2,,") && periods.contains("2023-05-01"), periods);
+    }
+
     void tablesOfPartsAreThoseOfTheWhole()
     {
         QVERIFY(writeDocument("a.gml", buildingMember(reference("p") + reference("q") + height("1"), "one")));
@@ -207,6 +254,29 @@ private slots:
         QVERIFY(
             table("b/Building.csv").startsWith("gml:id,parent,file,type,name,Fields/MeasuredHeight,gen:n\n"));
         QVERIFY(table("b/Building.csv").endsWith(",2,7\n"));
+    }
+
+    void joinedColumnsHoldTheValuesOfAllParts()
+    {
+        QVERIFY(writeDocument("a.gml", buildingMember(generic("int", "n", "7") + height("1"), "one")));
+        QVERIFY(
+            writeDocument("b.gml", buildingMember(generic("double", "n", "1.5") + height("2", "ft"), "two")));
+        for (const char* const tile : {"a", "b"}) {
+            QCOMPARE(runTool({"table", path(QString(tile) + ".gml"), "--columns-from",
+                              path(QString(tile) + ".json")})
+                         .code,
+                     0);
+        }
+        QCOMPARE(runTool({"columns", path("all.json"), path("a.json"), path("b.json")}).code, 0);
+        const ProcessResult result =
+            runTool({"table", path("b.gml"), "--columns-from", path("all.json"), "--out", path("b")});
+        QCOMPARE(result.err, QByteArray());
+        QVERIFY2(
+            table("b/Building.csv")
+                .startsWith("gml:id,parent,file,type,name,Fields/MeasuredHeight,Fields/MeasuredHeight/@uom,"
+                            "gen:n\n"),
+            table("b/Building.csv"));
+        QVERIFY2(table("b/Building.csv").endsWith(",2,ft,1.5\n"), table("b/Building.csv"));
     }
 
     void aBrokenDocumentLosesNoOthersRows()
@@ -319,6 +389,44 @@ private slots:
         }
         QCOMPARE(sources, (QStringList{"footprint", "ground", "hull", ""}));
         QCOMPARE(sides, (QVector<double>{3, 2, 4, 0}));
+    }
+
+    /// An index of places would put them in an order of its own.
+    void rowsOfAMapComeInDocumentOrder()
+    {
+        QByteArray members;
+        QStringList ids;
+        for (int i = 0; i < 8; ++i) {
+            ids += QString("house%1").arg(i);
+            members += buildingMember(i % 2 == 0 ? footprintAt(i, i) : footprintAt(1000 - i, 900),
+                                      ids.last().toUtf8());
+        }
+        QVERIFY(writeDocument("a.gml", members, "EPSG:25832"));
+        const ProcessResult result =
+            runTool({"table", path("a.gml"), "--type", "Building", "--out", path("b.fgb")});
+        QCOMPARE(result.err, QByteArray());
+        GDALAllRegister();
+        const std::unique_ptr<GDALDataset> file(
+            GDALDataset::Open(shown("b.fgb").constData(), GDAL_OF_VECTOR | GDAL_OF_READONLY));
+        QVERIFY(file != nullptr);
+        QStringList read;
+        for (const auto& row : *file->GetLayer(0)) {
+            read += row->GetFieldAsString("gml:id");
+        }
+        QCOMPARE(read, ids);
+    }
+
+    void placesOfAnotherSystemAreLeftOut()
+    {
+        QVERIFY(writeDocument("a.gml", buildingMember(footprintAt(1, 1), "one"), "EPSG:25832"));
+        QVERIFY(writeDocument("b.gml", buildingMember(footprintAt(1, 1), "two"), "EPSG:31467"));
+        const ProcessResult result = runTool({"table", path("a.gml"), path("b.gml"), "--geometry", "--type",
+                                              "Building", "--out", path("b.csv")});
+        QCOMPARE(result.code, 1);
+        QVERIFY2(result.err.contains(shown("b.gml") + ": its coordinate system is \"EPSG:31467\""),
+                 result.err);
+        QCOMPARE(table("b.csv").count("POLYGON"), 1);
+        QCOMPARE(table("b.csv").count('\n'), 3);
     }
 
     void surfacesComeWithTheirHeights()
