@@ -97,7 +97,7 @@ private slots:
         const ProcessResult result =
             apply("gml:id,Fields/MeasuredHeight,Fields/YearOfConstruction,Fields/Function,"
                   "gen:owner,type\n"
-                  "one,12.5,1900,\"[\"\"1000\"\"]\",Ada,Building\ntwo,,,,,\n");
+                  "one,12.5,1900,\"[ \"\"1000\"\" ]\",Ada,Building\ntwo,,,,,\n");
         QCOMPARE(result.err, QByteArray());
         QCOMPARE(result.code, 0);
         QCOMPARE(contentOf(path("out.gml")), contentOf(path("a.gml")));
@@ -348,6 +348,9 @@ private slots:
         QVERIFY2(result.err.contains("t: line 2: bare: Fields/MeasuredHeight: a measure needs a unit"),
                  result.err);
         QVERIFY(!QFile::exists(path("out.gml")));
+        QCOMPARE(apply("gml:id,Fields/MeasuredHeight,name\nbare,12.5,New\n", {"--skip-bad"}).code, 1);
+        QVERIFY(contentOf(path("out.gml")).contains("New"));
+        QVERIFY(!contentOf(path("out.gml")).contains("measuredHeight"));
     }
 
     void onlyAMeasureHasAUnit()
@@ -458,6 +461,35 @@ private slots:
                           "one,3,x\none,1,y\n"));
         QCOMPARE(runTool({"apply", references, path("a.gml"), "--out", path("out.gml")}).err, QByteArray());
         QCOMPARE(written(">x<", ">r<").replace(">y<", ">p<"), contentOf(path("a.gml")));
+    }
+
+    /// A type may have groups of one label in several places: the tables are numbered.
+    void theSecondTableOfALabelIsOfItsOwnGroups()
+    {
+        const auto schedule = [](const QByteArray& member) {
+            const QByteArray day =
+                "<energy:dailySchedule><energy:DailySchedule><energy:dayType>Monday</energy:dayType>"
+                "</energy:DailySchedule></energy:dailySchedule>";
+            return "<energy:" + member +
+                   "><energy:DailyPatternSchedule><energy:periodOfYear><energy:PeriodOfYear>" + day + day +
+                   "</energy:PeriodOfYear></energy:periodOfYear></energy:DailyPatternSchedule></energy:" +
+                   member + '>';
+        };
+        QVERIFY(writeFile(path("a.gml"),
+                          documentText("<core:cityObjectMember><energy:UsageZone gml:id='zone'>" +
+                                           schedule("coolingSchedule") + schedule("heatingSchedule") +
+                                           "</energy:UsageZone></core:cityObjectMember>",
+                                       " xmlns:energy='http://www.sig3d.org/citygml/2.0/energy/1.0'")));
+        QCOMPARE(runTool({"table", path("a.gml"), "--out", path("t")}).code, 0);
+        const QString days = path("t/UsageZone_dailySchedule2.csv");
+        QByteArray rows = contentOf(days);
+        QVERIFY2(rows.contains("heatingSchedule") && rows.count("Monday") == 2, rows);
+        rows.replace(rows.lastIndexOf("Monday"), 6, "Sunday");
+        QVERIFY(writeFile(days, rows));
+        QCOMPARE(runTool({"apply", days, path("a.gml"), "--out", path("out.gml")}).code, 0);
+        const QByteArray text = contentOf(path("out.gml"));
+        QCOMPARE(text.count("Sunday"), 1);
+        QVERIFY(text.indexOf("Sunday") > text.lastIndexOf("Monday"));
     }
 
     void whatIsNoTableIsTold()

@@ -150,6 +150,17 @@ private slots:
         QVERIFY(table("b/Building.csv").contains(",1.5,x\n"));
     }
 
+    void aNumberBeyondThoseOfTablesIsAText()
+    {
+        const QByteArray number = "18446744073709551615";
+        QVERIFY(writeDocument(
+            "a.gml",
+            buildingMember("<bldg:storeysAboveGround>" + number + "</bldg:storeysAboveGround>", "one")));
+        QCOMPARE(runTool({"table", path("a.gml"), "--out", path("b")}).code, 0);
+        QVERIFY2(table("b/Building.csv").endsWith(',' + number + '\n'), table("b/Building.csv"));
+        QVERIFY(table("b/columns.csv").contains("Building,Fields/StoreysAboveGround,text,\n"));
+    }
+
     void anotherUnitGetsAColumnForUnits()
     {
         QVERIFY(writeDocument("a.gml", buildingMember(height("2", "m"), "one") +
@@ -254,6 +265,20 @@ private slots:
         QVERIFY(
             table("b/Building.csv").startsWith("gml:id,parent,file,type,name,Fields/MeasuredHeight,gen:n\n"));
         QVERIFY(table("b/Building.csv").endsWith(",2,7\n"));
+    }
+
+    /// The columns are of a part in which no feature has several.
+    void groupsForWhichFixedColumnsHaveNoTableAreTold()
+    {
+        QVERIFY(writeDocument("a.gml", buildingMember(reference("p"), "one")));
+        QVERIFY(writeDocument("b.gml", buildingMember(reference("q") + reference("r"), "two")));
+        QCOMPARE(runTool({"table", path("a.gml"), "--columns-from", path("c.json")}).code, 0);
+        const ProcessResult result =
+            runTool({"table", path("b.gml"), "--columns-from", path("c.json"), "--out", path("b")});
+        QCOMPARE(result.err,
+                 QByteArray("tolvik-inspect: 1 values of Fields/ExternalReferences/"
+                            "externalObjectReference/ReferenceName of Building have no column\n"));
+        QVERIFY2(table("b/Building.csv").endsWith(",q\n"), table("b/Building.csv"));
     }
 
     void joinedColumnsHoldTheValuesOfAllParts()
