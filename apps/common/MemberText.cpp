@@ -46,7 +46,8 @@ QString textOf(const QVariant& value, const QString& former)
         return value.toDateTime().toString(QStringLiteral("yyyy-MM-ddTHH:mm:ss")) + zoneOf(former);
     case QMetaType::QVariantList: {
         QStringList words;
-        for (const QVariant& entry : value.toList()) {
+        const QVariantList entries = value.toList();
+        for (const QVariant& entry : entries) {
             words += textOf(entry, QString());
         }
         return words.join(' ');

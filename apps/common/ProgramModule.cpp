@@ -12,7 +12,8 @@ namespace tolvik::apps {
 QFunctionPointer moduleEntry(const char* module, const char* entry)
 {
     QString reason = QStringLiteral("no such file");
-    for (const QString& plugins : ModelPlugins::standardFolders()) {
+    const QStringList folders = ModelPlugins::standardFolders();
+    for (const QString& plugins : folders) {
         // Modules of programs lie beside the folder of the plug-ins.
         const QString path = QDir::cleanPath(plugins + QStringLiteral("/../%1.so").arg(module));
         if (!QFileInfo::exists(path)) {

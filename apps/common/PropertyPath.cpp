@@ -19,7 +19,7 @@ CoreProperty* findBelow(const CoreProperty& parent, const QStringRef& path)
         if (occurrence == 1) {
             names += child->name();
         }
-        for (const QString& name : names) {
+        for (const QString& name : qAsConst(names)) {
             if (path == name) {
                 return child.get();
             }

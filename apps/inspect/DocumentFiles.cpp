@@ -86,7 +86,8 @@ DocumentFiles::DocumentFiles(const QStringList& arguments, const QString& list, 
         add(argument, recursive, err);
     }
     if (!list.isNull()) {
-        for (const QString& argument : linesOf(list)) {
+        const QStringList listed = linesOf(list);
+        for (const QString& argument : listed) {
             add(argument, recursive, err);
         }
     }

@@ -77,7 +77,8 @@ int runPicture(CityGMLModel& model, const PictureOptions& options, std::ostream&
     if (!scene.bounds().valid()) {
         return fail(QStringLiteral("the document has nothing to draw"), err);
     }
-    for (const QString& file : scene.missingFiles()) {
+    const QStringList missing = scene.missingFiles();
+    for (const QString& file : missing) {
         err << "tolvik-inspect: not drawn: " << file.toStdString() << '\n';
     }
     if (options.lod) {

@@ -21,8 +21,9 @@ namespace {
 QString valueText(const QVariant& value)
 {
     if (value.userType() == QMetaType::QVariantList) {
+        const QVariantList values = value.toList();
         QStringList entries;
-        for (const QVariant& entry : value.toList()) {
+        for (const QVariant& entry : values) {
             entries += valueText(entry);
         }
         return QLatin1Char('[') + entries.join(QStringLiteral(", ")) + QLatin1Char(']');
@@ -48,8 +49,9 @@ std::string valueJson(const QVariant& value)
     case QMetaType::ULongLong:
         return value.toString().toStdString();
     case QMetaType::QVariantList: {
+        const QVariantList entries = value.toList();
         std::string array;
-        for (const QVariant& entry : value.toList()) {
+        for (const QVariant& entry : entries) {
             array += (array.empty() ? "" : ",") + valueJson(entry);
         }
         return '[' + array + ']';

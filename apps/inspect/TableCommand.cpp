@@ -86,10 +86,11 @@ int runTable(const TableOptions& options, const TableDocuments& documents)
             status.addStep(1);
         }
         result.finish();
-        for (const QString& remark : result.remarks()) {
+        const QStringList remarks = result.remarks(), problems = result.problems();
+        for (const QString& remark : remarks) {
             *documents.err << "tolvik-inspect: " << remark.toStdString() << '\n';
         }
-        for (const QString& problem : result.problems()) {
+        for (const QString& problem : problems) {
             *documents.err << "tolvik-inspect: " << problem.toStdString() << '\n';
             code = 1;
         }

@@ -110,7 +110,8 @@ QString cellText(const QVariant& value)
         return value.toDateTime().toString(Qt::ISODate);
     case QMetaType::QVariantList: {
         QJsonArray array;
-        for (const QVariant& entry : value.toList()) {
+        const QVariantList entries = value.toList();
+        for (const QVariant& entry : entries) {
             array.append(jsonEntry(entry));
         }
         return QString::fromUtf8(QJsonDocument(array).toJson(QJsonDocument::Compact));

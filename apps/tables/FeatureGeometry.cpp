@@ -149,7 +149,8 @@ FeatureGeometry::Result FeatureGeometry::surfaces(const gml::AbstractFeatureType
     Surfaces own(true);
     citygml::walkGeometry(feature, [&](const GeometryPiece& piece) { own.add(piece); });
     if (own.isEmpty()) {
-        for (const gml::AbstractFeatureType* inner : withThoseBelow(feature)) {
+        const Features features = withThoseBelow(feature);
+        for (const gml::AbstractFeatureType* const inner : features) {
             citygml::walkGeometry(*inner, [&](const GeometryPiece& piece) { own.add(piece); });
         }
     }

@@ -181,7 +181,8 @@ void TableImport::forEachCell(const gml::AbstractFeatureType& feature, const QSt
     };
     // All are compared first: a table may tell of a thing in two columns, of which people change one.
     QVector<CellPlace> news;
-    for (const CellPlace& place : cellsOf(rows)) {
+    const QVector<CellPlace> cells = cellsOf(rows);
+    for (const CellPlace& place : cells) {
         attempt(place, [&](const CellEdit::Cell& cell) {
             if (!edit.isSaid(cell)) {
                 news += place;

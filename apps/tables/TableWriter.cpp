@@ -385,8 +385,9 @@ void TableWriter::write(const QString& file, const FeatureRow& row)
 /// The rows of repeated groups, in the order of the property tree.
 void TableWriter::writeGroups(const QString& file, const FeatureRow& row)
 {
+    const auto ofType = tablesOf.value(row.type);
     QHash<int, Table*> byNode;
-    for (Table* const table : tablesOf.value(row.type)) {
+    for (Table* const table : ofType) {
         byNode.insert(table->layout.group, table);
     }
     // For each group of the feature the nearest one, itself or around it, that has a table.

@@ -79,7 +79,8 @@ ModelPlugin* ModelPlugins::named(const QString& name) const
 void ModelPlugins::loadFrom(const QString& folder)
 {
     const QDir directory(folder);
-    for (const QString& name : directory.entryList(QDir::Files, QDir::Name)) {
+    const QStringList names = directory.entryList(QDir::Files, QDir::Name);
+    for (const QString& name : names) {
         if (QLibrary::isLibrary(name)) {
             load(directory.absoluteFilePath(name));
         }

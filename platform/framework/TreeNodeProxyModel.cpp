@@ -361,7 +361,8 @@ void TreeNodeProxyModel::selectChildren()
         return;
     }
     QItemSelection children;
-    for (const TreeNode* const node : nodesOf(selection->selection())) {
+    const QList<TreeNode*> selected = nodesOf(selection->selection());
+    for (const TreeNode* const node : selected) {
         appendChildren(*node, children);
     }
     if (!children.isEmpty()) {
