@@ -65,16 +65,16 @@ QByteArray changed(const QByteArray& xml, QVector<Change> changes)
 
 /// The number of tags, with the text that follows each, in which two documents differ. White space around the
 /// texts does not count: it depends on what comes next.
-std::ptrdiff_t differenceOf(const QByteArray& a, const QByteArray& b)
+int differenceOf(const QByteArray& a, const QByteArray& b)
 {
     const QByteArrayList piecesA = a.split('<'), piecesB = b.split('<');
-    const std::ptrdiff_t countA = piecesA.size(), countB = piecesB.size();
+    const int countA = piecesA.size(), countB = piecesB.size();
     // How far into `a` each diagonal reaches.
-    std::map<std::ptrdiff_t, std::ptrdiff_t> reach{{1, 0}};
-    for (std::ptrdiff_t difference = 0;; ++difference) {
-        for (std::ptrdiff_t k = -difference; k <= difference; k += 2) {
+    std::map<int, int> reach{{1, 0}};
+    for (int difference = 0;; ++difference) {
+        for (int k = -difference; k <= difference; k += 2) {
             const bool isInserted = k == -difference || (k != difference && reach[k - 1] < reach[k + 1]);
-            std::ptrdiff_t x = isInserted ? reach[k + 1] : reach[k - 1] + 1;
+            int x = isInserted ? reach[k + 1] : reach[k - 1] + 1;
             while (x < countA && x - k < countB && piecesA[x].trimmed() == piecesB[x - k].trimmed()) {
                 ++x;
             }

@@ -10,6 +10,7 @@
 
 #include "bldg/BuildingType.hxx"
 #include "bldg/WallSurfaceType.hxx"
+#include "gml/CodeType.hxx"
 #include "gml/FeaturePropertyType.hxx"
 #include "gml/LengthType.hxx"
 #include "gml/StringOrRefType.hxx"
