@@ -4,6 +4,8 @@
 #include "support/Files.h"
 #include "support/TestClass.h"
 
+#include <osgDB/Registry>
+#include <QTemporaryDir>
 #include <QtEndian>
 #include <QtTest>
 
@@ -88,6 +90,8 @@ private slots:
     void largePicturesLieOnTheGround();
     void whatIsNoPictureIsTold_data();
     void whatIsNoPictureIsTold();
+    void whatIsMissingIsToldOnce();
+    void picturesAreFoundOverTheDataPathList();
     void objectsInFilesAreDrawn_data();
     void objectsInFilesAreDrawn();
     void objectsThatAreNotDrawnAreTold_data();
@@ -177,6 +181,41 @@ void SceneFilesTest::whatIsNoPictureIsTold()
     const QColor seen = fromAbove(fixture).pixelColor(quarter(0));
     QVERIFY(seen != fixture.options.background);
     QVERIFY(seen != colours[0]);
+}
+
+void SceneFilesTest::whatIsMissingIsToldOnce()
+{
+    const DocumentFile file(documentText(
+        appearanceMember("photo", texture("wall.png")) + appearanceMember("photo", texture("wall.png")) +
+        lamp("lamp.obj") + lamp("lamp.obj").replace("'lamp'", "'another'") +
+        buildingMember(multiSurface("lod2MultiSurface", square("p", 0, 0, "r")))));
+    SceneFixture fixture(file.path());
+    QCOMPARE(fixture.scene.missingFiles(), QStringList({"wall.png", "lamp.obj"}));
+    // Nor again when everything is made anew.
+    fixture.scene.setTheme("photo", true);
+    fixture.scene.addAll();
+    QCOMPARE(fixture.scene.missingFiles(), QStringList({"wall.png", "lamp.obj"}));
+}
+
+void SceneFilesTest::picturesAreFoundOverTheDataPathList()
+{
+    const QTemporaryDir elsewhere;
+    QVERIFY(fourColours().save(elsewhere.filePath("wall.png")));
+    const DocumentFile file(documentWith(texture("wall.png")));
+    {
+        SceneFixture fixture(file.path());
+        QCOMPARE(fixture.scene.missingFiles(), QStringList("wall.png"));
+    }
+    osgDB::FilePathList& paths = osgDB::Registry::instance()->getDataFilePathList();
+    const osgDB::FilePathList before = paths;
+    paths.push_back(elsewhere.path().toLocal8Bit().toStdString());
+    SceneFixture fixture(file.path());
+    paths = before;
+    QCOMPARE(fixture.scene.missingFiles(), QStringList());
+    const QImage drawn = fromAbove(fixture);
+    for (int i = 0; i < 4; ++i) {
+        QCOMPARE(drawn.pixelColor(quarter(i)), colours[i]);
+    }
 }
 
 void SceneFilesTest::objectsInFilesAreDrawn_data()

@@ -77,6 +77,7 @@ private slots:
     void aFixedLevelOfDetailRemovesTheOthers();
     void wallsAndTheBodyTheyBoundAreOneUnit();
     void surfacesThatAreReferredToAreDrawnOnce();
+    void surfacesWithoutAreaAreCounted();
     void texturesAppear();
     void materialsAppearUntilAnotherThemeIsChosen();
     void whatCanBeSeenThroughIsPicked();
@@ -285,6 +286,21 @@ void SceneTest::surfacesThatAreReferredToAreDrawnOnce()
     QCOMPARE(fixture.scene.counts().triangles, std::size_t(2));
     fixture.features().setHidden(fixture.slotOf("wall"), true);
     QCOMPARE(coloursIn(fixture.picture()), 1);
+}
+
+void SceneTest::surfacesWithoutAreaAreCounted()
+{
+    const auto surface = [](const QByteArray& positions) {
+        return "<gml:surfaceMember><gml:Polygon><gml:exterior><gml:LinearRing><gml:posList>" + positions +
+               "</gml:posList></gml:LinearRing></gml:exterior></gml:Polygon></gml:surfaceMember>";
+    };
+    const DocumentFile file(documentText(buildingMember(multiSurface(
+        "lod2MultiSurface", surface("0 0 0 1 0 0 2 0 0 0 0 0") + square("p", 0, 0) +
+                                surface("3 3 3 3 3 3 3 3 3 3 3 3") + surface("0 0 0 1 1 1 0 0 0")))));
+    SceneFixture fixture(file.path());
+    QCOMPARE(fixture.scene.counts().degenerate, std::size_t(3));
+    QCOMPARE(fixture.scene.counts().triangles, std::size_t(2));
+    QVERIFY(coloursIn(fixture.picture()) > 1);
 }
 
 void SceneTest::texturesAppear()

@@ -84,6 +84,7 @@ private slots:
     void themesAreChosen();
     void aSectionCutsTheCityOpen();
     void nothingButTheSelectedIsShown();
+    void manyFeaturesAreHiddenByOneRepaint();
     void theViewEndsWhileItIsBuilt();
     void documentsChangeWhileTheyAreBuilt();
 
@@ -365,6 +366,12 @@ void CityViewTest::coloursFollowAnAttributeAndItsEdits()
     emit attributes->activated(index);
     QTRY_VERIFY(panel->link()->colours().legend().size() >= 2);
     QVERIFY(differences(before, picture()) > 1000);
+    // What has no height is grey.
+    const scene::Slot relief =
+        panel->link()->scene().features().slotOf(document->model().getFeature(std::string("terrain")));
+    QVERIFY(relief != noSlot);
+    QCOMPARE(panel->link()->scene().features().colourOf(relief),
+             panel->link()->colours().legend().back().colour);
 
     // The lowest becomes the highest.
     CityGMLModel& model = document->model();
@@ -382,8 +389,10 @@ void CityViewTest::coloursFollowAnAttributeAndItsEdits()
     const QVariant former = edited->value();
     edited->setValue(former.toDouble() + 1000);
     const QImage coloured = picture();
+    const QString highest = panel->link()->colours().legend().rbegin()[1].text;
     model.propertyChanged(model.index(rowOfEdited, 0), false);
     QTRY_VERIFY(differences(coloured, picture()) > 100);
+    QVERIFY(panel->link()->colours().legend().rbegin()[1].text != highest);
     edited->setValue(former);
     model.propertyChanged(model.index(rowOfEdited, 0), false);
     QTRY_COMPARE(differences(coloured, picture()), 0);
@@ -543,6 +552,22 @@ void CityViewTest::nothingButTheSelectedIsShown()
     }
     QCOMPARE(panel->link()->rowOf(view->hitAt(place).slot), row);
     model.showAll();
+}
+
+void CityViewTest::manyFeaturesAreHiddenByOneRepaint()
+{
+    CityGMLModel& model = document->model();
+    QList<QModelIndex> all;
+    for (int row = 0; row < model.rowCount(); ++row) {
+        all << model.index(row, 0);
+    }
+    QTest::qWait(50);
+    QSignalSpy drawn(view, &QOpenGLWidget::aboutToCompose);
+    model.hide(all);
+    QTRY_VERIFY(!drawn.isEmpty());
+    QTest::qWait(100);
+    QCOMPARE(drawn.size(), 1);
+    QVERIFY(isBackground(picture()));
 }
 
 /// What is left over is told by the sanitizers.
