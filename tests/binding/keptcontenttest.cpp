@@ -5,6 +5,7 @@
 #include "bldg/BuildingType.hxx"
 #include "gml/AbstractRingPropertyType.hxx"
 #include "gml/BoundingShapeType.hxx"
+#include "gml/CodeType.hxx"
 #include "gml/DirectPositionType.hxx"
 #include "gml/EnvelopeType.hxx"
 #include "gml/FeaturePropertyType.hxx"

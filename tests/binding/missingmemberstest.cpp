@@ -3,6 +3,7 @@
 #include "core/CityModelType.hxx"
 #include "energy/AllTypes.h"
 #include "gen/AllTypes.h"
+#include "gml/FeaturePropertyType.hxx"
 #include "gml/LengthType.hxx"
 #include "support/Documents.h"
 #include "support/FaultDocuments.h"

@@ -2,6 +2,7 @@
 #include "support/XmlTree.h"
 
 #include "bldg/BuildingType.hxx"
+#include "gml/CodeType.hxx"
 #include "gml/FeaturePropertyType.hxx"
 #include "gml/LengthType.hxx"
 #include "support/Files.h"

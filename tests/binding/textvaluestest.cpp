@@ -1,4 +1,5 @@
 #include "energy/BuildingUnitType.hxx"
+#include "gml/CodeType.hxx"
 #include "gml/QNameList.hxx"
 #include "support/Documents.h"
 #include "support/SchemaObjects.h"
