@@ -10,6 +10,7 @@
 #include <QXmlStreamReader>
 
 #include <algorithm>
+#include <iterator>
 #include <stdexcept>
 
 /// What the schema files say, read from the files themselves and not from the tables of the binding.
@@ -367,7 +368,7 @@ private:
         result.base = content.names.value("base");
         result.item = content.names.value("itemType");
         if (content.tag == "union") {
-            result.members = content.names.values().toVector();
+            std::copy(content.names.begin(), content.names.end(), std::back_inserter(result.members));
         }
         for (const Node& facet : content.children) {
             if (facet.tag == "enumeration") {

@@ -200,7 +200,7 @@ public:
         return attribute.preset.isEmpty() ? schemas.sample(attribute.type) : attribute.preset;
     }
 
-    using Wanted = QMap<const Particle*, QVector<Instance>>;
+    using Wanted = QHash<const Particle*, QVector<Instance>>;
 
     /// Adds the smallest content of a type that has the wanted elements.
     /// \return false where the content model does not let them stand together
