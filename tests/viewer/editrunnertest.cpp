@@ -19,19 +19,22 @@ using namespace tolvik::viewer;
 namespace {
 
 constexpr int buildings = 4000;
+// Rows go one by one, and each has all others numbered anew.
+constexpr int goingBuildings = 300;
 
 /// A window with many buildings, all of them selected.
 class Street : public OpenedWindow
 {
 public:
     /// \param note of each building, and of the last one
-    explicit Street(const QByteArray& note = {}, const QByteArray& lastNote = {}) : OpenedWindow(QString())
+    explicit Street(const QByteArray& note = {}, const QByteArray& lastNote = {}, int size = buildings)
+        : OpenedWindow(QString()), size(size)
     {
         QByteArray members;
-        for (int i = 0; i < buildings; ++i) {
-            members += buildingMember("<gml:description>old</gml:description>" +
-                                          (i == buildings - 1 ? lastNote : note),
-                                      "b" + QByteArray::number(i));
+        for (int i = 0; i < size; ++i) {
+            members +=
+                buildingMember("<gml:description>old</gml:description>" + (i == size - 1 ? lastNote : note),
+                               "b" + QByteArray::number(i));
         }
         writeFile(file(), documentText(members));
         open(file());
@@ -49,10 +52,10 @@ public:
     void selectBuildings()
     {
         document().selection().select(
-            QItemSelection(document().model().index(1, 0), document().model().index(buildings, 1)),
+            QItemSelection(document().model().index(1, 0), document().model().index(size, 1)),
             QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
         QTRY_VERIFY(cellAt(properties(), "Fields/Description").isValid());
-        QTRY_VERIFY(text("propertyTitle").contains(QString::number(buildings)));
+        QTRY_VERIFY(text("propertyTitle").contains(QString::number(size)));
         QTRY_VERIFY(!text("propertyTitle").contains("Reading"));
     }
     QString text(const char* label) { return window->findChild<QLabel*>(label)->text(); }
@@ -82,6 +85,7 @@ public:
         });
     }
 
+    const int size;
     int ends = 0;
     int seenOnTheWay = 0;
     QString refusal;
@@ -154,6 +158,25 @@ private slots:
         QTRY_COMPARE(street.ends, 4);
         QCOMPARE(street.history().index(), 0);
         QCOMPARE(street.saved(), before);
+    }
+
+    void featuresAreRemovedInOneStep()
+    {
+        Street street({}, {}, goingBuildings);
+        const QByteArray before = contentOf(street.file());
+        street.action("removeFeature")->trigger();
+        QVERIFY(street.runner().isRunning());
+        QTRY_COMPARE(street.ends, 1);
+        QCOMPARE(street.history().count(), 1);
+        QCOMPARE(street.document().model().rowCount(), 1);
+        QVERIFY(!street.saved().contains("Building"));
+        street.action("undo")->trigger();
+        QTRY_COMPARE(street.ends, 2);
+        QCOMPARE(street.document().model().rowCount(), goingBuildings + 1);
+        QCOMPARE(street.saved(), before);
+        street.action("redo")->trigger();
+        QTRY_COMPARE(street.ends, 3);
+        QVERIFY(!street.saved().contains("Building"));
     }
 
     /// The last of the features refuses what all others take.

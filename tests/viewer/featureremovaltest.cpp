@@ -53,6 +53,13 @@ private:
         return refusal.isEmpty();
     }
 
+    static void turn(FeatureRemoval& removal, int steps)
+    {
+        for (int change = 0; change < steps; ++change) {
+            removal.turn(change);
+        }
+    }
+
 private slots:
     void aFeatureGoesWithWhatIsInside()
     {
@@ -102,6 +109,55 @@ private slots:
         QVERIFY(!fixture.saved().contains("Building"));
         fixture.document().undoStack().undo();
         QCOMPARE(fixture.saved(), before);
+    }
+
+    /// Wherever it is given up on the way there, it comes back.
+    void aRemovalThatIsGivenUpLeavesAll()
+    {
+        for (int steps = 1, size = 2; steps < size; ++steps) {
+            PanelFixture fixture(town());
+            QAbstractItemModelTester tester(&fixture.document().tree());
+            const QByteArray before = fixture.saved();
+            const QStringList ids = idsOf(fixture.document());
+            const auto removal = FeatureRemoval::prepare(
+                fixture.document(),
+                {&fixture.feature("a"), fixture.document().model().getFeature(5), &fixture.feature("b")});
+            size = removal->size();
+            for (int number = 0; number < steps; ++number) {
+                QCOMPARE(removal->perform(number), QString());
+            }
+            turn(*removal, removal->changes());
+            removal->finish(false);
+            QCOMPARE(fixture.saved(), before);
+            QCOMPARE(idsOf(fixture.document()), ids);
+        }
+    }
+
+    /// The same on the way back, and on the way there again.
+    void aTurnThatIsGivenUpLeavesAll()
+    {
+        PanelFixture fixture(town());
+        const QByteArray before = fixture.saved();
+        const QStringList ids = idsOf(fixture.document());
+        QString refusal;
+        const auto removal = FeatureRemoval::make(
+            fixture.document(), {&fixture.feature("a"), fixture.document().model().getFeature(5)}, refusal);
+        QVERIFY(removal != nullptr);
+        const QByteArray after = fixture.saved();
+        const QStringList left = idsOf(fixture.document());
+        for (const bool isUndo : {true, false}) {
+            for (int steps = 1; steps < removal->changes(); ++steps) {
+                turn(*removal, steps);
+                turn(*removal, removal->stepsBack(steps));
+                removal->finish(isUndo);
+                QCOMPARE(fixture.saved(), isUndo ? after : before);
+                QCOMPARE(idsOf(fixture.document()), isUndo ? left : ids);
+            }
+            turn(*removal, removal->changes());
+            removal->finish(!isUndo);
+            QCOMPARE(fixture.saved(), isUndo ? before : after);
+            QCOMPARE(idsOf(fixture.document()), isUndo ? ids : left);
+        }
     }
 
     void theDocumentItselfStays()

@@ -10,6 +10,11 @@ namespace {
 // So many features take no longer than a slice.
 constexpr int fewFeatures = 100;
 
+bool isShort(const SlicedEdit& edit, int steps)
+{
+    return steps <= fewFeatures / edit.effort();
+}
+
 } // namespace
 
 EditRunner::EditRunner(QUndoStack& history, QObject* parent) : QObject(parent), history(history)
@@ -24,7 +29,7 @@ QString EditRunner::perform(std::unique_ptr<SlicedEdit> next)
     if (isRunning()) {
         return tr("Another edit is still under way.");
     }
-    if (next->size() <= fewFeatures) {
+    if (isShort(*next, next->size())) {
         const QString reason = next->performAll();
         if (reason.isEmpty()) {
             push(std::move(next));
@@ -84,7 +89,7 @@ bool EditRunner::turnInSlices(const QUndoCommand* command, bool isUndo)
 {
     // The history gives its commands away to be read; going back and forth is what changes them.
     auto* const step = const_cast<SlicedEdit*>(dynamic_cast<const SlicedEdit*>(command));
-    if (step == nullptr || step->changes() <= fewFeatures) {
+    if (step == nullptr || isShort(*step, step->changes())) {
         return false;
     }
     edit = step;
@@ -123,7 +128,8 @@ void EditRunner::takeBack()
     isTakingBack = true;
     emit begun(tr("Taking back"));
     work.start(
-        made ? edit->changes() : turned, [this](int change) { edit->turn(change); }, [this] { end(); });
+        made ? edit->changes() : edit->stepsBack(turned), [this](int change) { edit->turn(change); },
+        [this] { end(); });
 }
 
 void EditRunner::end()

@@ -11,12 +11,17 @@
 #include <QJsonObject>
 #include <unordered_map>
 #include <unordered_set>
+#include <utility>
 
 namespace tolvik::viewer {
 
 namespace {
 
 const QString featureRemovalKind = QStringLiteral("removal");
+
+constexpr std::size_t fewFeatures = 100;
+// A row that goes has the model number all others anew.
+constexpr int rowsOfOneEffort = 10000;
 
 /// The member whose entry goes with a feature: that of the property element around it. Of a property element
 /// that holds several features only the feature goes.
@@ -30,11 +35,11 @@ citygml::Member memberToLeave(gml::AbstractFeatureType& feature)
     return citygml::Member::holding(inside.object());
 }
 
-bool isInside(gml::AbstractFeatureType& feature, const FeatureRemoval::Features& others)
+bool isInside(const gml::AbstractFeatureType& feature,
+              const std::unordered_set<const gml::AbstractFeatureType*>& others)
 {
     for (auto* around = feature._container(); around != nullptr; around = around->_container()) {
-        if (std::find(others.begin(), others.end(), dynamic_cast<gml::AbstractFeatureType*>(around)) !=
-            others.end()) {
+        if (others.count(dynamic_cast<const gml::AbstractFeatureType*>(around)) != 0) {
             return true;
         }
     }
@@ -66,50 +71,50 @@ FeatureRemoval::Features inDocumentOrder(Document& document, FeatureRemoval::Fea
     return features;
 }
 
+/// How many rows go with features, at most: of few it is counted.
+int mostRowsOf(Document& document, const FeatureRemoval::Features& features)
+{
+    if (features.size() > fewFeatures) {
+        return document.model().rowCount();
+    }
+    std::size_t count = 0;
+    for (gml::AbstractFeatureType* const feature : features) {
+        count += featuresIn(*feature).size();
+    }
+    return static_cast<int>(count);
+}
+
 } // namespace
+
+std::unique_ptr<FeatureRemoval> FeatureRemoval::prepare(Document& document, const Features& features)
+{
+    return std::unique_ptr<FeatureRemoval>(new FeatureRemoval(document, features));
+}
 
 std::unique_ptr<FeatureRemoval> FeatureRemoval::make(Document& document, const Features& features,
                                                      QString& refusal)
 {
-    std::unique_ptr<FeatureRemoval> removal(new FeatureRemoval(document));
-    refusal = removal->findAll(features);
-    if (!refusal.isEmpty() || removal->all.empty()) {
-        return nullptr;
-    }
-    removal->setText(features.size() == 1
-                         ? tr("remove %1 %2").arg(typeOf(*features.front()), nameOf(*features.front()))
-                         : tr("remove %n feature(s)", nullptr, static_cast<int>(features.size())));
-    removal->removeAll();
-    return removal;
+    std::unique_ptr<FeatureRemoval> removal = prepare(document, features);
+    refusal = removal->performAll();
+    return refusal.isEmpty() && removal->changes() > 0 ? std::move(removal) : nullptr;
 }
 
 void FeatureRemoval::addMaker()
 {
     RecordedEdit::addMaker(featureRemovalKind, [](Document& document, const QJsonObject& record) {
         const Features features = FeatureLocator(document.model()).findAll(record["features"].toArray());
-        if (features.empty()) {
-            return std::unique_ptr<RecordedEdit>();
-        }
         QString refusal;
         return std::unique_ptr<RecordedEdit>(make(document, features, refusal));
     });
 }
 
-void FeatureRemoval::redo()
+FeatureRemoval::FeatureRemoval(Document& document, Features features)
+    : document(document), features(std::move(features)), mostRows(mostRowsOf(document, this->features)),
+      chosen(this->features.begin(), this->features.end())
 {
-    if (!isDone) {
-        removeAll();
-        isDone = true;
-    }
-}
-
-void FeatureRemoval::undo()
-{
-    for (Removed& removed : all) {
-        putBack(removed);
-    }
-    addRows();
-    isDone = false;
+    setText(this->features.size() == 1
+                ? tr("remove %1 %2").arg(typeOf(*this->features.front()), nameOf(*this->features.front()))
+                : tr("remove %n feature(s)", nullptr, static_cast<int>(this->features.size())));
 }
 
 QString FeatureRemoval::kind() const
@@ -119,76 +124,182 @@ QString FeatureRemoval::kind() const
 
 QJsonObject FeatureRemoval::record() const
 {
-    QJsonArray features;
+    QJsonArray addresses;
     for (const Removed& removed : all) {
-        features += removed.feature.toJson();
+        addresses += removed.feature.toJson();
     }
-    return {{"features", features}};
+    return {{"features", addresses}};
 }
 
-/// \return why a feature cannot be removed, or nothing
-QString FeatureRemoval::findAll(const Features& features)
+int FeatureRemoval::size() const
 {
-    FeatureLocator locator(document.model());
-    for (gml::AbstractFeatureType* const feature : inDocumentOrder(document, features)) {
-        if (feature->_container() == nullptr) {
-            return tr("The document itself cannot be removed.");
-        }
-        if (isInside(*feature, features)) {
-            continue;
-        }
-        const citygml::Member entry = memberToLeave(*feature);
-        auto* const owner = dynamic_cast<gml::AbstractFeatureType*>(&entry.object());
-        const bool isNeeded = entry.isRequired() && entry.list().size() == 1;
-        if (owner == nullptr || isNeeded) {
-            return tr("%1 %2 cannot be removed, as what stands around it needs it.")
-                .arg(typeOf(*feature), nameOf(*feature));
-        }
-        all.push_back(
-            {locator.addressOf(*feature), locator.addressOf(*owner), entry.name(), entry.position(), {}});
+    // How many rows go is not known before all features are found.
+    return static_cast<int>(features.size()) + mostRows;
+}
+
+int FeatureRemoval::effort() const
+{
+    return 1 + document.model().rowCount() / rowsOfOneEffort;
+}
+
+QString FeatureRemoval::perform(int number)
+{
+    if (number == 0) {
+        const std::size_t given = features.size();
+        features = inDocumentOrder(document, std::move(features));
+        // Those that were there twice are null, so that the numbers stay.
+        features.resize(given, nullptr);
     }
+    const auto at = static_cast<std::size_t>(number);
+    if (at < features.size()) {
+        return features[at] != nullptr ? find(at) : QString();
+    }
+    removeNext();
     return QString();
 }
 
-void FeatureRemoval::removeAll()
+void FeatureRemoval::turn(int change)
 {
-    for (auto removed = all.rbegin(); removed != all.rend(); ++removed) {
-        take(*removed);
+    if (change == 0) {
+        endWalk();
+        isGoingBack = !isGoingBack;
+    }
+    const auto at = static_cast<std::size_t>(change);
+    if (at < all.size()) {
+        isGoingBack ? putBack(all[at]) : locate(at);
+    } else {
+        isGoingBack ? addNextRow() : removeNext();
+    }
+}
+
+void FeatureRemoval::endWalk()
+{
+    features = Features();
+    chosen.clear();
+    located.reset();
+    going.clear();
+    coming.clear();
+    areComingKnown = false;
+}
+
+FeatureLocator& FeatureRemoval::locator()
+{
+    if (located == nullptr) {
+        located = std::make_unique<FeatureLocator>(document.model());
+    }
+    return *located;
+}
+
+/// Notes where a feature stands.
+/// \return why it cannot be removed, or nothing
+QString FeatureRemoval::find(std::size_t number)
+{
+    gml::AbstractFeatureType* const feature = features[number];
+    if (feature->_container() == nullptr) {
+        return tr("The document itself cannot be removed.");
+    }
+    if (isInside(*feature, chosen)) {
+        return QString();
+    }
+    const citygml::Member entry = memberToLeave(*feature);
+    auto* const owner = dynamic_cast<gml::AbstractFeatureType*>(&entry.object());
+    const bool isNeeded = entry.isRequired() && entry.list().size() == 1;
+    if (owner == nullptr || isNeeded) {
+        return tr("%1 %2 cannot be removed, as what stands around it needs it.")
+            .arg(typeOf(*feature), nameOf(*feature));
+    }
+    all.push_back({locator().addressOf(*feature),
+                   locator().addressOf(*owner),
+                   entry.name(),
+                   entry.position(),
+                   {},
+                   false});
+    rows += collectRows(feature, all.size() - 1);
+    return QString();
+}
+
+/// Finds a feature that is to go once more.
+void FeatureRemoval::locate(std::size_t number)
+{
+    if (!all[number].isOut) {
+        collectRows(locator().find(all[number].feature), number);
+    }
+}
+
+/// Notes the rows of a feature and of everything inside.
+///
+/// \param feature null for one that has no row, as its way back was cut short
+/// \return number of the rows
+std::size_t FeatureRemoval::collectRows(gml::AbstractFeatureType* feature, std::size_t number)
+{
+    const Features inside = feature != nullptr ? featuresIn(*feature) : Features{nullptr};
+    for (gml::AbstractFeatureType* const each : inside) {
+        // What stands around the others goes last.
+        going.push_back({each, number, each == inside.front()});
+    }
+    return inside.size();
+}
+
+void FeatureRemoval::removeNext()
+{
+    if (going.empty()) {
+        return;
+    }
+    const Row row = going.back();
+    going.pop_back();
+    document.model().removeFeature(row.feature);
+    if (row.isLast) {
+        take(all[row.removed]);
     }
 }
 
 void FeatureRemoval::take(Removed& removed)
 {
-    FeatureLocator locator(document.model());
-    gml::AbstractFeatureType* const owner = locator.find(removed.owner);
-    gml::AbstractFeatureType* const feature = locator.find(removed.feature);
-    std::optional<citygml::Member> member = citygml::Member::named(*owner, removed.member);
-    const Features inside = featuresIn(*feature);
-    for (auto each = inside.rbegin(); each != inside.rend(); ++each) {
-        document.model().removeFeature(*each);
-    }
-    removed.content = member->take(removed.position);
+    gml::AbstractFeatureType* const owner = FeatureLocator(document.model()).find(removed.owner);
+    removed.content = citygml::Member::named(*owner, removed.member)->take(removed.position);
+    removed.isOut = true;
 }
 
 void FeatureRemoval::putBack(Removed& removed)
 {
-    gml::AbstractFeatureType* const owner = FeatureLocator(document.model()).find(removed.owner);
-    citygml::Member::named(*owner, removed.member)->put(removed.position, removed.content);
+    if (removed.isOut) {
+        gml::AbstractFeatureType* const owner = FeatureLocator(document.model()).find(removed.owner);
+        citygml::Member::named(*owner, removed.member)->put(removed.position, removed.content);
+        removed.isOut = false;
+    }
 }
 
-/// Gives the features that are back their rows.
-void FeatureRemoval::addRows()
+/// Gives one of the features that are back its row.
+void FeatureRemoval::addNextRow()
 {
-    FeatureLocator locator(document.model());
-    std::unordered_set<gml::AbstractFeatureType*> owners;
-    for (const Removed& removed : all) {
-        owners.insert(locator.find(removed.owner));
+    if (!areComingKnown) {
+        coming = featuresWithoutRow();
+        areComingKnown = true;
     }
-    for (gml::AbstractFeatureType* const owner : owners) {
+    if (!coming.empty()) {
+        document.model().addFeature(coming.back());
+        coming.pop_back();
+    }
+}
+
+/// The features that are back without a row, the last one first.
+FeatureRemoval::Features FeatureRemoval::featuresWithoutRow()
+{
+    std::unordered_set<gml::AbstractFeatureType*> owners;
+    Features found;
+    for (const Removed& removed : all) {
+        gml::AbstractFeatureType* const owner = locator().find(removed.owner);
+        if (!owners.insert(owner).second) {
+            continue;
+        }
         for (gml::AbstractFeatureType* const feature : featuresIn(*owner)) {
-            document.model().addFeature(feature);
+            if (document.model().getRow(feature) < 0) {
+                found.push_back(feature);
+            }
         }
     }
+    std::reverse(found.begin(), found.end());
+    return found;
 }
 
 } // namespace tolvik::viewer

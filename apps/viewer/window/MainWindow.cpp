@@ -274,11 +274,12 @@ void MainWindow::removeFeatures(const QVector<int>& rows)
     for (const int row : rows) {
         going.push_back(shown->model().getFeature(row));
     }
-    QString refusal;
-    auto removal = FeatureRemoval::make(*shown, going, refusal);
-    if (removal) {
-        shown->undoStack().push(removal.release());
-    } else if (!refusal.isEmpty()) {
+    if (going.size() > 1) {
+        // Each row that goes would have the rest of the selection put together anew.
+        shown->selection().clearSelection();
+    }
+    const QString refusal = shown->editRunner().perform(FeatureRemoval::prepare(*shown, going));
+    if (!refusal.isEmpty()) {
         statusBar()->showMessage(refusal, 8000);
     }
 }
