@@ -26,7 +26,6 @@ void readProperty(CoreProperty& property, PropertyNode& node)
     node.isBound = isBoundProperty(property);
     node.isEditable = node.isBound && property.editable();
     node.value = apps::editedValueOf(property);
-    node.offered = apps::offeredValueOf(property);
     node.choices = property.potentialValues();
     node.isPresent = !node.isBound || node.value.isValid();
     if (const auto* const bound = dynamic_cast<const BoundProperty*>(&property)) {
@@ -41,15 +40,25 @@ void readProperty(CoreProperty& property, PropertyNode& node)
     }
 }
 
-void readChildren(const CoreProperty& property, PropertyNode& node)
+using Reader = void (*)(CoreProperty&, PropertyNode&);
+
+void readOffer(CoreProperty& property, PropertyNode& node)
+{
+    node.offered = apps::offeredValueOf(property);
+}
+
+/// \param readers what is read of each property
+void readChildren(const CoreProperty& property, PropertyNode& node, const std::vector<Reader>& readers)
 {
     QHash<QString, int> seen;
     for (const auto& child : property.properties()) {
         auto below = std::make_unique<PropertyNode>();
         below->step = {child->name(), ++seen[child->name()]};
         below->parent = &node;
-        readProperty(*child, *below);
-        readChildren(*child, *below);
+        for (const Reader reader : readers) {
+            reader(*child, *below);
+        }
+        readChildren(*child, *below, readers);
         node.children.push_back(std::move(below));
     }
 }
@@ -93,6 +102,16 @@ void noteAttributeSets(gml::AbstractFeatureType& feature, PropertyNode& root)
         each->isAttributeSet =
             isGroup && attributesOf(feature, each->step.name, each->step.occurrence).has_value();
     }
+}
+
+std::unique_ptr<PropertyNode> readTree(const CityGMLModel& model, gml::AbstractFeatureType& feature,
+                                       const std::vector<Reader>& readers)
+{
+    auto root = std::make_unique<PropertyNode>();
+    readChildren(*propertyTree(model, feature), *root, readers);
+    addAddresses(feature, *root);
+    noteAttributeSets(feature, *root);
+    return root;
 }
 
 bool isSameValue(const QVariant& a, const QVariant& b)
@@ -164,11 +183,12 @@ PropertyNode* PropertyNode::find(const PropertyPath& path)
 
 std::unique_ptr<PropertyNode> readProperties(const CityGMLModel& model, gml::AbstractFeatureType& feature)
 {
-    auto root = std::make_unique<PropertyNode>();
-    readChildren(*propertyTree(model, feature), *root);
-    addAddresses(feature, *root);
-    noteAttributeSets(feature, *root);
-    return root;
+    return readTree(model, feature, {&readProperty, &readOffer});
+}
+
+std::unique_ptr<PropertyNode> readValues(const CityGMLModel& model, gml::AbstractFeatureType& feature)
+{
+    return readTree(model, feature, {&readProperty});
 }
 
 void mergeProperties(PropertyNode& tree, const PropertyNode& other)

@@ -41,6 +41,8 @@ struct PropertyNode
 
 /// Copies the complete property tree of a feature, with the addresses composed.
 std::unique_ptr<PropertyNode> readProperties(const CityGMLModel& model, gml::AbstractFeatureType& feature);
+/// The same for mergeProperties(), without what editors start from.
+std::unique_ptr<PropertyNode> readValues(const CityGMLModel& model, gml::AbstractFeatureType& feature);
 
 /// Leaves of a tree what a second one has too, and notes where the values differ.
 void mergeProperties(PropertyNode& tree, const PropertyNode& other);

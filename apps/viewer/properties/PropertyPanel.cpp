@@ -212,11 +212,10 @@ void PropertyPanel::readFeature(int row)
     if (feature == nullptr) {
         return;
     }
-    std::unique_ptr<PropertyNode> tree = readProperties(document.model(), *feature);
     if (merged == nullptr) {
-        merged = std::move(tree);
+        merged = readProperties(document.model(), *feature);
     } else {
-        mergeProperties(*merged, *tree);
+        mergeProperties(*merged, *readValues(document.model(), *feature));
     }
 }
 

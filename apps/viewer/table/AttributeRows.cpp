@@ -22,6 +22,12 @@ QString unitOf(const CoreProperty& property)
     return property.unit() != nullptr ? property.unit()->name() : QString();
 }
 
+bool isPresent(CoreProperty& property)
+{
+    const auto* const bound = dynamic_cast<const BoundProperty*>(&property);
+    return bound != nullptr ? bound->present() : property.value().isValid();
+}
+
 AttributeCell cellOf(CoreProperty& property)
 {
     const bool isBound = typeid(property) != typeid(CoreProperty);
@@ -31,8 +37,7 @@ AttributeCell cellOf(CoreProperty& property)
     cell.offered = apps::offeredValueOf(property);
     cell.choices = property.potentialValues();
     cell.isEditable = isBound && property.editable();
-    const auto* const bound = dynamic_cast<const BoundProperty*>(&property);
-    cell.isPresent = bound != nullptr ? bound->present() : cell.value.isValid();
+    cell.isPresent = isPresent(property);
     cell.unit = unitOf(property);
     return cell;
 }
@@ -58,7 +63,7 @@ void collectBelow(const CoreProperty& parent, PropertyPath& path, QVector<Proper
                 paths.insert(found, path);
                 isUsed.insert(found, false);
             }
-            isUsed[found] = isUsed[found] || cellOf(*child).isPresent;
+            isUsed[found] = isUsed[found] || isPresent(*child);
             place = found + 1;
         }
         collectBelow(*child, path, paths, isUsed, place);
