@@ -1,7 +1,6 @@
 #include "apps/viewer/recovery/Recovery.h"
 #include "apps/viewer/document/Document.h"
 #include "apps/viewer/document/RecordedEdit.h"
-#include "apps/viewer/files/FileCommands.h"
 #include "apps/viewer/recovery/Journal.h"
 #include "support/Files.h"
 #include "support/PanelFixture.h"
@@ -131,6 +130,25 @@ private slots:
         QCOMPARE(journals(), QStringList());
     }
 
+    void aCancelledRecoveryCanBeDoneLater()
+    {
+        QVERIFY(kill());
+        {
+            OpenedWindow opened(QString{});
+            offer(opened);
+            connect(&opened.document().editRunner(), &EditRunner::begun, &opened.document().editRunner(),
+                    &EditRunner::cancel);
+            recover(opened);
+            QVERIFY2(notice(opened).contains("cancelled"), qPrintable(notice(opened)));
+            QVERIFY(name(opened, 1) != "One");
+            QVERIFY(!opened.document().editRunner().isRunning());
+        }
+        OpenedWindow opened(QString{});
+        offer(opened);
+        recover(opened);
+        QCOMPARE(name(opened, 1), QString("One"));
+    }
+
     void anotherFileIsRefused()
     {
         QVERIFY(kill());
@@ -190,9 +208,9 @@ private:
 
     static void recover(OpenedWindow& opened)
     {
-        QSignalSpy done(&opened.window->files(), &FileCommands::opened);
+        QSignalSpy done(&opened.document().editRunner(), &EditRunner::ended);
         opened.button("recover")->click();
-        QVERIFY(done.wait());
+        QTRY_COMPARE(done.count(), 1);
     }
 
     static QString notice(const OpenedWindow& opened)

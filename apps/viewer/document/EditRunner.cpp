@@ -112,8 +112,32 @@ bool EditRunner::turnInSlices(const QUndoCommand* command, bool isUndo)
     return true;
 }
 
+void EditRunner::replay(int steps, const std::function<QString(int)>& step,
+                        const std::function<void(const QString&)>& end)
+{
+    isReplaying = true;
+    refusal.clear();
+    emit begun(tr("Recovering"));
+    work.start(
+        steps,
+        [this, step](int number) {
+            if (refusal.isEmpty()) {
+                refusal = step(number);
+            }
+        },
+        [this, end] {
+            isReplaying = false;
+            emit ended(QString());
+            end(refusal);
+        });
+}
+
 void EditRunner::cancel()
 {
+    if (isReplaying) {
+        refusal = tr("it was cancelled");
+        return;
+    }
     if (isRunning() && !isTakingBack) {
         takeBack();
     }
@@ -148,6 +172,7 @@ void EditRunner::abandon()
         edit = nullptr;
         made.reset();
         isTakingBack = false;
+        isReplaying = false;
         emit ended(QString());
     }
 }

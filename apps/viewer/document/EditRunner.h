@@ -3,6 +3,7 @@
 #include "apps/viewer/document/SlicedEdit.h"
 #include "apps/viewer/features/SlicedWork.h"
 
+#include <functional>
 #include <memory>
 #include <QObject>
 #include <QUndoStack>
@@ -22,11 +23,18 @@ public:
     explicit EditRunner(QUndoStack& history, QObject* parent = nullptr);
     ~EditRunner() override;
 
-    bool isRunning() const { return edit != nullptr; }
+    bool isRunning() const { return edit != nullptr || isReplaying; }
 
     /// Makes an edit. One that changes nothing leaves no step in the history.
     /// \return why it is refused, with nothing changed. An edit of many features is refused by ended().
     QString perform(std::unique_ptr<SlicedEdit> next);
+
+    /// Has edits made that are steps of the history each, as if a user made them one after the other. A
+    /// cancelled one leaves those that were made.
+    /// \param step makes the edit of a number, from 0 on, and answers why that cannot be; the last one then
+    /// \param end  called once with that answer, empty where all were made
+    void replay(int steps, const std::function<QString(int)>& step,
+                const std::function<void(const QString&)>& end);
 
     /// Gives up what is under way, where it stands: the document is about to go.
     void abandon();
@@ -60,6 +68,7 @@ private:
     int turned = 0;       // number of its changes that are at the other end
     bool wasDone = false; // whether it was done before
     bool isTakingBack = false;
+    bool isReplaying = false;
     QString refusal;
 };
 

@@ -72,22 +72,26 @@ QString Recovery::refusal() const
     return QString();
 }
 
-QString Recovery::applyTo(Document& target) const
+void Recovery::applyTo(Document& target, const std::function<void(const QString&)>& end) const
 {
-    for (const QJsonObject& step : steps) {
-        const QJsonValue index = step.value(QLatin1String("index"));
-        if (index.isDouble()) {
-            target.undoStack().setIndex(index.toInt());
-            continue;
-        }
-        std::unique_ptr<RecordedEdit> edit =
-            RecordedEdit::make(step.value(QLatin1String("kind")).toString(), target,
-                               step.value(QLatin1String("edit")).toObject());
-        if (edit == nullptr) {
-            return tr("an edit does not fit the document");
-        }
-        target.undoStack().push(edit.release());
+    target.editRunner().replay(
+        steps.size(), [this, &target](int number) { return apply(steps[number], target); }, end);
+}
+
+/// \return why a step cannot be done, or nothing
+QString Recovery::apply(const QJsonObject& step, Document& target)
+{
+    const QJsonValue index = step.value(QLatin1String("index"));
+    if (index.isDouble()) {
+        target.undoStack().setIndex(index.toInt());
+        return QString();
     }
+    std::unique_ptr<RecordedEdit> edit = RecordedEdit::make(
+        step.value(QLatin1String("kind")).toString(), target, step.value(QLatin1String("edit")).toObject());
+    if (edit == nullptr) {
+        return tr("an edit does not fit the document");
+    }
+    target.undoStack().push(edit.release());
     return QString();
 }
 

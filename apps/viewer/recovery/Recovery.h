@@ -2,6 +2,7 @@
 
 #include "apps/viewer/recovery/FileMark.h"
 
+#include <functional>
 #include <memory>
 #include <QCoreApplication>
 #include <QLockFile>
@@ -33,10 +34,11 @@ public:
     /// Why the edits cannot be done on the file as it is now; empty where they can.
     QString refusal() const;
 
-    /// Does the edits again.
+    /// Does the edits again, beside the window.
     /// \param target has the document of file() open, without an edit
-    /// \return why not all could be done; empty where they were
-    QString applyTo(Document& target) const;
+    /// \param end    called once, with the reason why not all could be done; empty where they were. This
+    ///               object lives until then.
+    void applyTo(Document& target, const std::function<void(const QString&)>& end) const;
 
     /// Deletes the journal.
     void discard();
@@ -44,6 +46,7 @@ public:
 private:
     Recovery(QString path, std::unique_ptr<QLockFile> lock);
     bool read();
+    static QString apply(const QJsonObject& step, Document& target);
 
     QString journal;
     std::unique_ptr<QLockFile> lock;

@@ -473,6 +473,14 @@
         <source>Taking back</source>
         <translation>Zurücknehmen</translation>
     </message>
+    <message>
+        <source>Recovering</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+    <message>
+        <source>it was cancelled</source>
+        <translation>es wurde abgebrochen</translation>
+    </message>
 </context>
 <context>
     <name>tolvik::viewer::ExportDialog</name>

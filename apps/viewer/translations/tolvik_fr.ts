@@ -473,6 +473,14 @@
         <source>Taking back</source>
         <translation>Retour à l’état précédent</translation>
     </message>
+    <message>
+        <source>Recovering</source>
+        <translation>Récupération</translation>
+    </message>
+    <message>
+        <source>it was cancelled</source>
+        <translation>elle a été annulée</translation>
+    </message>
 </context>
 <context>
     <name>tolvik::viewer::ExportDialog</name>

@@ -133,13 +133,14 @@ void MainWindow::recover(const std::shared_ptr<Recovery>& recovery)
         if (QFileInfo(shown->fileName()) != QFileInfo(recovery->file())) {
             return;
         }
-        const QString reason = recovery->applyTo(*shown);
-        if (reason.isEmpty()) {
-            recovery->discard();
-            log->add(LogModel::Information, tr("The changes of %1 are recovered.").arg(name));
-        } else {
-            notice->tell(tr("Not all changes of %1 could be recovered: %2.").arg(name, reason));
-        }
+        recovery->applyTo(*shown, [this, recovery, name](const QString& reason) {
+            if (reason.isEmpty()) {
+                recovery->discard();
+                log->add(LogModel::Information, tr("The changes of %1 are recovered.").arg(name));
+            } else {
+                notice->tell(tr("Not all changes of %1 could be recovered: %2.").arg(name, reason));
+            }
+        });
     });
     open(recovery->file());
 }
