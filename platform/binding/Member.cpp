@@ -223,10 +223,11 @@ void becomeAll(xml_schema::type& owner, const FlatMember& member, const Objects&
     std::size_t done = 0;
     for (const std::size_t both = opsOf(member).count(owner); done < both; ++done) {
         xml_schema::type& object = objectAt(owner, member, done);
-        if (typeid(object) != typeid(*objects[done])) {
+        const xml_schema::type& former = *objects[done];
+        if (typeid(object) != typeid(former)) {
             break;
         }
-        become(object, *objects[done]);
+        become(object, former);
     }
     cutTo(owner, member, done);
     for (; done < objects.size(); ++done) {

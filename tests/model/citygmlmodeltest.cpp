@@ -1,4 +1,5 @@
 #include "framework/ModelInterface.h"
+#include "gml/FeaturePropertyType.hxx"
 #include "support/CityGMLModelFixture.h"
 #include "support/OperationRecorder.h"
 #include "support/SignalRecorder.h"

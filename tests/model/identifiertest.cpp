@@ -185,7 +185,7 @@ private slots:
 
         model.removeFeature(feature);
         model.cityGML()->featureMember().pop_back();
-        for (const std::string id : {"c", "d", "e"}) {
+        for (const char* const id : {"c", "d", "e"}) {
             QCOMPARE(model.getFeature(id), nullptr);
         }
         QCOMPARE(model.getRow(model.getFeature("b")), 2);

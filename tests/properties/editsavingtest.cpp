@@ -109,9 +109,10 @@ private slots:
         QTest::addColumn<bool>("everything");
         // A quick run takes one of the two ways to fill a feature, in turn.
         const bool both = qEnvironmentVariableIsSet("TOLVIK_LONG_RUNS");
+        const QStringList sorts{"ordinary", "empty", "extreme", "wrong"};
         bool turn = false;
         for (const QString& type : memberTypes()) {
-            for (const QString sort : {"ordinary", "empty", "extreme", "wrong"}) {
+            for (const QString& sort : sorts) {
                 turn = !turn;
                 for (const bool everything : {false, true}) {
                     if (both || everything == turn) {
