@@ -53,8 +53,8 @@ void Filler::fillMember(xml_schema::type& owner, const Member& member, int depth
 QVector<const TypeRecord*> Filler::typesOf(const Member& member) const
 {
     static QHash<const Member*, QVector<const TypeRecord*>> known;
-    auto found = known.constFind(&member);
-    if (found == known.constEnd()) {
+    auto found = known.find(&member);
+    if (found == known.end()) {
         found = known.insert(&member, possibleTypesOf(member));
     }
     if (member.ops->single && found->size() > 1) {
