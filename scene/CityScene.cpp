@@ -9,8 +9,6 @@
 #include <algorithm>
 #include <cmath>
 #include <osg/Depth>
-#include <osg/LineWidth>
-#include <osg/Point>
 #include <osg/PolygonOffset>
 #include <QElapsedTimer>
 #include <unordered_set>
@@ -22,8 +20,6 @@ namespace {
 
 using citygml::GeometryPiece;
 using citygml::Position;
-
-using PartStates = std::array<osg::ref_ptr<osg::StateSet>, 3>;
 
 constexpr std::size_t noTile = static_cast<std::size_t>(-1);
 /// Of a tile, in corners: about 1,400 triangles.
@@ -61,48 +57,6 @@ QString srsNameOf(const Feature& feature)
         return QString::fromStdString(*feature.boundedBy()->Envelope()->srsName());
     }
     return QString();
-}
-
-void setLook(osg::StateSet& state, LookMode look)
-{
-    state.addUniform(new osg::Uniform("look", int(look)));
-}
-
-/// The states of faces without a look, of edges, and of lines and points.
-osg::ref_ptr<osg::StateSet> makePartState(TileDrawable::Part part)
-{
-    osg::ref_ptr<osg::StateSet> state = new osg::StateSet;
-    setLook(*state, part == TileDrawable::Part::Faces   ? FeatureLook
-                    : part == TileDrawable::Part::Edges ? EdgeLook
-                                                        : MarkLook);
-    if (part == TileDrawable::Part::Edges) {
-        // Faint ones are mixed with the faces, which are drawn before them.
-        state->setRenderBinDetails(1, "RenderBin");
-        state->setAttributeAndModes(makeBlending());
-    }
-    if (part == TileDrawable::Part::Marks) {
-        state->setAttribute(new osg::LineWidth(2));
-        state->setAttribute(new osg::Point(7));
-    }
-    return state;
-}
-
-PartStates makePartStates()
-{
-    return {makePartState(TileDrawable::Part::Faces), makePartState(TileDrawable::Part::Edges),
-            makePartState(TileDrawable::Part::Marks)};
-}
-
-unsigned maskOf(TileDrawable::Part part)
-{
-    switch (part) {
-    case TileDrawable::Part::Faces:
-        return FaceMask;
-    case TileDrawable::Part::Edges:
-        return EdgeMask;
-    default:
-        return MarkMask;
-    }
 }
 
 } // namespace
@@ -324,7 +278,7 @@ void CityScene::endWalk()
     if (done.tile == noTile) {
         addToCell(done.members.front(), std::move(done.batch));
     } else {
-        workers.add(done.tile, tiles[done.tile].version, std::move(done.batch), lookArrays);
+        sendToWorkers(done.tile, tiles[done.tile].version, std::move(done.batch));
     }
 }
 
@@ -487,8 +441,16 @@ void CityScene::send(Pending pending)
     tile.members = std::move(pending.members);
     tile.node = new osg::MatrixTransform;
     top->addChild(tile.node);
-    workers.add(number, tile.version, std::move(pending.batch), lookArrays);
+    sendToWorkers(number, tile.version, std::move(pending.batch));
     tiles.push_back(std::move(tile));
+}
+
+void CityScene::sendToWorkers(std::size_t tile, unsigned version, Batch batch)
+{
+    if (lookArrays->size() != surfaceLooks.arrays().size()) {
+        lookArrays = std::make_shared<std::vector<LookArrays>>(surfaceLooks.arrays());
+    }
+    workers.add(tile, version, std::move(batch), lookArrays);
 }
 
 /// Makes tiles of what has not been enough for one, neighbours together.

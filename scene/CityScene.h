@@ -4,6 +4,7 @@
 #include "scene/FeatureTable.h"
 #include "scene/LibraryObjects.h"
 #include "scene/Looks.h"
+#include "scene/PartStates.h"
 #include "scene/TileWorkers.h"
 
 #include <array>
@@ -157,6 +158,7 @@ private:
     bool isDrawnElsewhere(const citygml::GeometryPiece& piece) const;
     void send(Pending pending);
     void sendAll();
+    void sendToWorkers(std::size_t tile, unsigned version, Batch batch);
     void show(Tile& tile, TileMesh mesh);
     void makeStale(std::size_t tile);
     void makeAllStale();
@@ -192,12 +194,8 @@ private:
     bool hasOrigin = false;
     QString srsName;
 
-    /// Of faces without a look, edges, and lines and points.
-    std::array<osg::ref_ptr<osg::StateSet>, 3> partStates;
+    PartStates partStates;
     osg::ref_ptr<osg::Group> top = new osg::Group;
 };
-
-/// Parts of what is drawn, as node masks. Edges that are far away are not drawn.
-enum NodeMask : unsigned { FaceMask = 1, EdgeMask = 2, MarkMask = 4, FarEdgeMask = 8 };
 
 } // namespace tolvik::scene

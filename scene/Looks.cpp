@@ -18,7 +18,13 @@
 #include "gml/DirectPositionType.hxx"
 #include "gml/PointPropertyType.hxx"
 #include "gml/PointType.hxx"
+#include "gml/SignType.hxx"
 #include "scene/Shaders.h"
+#include "tex/AppearancePropertyType.hxx"
+#include "tex/Color.hxx"
+#include "tex/MaterialType.hxx"
+#include "tex/SimpleTextureType.hxx"
+#include "tex/TexturedSurfaceType.hxx"
 
 #include <algorithm>
 #include <cmath>
@@ -26,6 +32,8 @@
 #include <osg/Texture2D>
 #include <QFile>
 #include <QFileInfo>
+#include <typeinfo>
+#include <utility>
 
 namespace tolvik::scene {
 
@@ -57,6 +65,47 @@ const app::AbstractSurfaceDataType* surfaceDataOf(const app::SurfaceDataProperty
 std::uint8_t byteOf(double part)
 {
     return static_cast<std::uint8_t>(std::lround(std::clamp(part, 0.0, 1.0) * 255));
+}
+
+/// Red, green, blue and opacity of a material.
+template <typename Material>
+std::array<std::uint8_t, 4> colourOf(const Material& material)
+{
+    // What the schema says of a material without a colour.
+    std::array<double, 3> colour = {0.8, 0.8, 0.8};
+    if (material.diffuseColor().present() && material.diffuseColor()->size() == 3) {
+        std::copy(material.diffuseColor()->begin(), material.diffuseColor()->end(), colour.begin());
+    }
+    const double clear =
+        material.transparency().present() ? static_cast<double>(*material.transparency()) : 0;
+    return {byteOf(colour[0]), byteOf(colour[1]), byteOf(colour[2]), byteOf(1 - clear)};
+}
+
+/// What a property of a textured surface holds or refers to; null for nothing.
+const tex::AbstractAppearanceType* appearanceOf(const tex::AppearancePropertyType& property)
+{
+    if (property._Appearance().present()) {
+        return &*property._Appearance();
+    }
+    const void* const object = property.href().present() ? objectOf(property, *property.href()) : nullptr;
+    return dynamic_cast<const tex::AbstractAppearanceType*>(static_cast<const xml_schema::type*>(object));
+}
+
+/// What the innermost textured surface around a piece has on its front; null for none.
+const tex::AbstractAppearanceType* appearanceOn(const citygml::GeometryPiece& piece)
+{
+    for (auto object = piece.objects.rbegin(); object != piece.objects.rend(); ++object) {
+        const xml_schema::type& around = **object;
+        if (typeid(around) != typeid(tex::TexturedSurfaceType)) {
+            continue;
+        }
+        for (const auto& property : static_cast<const tex::TexturedSurfaceType&>(around).appearance()) {
+            if (static_cast<const std::string&>(property.orientation()) != "-") {
+                return appearanceOf(property);
+            }
+        }
+    }
+    return nullptr;
 }
 
 /// Six numbers that tell where a picture lies: the world coordinates of a step to the right, one downwards,
@@ -168,6 +217,8 @@ void Looks::restart()
     kinds = {LookArrays()};
     textures.clear();
     states.clear();
+    looksOfColours.clear();
+    looksOfPictures.clear();
     materialTargets.clear();
     textureTargets.clear();
     ringPlaces.clear();
@@ -220,16 +271,7 @@ std::uint32_t Looks::addLook(const app::AbstractSurfaceDataType& data)
 
 std::uint32_t Looks::addMaterialLook(const app::X3DMaterialType& material)
 {
-    // What the schema says of a material without a colour.
-    std::array<double, 3> colour = {0.8, 0.8, 0.8};
-    if (material.diffuseColor().present() && material.diffuseColor()->size() == 3) {
-        std::copy(material.diffuseColor()->begin(), material.diffuseColor()->end(), colour.begin());
-    }
-    const double clear =
-        material.transparency().present() ? static_cast<double>(*material.transparency()) : 0;
-    kinds.push_back({LookKind::Material,
-                     {byteOf(colour[0]), byteOf(colour[1]), byteOf(colour[2]), byteOf(1 - clear)},
-                     nullptr});
+    kinds.push_back({LookKind::Material, colourOf(material), nullptr});
     return static_cast<std::uint32_t>(kinds.size() - 1);
 }
 
@@ -244,25 +286,65 @@ std::uint32_t Looks::addTextureLook(const app::AbstractTextureType& texture)
         std::copy_n(texture.borderColor()->begin(), std::min<std::size_t>(4, texture.borderColor()->size()),
                     made.border.begin());
     }
-    std::shared_ptr<Picture>& picture = pictures[made.uri];
-    if (picture == nullptr) {
-        picture = std::make_shared<Picture>(folder.find(made.uri));
-    }
-    if (picture->size().isEmpty()) {
-        noteMissing(made.uri);
-        return noLook;
-    }
-    made.picture = picture;
     if (const auto* const ground = dynamic_cast<const app::GeoreferencedTextureType*>(&texture)) {
-        made.ground = worldMatrixOf(*ground, made);
+        made.picture = pictureOf(made.uri);
+        made.ground = made.picture != nullptr ? worldMatrixOf(*ground, made) : nullptr;
         if (made.ground == nullptr) {
             return noLook;
         }
     }
+    return addPicture(made);
+}
+
+/// The picture of that name; null, and noted as missing, where there is none.
+std::shared_ptr<Picture> Looks::pictureOf(const QString& uri)
+{
+    std::shared_ptr<Picture>& picture = pictures[uri];
+    if (picture == nullptr) {
+        picture = std::make_shared<Picture>(folder.find(uri));
+    }
+    if (picture->size().isEmpty()) {
+        noteMissing(uri);
+        return nullptr;
+    }
+    return picture;
+}
+
+std::uint32_t Looks::addPicture(Texture made)
+{
+    made.picture = pictureOf(made.uri);
+    if (made.picture == nullptr) {
+        return noLook;
+    }
     const auto look = static_cast<std::uint32_t>(kinds.size());
-    kinds.push_back({LookKind::Texture, {255, 255, 255, 255}, picture});
-    textures[look] = made;
+    kinds.push_back({LookKind::Texture, {255, 255, 255, 255}, made.picture});
+    textures[look] = std::move(made);
     return look;
+}
+
+/// The look of what a textured surface has in itself.
+std::uint32_t Looks::lookOfTextured(const tex::AbstractAppearanceType& appearance)
+{
+    if (const auto* const material = dynamic_cast<const tex::MaterialType*>(&appearance)) {
+        const auto [found, isNew] = looksOfColours.try_emplace(colourOf(*material), kinds.size());
+        if (isNew) {
+            kinds.push_back({LookKind::Material, found->first, nullptr});
+        }
+        return found->second;
+    }
+    const auto* const texture = dynamic_cast<const tex::SimpleTextureType*>(&appearance);
+    if (texture == nullptr) {
+        return noLook;
+    }
+    Texture made;
+    made.uri = QString::fromStdString(texture->textureMap()).trimmed();
+    const bool isRepeated = texture->repeat().present() && texture->repeat().get();
+    made.wrapMode = isRepeated ? QStringLiteral("wrap") : QStringLiteral("none");
+    const auto [found, isNew] = looksOfPictures.try_emplace({made.uri, isRepeated}, noLook);
+    if (isNew) {
+        found->second = addPicture(made);
+    }
+    return found->second;
 }
 
 void Looks::noteMissing(const QString& uri)
@@ -367,17 +449,42 @@ const Looks::Target* Looks::targetOf(const citygml::GeometryPiece& piece) const
     return nullptr;
 }
 
-std::uint32_t Looks::lookOf(const citygml::GeometryPiece& piece) const
+std::uint32_t Looks::lookOf(const citygml::GeometryPiece& piece)
 {
-    const Target* const target = piece.runs.empty() ? nullptr : targetOf(piece);
-    return target != nullptr ? target->look : noLook;
+    if (piece.runs.empty() || !isThemeShown) {
+        return noLook;
+    }
+    if (const Target* const target = targetOf(piece)) {
+        return target->look;
+    }
+    const tex::AbstractAppearanceType* const appearance = appearanceOn(piece);
+    return appearance != nullptr ? lookOfTextured(*appearance) : noLook;
+}
+
+/// Appends the places that a textured surface tells of its outer ring.
+void Looks::appendOwnPlaces(const citygml::GeometryPiece& piece, std::vector<std::array<float, 2>>& places)
+{
+    const auto* const texture = dynamic_cast<const tex::SimpleTextureType*>(appearanceOn(piece));
+    if (texture == nullptr) {
+        return;
+    }
+    const auto& numbers = texture->textureCoordinates();
+    const std::size_t count = numbers.size() / 2;
+    for (std::size_t i = 0; i < piece.positions.size() && count > 0; ++i) {
+        // The last position of a closed ring, which is the first one, may have none of its own.
+        const std::size_t at = i < count ? i : 0;
+        places.push_back({static_cast<float>(numbers[2 * at]), static_cast<float>(numbers[2 * at + 1])});
+    }
 }
 
 void Looks::appendPlaces(const citygml::GeometryPiece& piece, std::uint32_t look,
                          std::vector<std::array<float, 2>>& places) const
 {
     const Target* const target = targetOf(piece);
-    if (target == nullptr || target->look != look) {
+    if (target == nullptr) {
+        return appendOwnPlaces(piece, places);
+    }
+    if (target->look != look) {
         return;
     }
     for (const citygml::PositionRun& run : piece.runs) {

@@ -10,6 +10,7 @@
 #include <QString>
 #include <QStringList>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace app {
@@ -25,6 +26,12 @@ class X3DMaterialType;
 namespace gml {
 class AbstractFeatureType;
 }
+
+namespace tex {
+class AbstractAppearanceType;
+class MaterialType;
+class SimpleTextureType;
+} // namespace tex
 
 namespace tolvik::scene {
 
@@ -63,8 +70,10 @@ public:
     void setTheme(const QString& theme, bool isShown = true);
     bool isShown() const { return isThemeShown; }
 
-    /// The look of a piece, the innermost object counting before those around it; 0 for none.
-    std::uint32_t lookOf(const citygml::GeometryPiece& piece) const;
+    /// The look of a piece, the innermost object counting before those around it; 0 for none. One that a
+    /// textured surface has in itself, in no theme, is shown where no appearance tells another one; it may be
+    /// new in arrays().
+    std::uint32_t lookOf(const citygml::GeometryPiece& piece);
     /// Appends where in its texture each position of a piece lies.
     /// \param look that of the piece
     void appendPlaces(const citygml::GeometryPiece& piece, std::uint32_t look,
@@ -112,6 +121,11 @@ private:
     std::uint32_t addTextureLook(const app::AbstractTextureType& texture);
     bool addTarget(const app::AbstractSurfaceDataType& data, std::size_t number);
     void addAssociation(const app::TextureAssociationType& association);
+    std::uint32_t lookOfTextured(const tex::AbstractAppearanceType& appearance);
+    std::uint32_t addPicture(Texture made);
+    std::shared_ptr<Picture> pictureOf(const QString& uri);
+    static void appendOwnPlaces(const citygml::GeometryPiece& piece,
+                                std::vector<std::array<float, 2>>& places);
     static void setTexture(osg::StateSet& state, const Texture& texture);
     void noteTheme(const QString& theme);
     void noteMissing(const QString& uri);
@@ -132,6 +146,11 @@ private:
     std::vector<LookArrays> kinds = {LookArrays()};
     std::map<std::uint32_t, Texture> textures;
     std::map<std::uint32_t, osg::ref_ptr<osg::StateSet>> states;
+    /// Of textured surfaces: by the colour, and by the name of the picture and whether it is repeated.
+    /// @{
+    std::map<std::array<std::uint8_t, 4>, std::uint32_t> looksOfColours;
+    std::map<std::pair<QString, bool>, std::uint32_t> looksOfPictures;
+    /// @}
     std::map<QString, std::shared_ptr<Picture>> pictures;
     PointerMap<Target> materialTargets;
     PointerMap<Target> textureTargets;

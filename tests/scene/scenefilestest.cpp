@@ -44,6 +44,18 @@ QByteArray groundTexture(const QByteArray& place)
            "<app:target>#p</app:target></app:GeoreferencedTexture>";
 }
 
+/// A building of one square that has a look in itself.
+QByteArray texturedBuilding(const QByteArray& appearances)
+{
+    QByteArray polygon = square("p", 0, 0, "r");
+    polygon.replace("<gml:surfaceMember>", "<gml:surfaceMember><tex:TexturedSurface "
+                                           "xmlns:tex='http://www.opengis.net/citygml/texturedsurface/2.0'>"
+                                           "<gml:baseSurface>");
+    polygon.replace("</gml:surfaceMember>",
+                    "</gml:baseSurface>" + appearances + "</tex:TexturedSurface></gml:surfaceMember>");
+    return buildingMember(multiSurface("lod2MultiSurface", polygon));
+}
+
 QByteArray documentWith(const QByteArray& surfaceData)
 {
     return documentText(appearanceMember("photo", surfaceData) +
@@ -92,6 +104,9 @@ private slots:
     void whatIsNoPictureIsTold();
     void whatIsMissingIsToldOnce();
     void picturesAreFoundOverTheDataPathList();
+    void texturedSurfacesAreSeen();
+    void texturedSurfacesHaveMaterials();
+    void backSidesAreNotShown();
     void objectsInFilesAreDrawn_data();
     void objectsInFilesAreDrawn();
     void objectsThatAreNotDrawnAreTold_data();
@@ -216,6 +231,59 @@ void SceneFilesTest::picturesAreFoundOverTheDataPathList()
     for (int i = 0; i < 4; ++i) {
         QCOMPARE(drawn.pixelColor(quarter(i)), colours[i]);
     }
+}
+
+void SceneFilesTest::texturedSurfacesAreSeen()
+{
+    const QByteArray textureInside =
+        "<tex:appearance><tex:SimpleTexture><tex:textureMap>wall.png</tex:textureMap>"
+        "<tex:textureCoordinates>0 0 1 0 1 1 0 1 0 0</tex:textureCoordinates></tex:SimpleTexture>"
+        "</tex:appearance>";
+    const DocumentFile file(documentText(texturedBuilding(textureInside)));
+    {
+        SceneFixture fixture(file.path());
+        QCOMPARE(fixture.scene.missingFiles(), QStringList("wall.png"));
+    }
+    QVERIFY(fourColours().save(file.fileBeside("wall.png")));
+    SceneFixture fixture(file.path());
+    const QImage drawn = fromAbove(fixture);
+    for (int i = 0; i < 4; ++i) {
+        QCOMPARE(drawn.pixelColor(quarter(i)), colours[i]);
+    }
+    fixture.scene.setTheme(QString(), false);
+    fixture.scene.addAll();
+    QVERIFY(fromAbove(fixture).pixelColor(quarter(0)) != colours[0]);
+}
+
+void SceneFilesTest::texturedSurfacesHaveMaterials()
+{
+    const QByteArray materials =
+        "<tex:appearance orientation='-'><tex:Material><tex:diffuseColor>0 1 0</tex:diffuseColor>"
+        "</tex:Material></tex:appearance><tex:appearance><tex:Material><tex:diffuseColor>1 0 0"
+        "</tex:diffuseColor></tex:Material></tex:appearance>";
+    const DocumentFile file(documentText(texturedBuilding(materials)));
+    SceneFixture fixture(file.path());
+    const QColor seen = fromAbove(fixture).pixelColor(quarter(0));
+    QVERIFY(seen.red() > 100 && seen.green() == 0 && seen.blue() == 0);
+    // An appearance of the document comes first.
+    const DocumentFile other(
+        documentText(appearanceMember("blue", material("0 0 1")) + texturedBuilding(materials)));
+    SceneFixture overlaid(other.path());
+    const QColor over = fromAbove(overlaid).pixelColor(quarter(0));
+    QVERIFY(over.blue() > 100 && over.green() == 0 && over.red() == 0);
+}
+
+void SceneFilesTest::backSidesAreNotShown()
+{
+    const QByteArray back =
+        material("0 1 0").replace("<app:X3DMaterial>", "<app:X3DMaterial><app:isFront>false</app:isFront>");
+    const QByteArray shown = appearanceMember("sides", material("1 0 0"));
+    const DocumentFile file(
+        documentText(shown + QByteArray(shown).replace(material("1 0 0"), back) +
+                     buildingMember(multiSurface("lod2MultiSurface", square("p", 0, 0, "r")))));
+    SceneFixture fixture(file.path());
+    const QColor seen = fromAbove(fixture).pixelColor(quarter(0));
+    QVERIFY(seen.red() > 100 && seen.green() == 0 && seen.blue() == 0);
 }
 
 void SceneFilesTest::objectsInFilesAreDrawn_data()
