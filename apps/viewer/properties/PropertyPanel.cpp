@@ -127,7 +127,7 @@ void PropertyPanel::makeView()
     view->setItemDelegate(delegate);
     view->header()->resizeSection(PropertyTreeModel::NameColumn, 190);
     view->header()->setSectionResizeMode(PropertyTreeModel::ValueColumn, QHeaderView::Stretch);
-    view->header()->resizeSection(PropertyTreeModel::UnitColumn, 50);
+    view->header()->resizeSection(PropertyTreeModel::UnitColumn, 60);
     setFocusProxy(view);
     connect(view, &PropertyView::removalRequested, this, &PropertyPanel::removeCurrent);
     connect(view, &QWidget::customContextMenuRequested, this, &PropertyPanel::showContextMenu);

@@ -117,6 +117,12 @@ void ValueDelegate::updateEditorGeometry(QWidget* editor, const QStyleOptionView
 {
     if (!editorIn(editor).hasLines()) {
         QStyledItemDelegate::updateEditorGeometry(editor, option, index);
+        if (qobject_cast<QComboBox*>(editor) != nullptr) {
+            // A narrow column, such as that of the units, would leave no room beside the arrow.
+            QRect rect = editor->geometry();
+            rect.setLeft(std::min(rect.left(), rect.right() - editor->minimumSizeHint().width()));
+            editor->setGeometry(rect);
+        }
         return;
     }
     const QRect around = editor->parentWidget()->rect();
