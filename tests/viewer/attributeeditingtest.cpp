@@ -149,6 +149,20 @@ private slots:
         QCOMPARE(panel.saved(), before);
     }
 
+    void aSetComesBackIntoTheSecondOfItsName()
+    {
+        const QByteArray inner = "<gen:genericAttributeSet name=\"terms\"/>";
+        const auto contract = [](const QByteArray& content) {
+            return "<gen:genericAttributeSet name=\"contract\">" + content + "</gen:genericAttributeSet>";
+        };
+        ShownPanel panel(documentWithBuilding(contract("") + contract(inner)));
+        const QByteArray before = panel.saved();
+        panel.press("Fields/terms", Qt::Key_Delete);
+        QVERIFY(!panel.saved().contains("terms"));
+        panel.undo();
+        QCOMPARE(panel.saved(), before);
+    }
+
     void setsOfAttributesComeAndGo()
     {
         const QByteArray inner = "<gen:genericAttributeSet name=\"terms\"><gen:stringAttribute name=\"b\">"

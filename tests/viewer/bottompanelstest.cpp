@@ -61,6 +61,22 @@ private slots:
                  QString("Findings"));
     }
 
+    void manyFindingsOfAKindAreCounted()
+    {
+        QByteArray members;
+        for (int i = 0; i < 1002; ++i) {
+            members += buildingMember("<bldg:measuredHeight uom=\"m\">tall</bldg:measuredHeight>",
+                                      "b" + QByteArray::number(i));
+        }
+        writeFile(opened->path("faults.gml"), documentText(members));
+        QVERIFY(opened->open(opened->path("faults.gml")));
+        const QStringList all = reasons(*opened->view("findings"));
+        QCOMPARE(all.size(), 1001);
+        QVERIFY2(all.last().startsWith("2 more"), qPrintable(all.last()));
+        QCOMPARE(opened->window->findChild<QDockWidget*>("findingsPanelDock")->windowTitle(),
+                 "Findings (" + QLocale().toString(1002) + ')');
+    }
+
     void aSaveBringsTheFindingsOfWhatWasSaved()
     {
         const QByteArray faults =

@@ -84,6 +84,11 @@ private slots:
             << "name:heron type:Bridge" << QStringList{"heron-bridge", "heron-bridge-outline"};
         QTest::newRow("nothing") << "no such thing" << QStringList();
         QTest::newRow("attribute") << "type=Building height>8" << QStringList{"lantern-house"};
+        QTest::newRow("less") << "measuredheight<9" << QStringList{"annex"};
+        QTest::newRow("not more") << "measuredheight<=9" << QStringList{"annex", "lantern-house"};
+        QTest::newRow("not less") << "measuredheight>=9" << QStringList{"lantern-house"};
+        QTest::newRow("another") << "measuredheight!=9" << QStringList{"annex"};
+        QTest::newRow("decimal comma") << "measuredheight<10,5" << QStringList{"annex", "lantern-house"};
     }
     void termsAreUnderstood()
     {
@@ -118,6 +123,17 @@ private slots:
         opened->button("onlyHits")->click();
         QTRY_VERIFY(opened->view("featureTree")->isVisible());
         QCOMPARE(opened->view("featureList")->model()->rowCount(), opened->document().model().rowCount());
+    }
+
+    void aFeatureThatIsFilteredAwayIsShown()
+    {
+        opened->search("type:RoofSurface");
+        opened->button("onlyHits")->click();
+        QTRY_VERIFY(opened->view("filteredTree")->isVisible());
+        opened->window->goToIdentifier("pier");
+        QTRY_VERIFY(opened->view("featureTree")->isVisible());
+        QVERIFY(!opened->button("onlyHits")->isChecked());
+        QCOMPARE(opened->selected(), QStringList{"pier"});
     }
 
     void aTypeIsChosen()

@@ -68,6 +68,8 @@ private slots:
         QTreeView* const tree = opened->view("featureTree");
         opened->select({"chapel"});
         opened->action("hide")->trigger();
+        opened->select({"lark-tunnel"});
+        opened->action("disable")->trigger();
         opened->select({"pier"});
         tree->collapseAll();
         tree->expand(tree->model()->index(0, 0));
@@ -79,6 +81,9 @@ private slots:
         QCOMPARE(shownTexts(*tree), texts);
         QCOMPARE(node("bell").data(Qt::CheckStateRole).toInt(), int(Qt::Unchecked));
         QCOMPARE(node("pier").data(Qt::CheckStateRole).toInt(), int(Qt::Checked));
+        const tolvik::CityGMLModel& model = opened->document().model();
+        QVERIFY(model.isDisabled(model.getFeature(opened->row("lark-tunnel"))));
+        QVERIFY(!model.isDisabled(model.getFeature(opened->row("pier"))));
     }
 
     void aDocumentThatCannotBeReadLeavesTheOpenOne()
@@ -262,6 +267,9 @@ private slots:
         QVERIFY(done.wait());
         QCOMPARE(node("lark-tunnel").data().toString(), QString("Wren Tunnel"));
         QVERIFY(!text->isVisible());
+        // And so is the next one.
+        writeFile(opened->file(), content.replace("Wren Tunnel", "Larch Tunnel"));
+        QTRY_VERIFY(text->isVisible());
     }
 
     void aFileThatAnotherProgramHasChangedIsNotOverwrittenUnasked()
@@ -319,6 +327,9 @@ private slots:
         QVERIFY(opened->open(examples() + "/energy.gml"));
         QCOMPARE(recentFiles::list(),
                  QStringList({QFileInfo(examples() + "/energy.gml").canonicalFilePath(), opened->file()}));
+        QVERIFY(opened->open(opened->file()));
+        QCOMPARE(recentFiles::list(),
+                 QStringList({opened->file(), QFileInfo(examples() + "/energy.gml").canonicalFilePath()}));
     }
 
 private:

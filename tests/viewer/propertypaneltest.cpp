@@ -98,6 +98,9 @@ private slots:
         line->setText("guild");
         QVERIFY(panel.cell("Fields/owner").isValid());
         QVERIFY(!panel.cell("Fields/MeasuredHeight").isValid());
+        // Of a group that has the text all is shown.
+        line->setText("fields");
+        QVERIFY(panel.cell("Fields/Class").isValid());
         line->clear();
         QVERIFY(panel.cell("Fields/Class").isValid());
     }

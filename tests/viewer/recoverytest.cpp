@@ -149,10 +149,19 @@ private slots:
         QCOMPARE(name(opened, 1), QString("One"));
     }
 
+    void anotherFileIsRefused_data()
+    {
+        QTest::addColumn<QByteArray>("name");
+        QTest::newRow("of another size") << QByteArray("Heron Viaduct");
+        QTest::newRow("of the same size") << QByteArray("Crane Bridge");
+    }
     void anotherFileIsRefused()
     {
+        QFETCH(QByteArray, name);
         QVERIFY(kill());
-        writeFile(file(), contentOf(file()) + "<!-- changed -->");
+        const QByteArray edited = contentOf(file());
+        QVERIFY(edited.contains("Heron Bridge"));
+        writeFile(file(), QByteArray(edited).replace("Heron Bridge", name));
         OpenedWindow opened(QString{});
         offer(opened);
         opened.button("recover")->click();

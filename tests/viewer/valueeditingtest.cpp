@@ -237,6 +237,26 @@ private slots:
         editor->setCurrentIndex(editor->findText("m2"));
         QTest::keyClick(editor, Qt::Key_Return);
         QVERIFY(panel.saved().contains("uom=\"m2\">12.5"));
+        QTRY_COMPARE(panel.text("Fields/MeasuredHeight", 2), QString("m2"));
+        typeInto(panel.view(), panel.cell("Fields/MeasuredHeight", 2), "m2");
+        QCOMPARE(panel.stack().count(), 1);
+    }
+
+    void unitsOfSeveralFeaturesBecomeOne()
+    {
+        const auto building = [](const QByteArray& unit, const QByteArray& id) {
+            return buildingMember("<bldg:measuredHeight uom=\"" + unit + "\">7</bldg:measuredHeight>", id);
+        };
+        ShownPanel panel(documentText(building("m", "a") + building("ft", "b") + building("ft", "c")),
+                         {"a", "b", "c"});
+        QTRY_COMPARE(panel.text("Fields/MeasuredHeight"), QString("7"));
+        QCOMPARE(panel.text("Fields/MeasuredHeight", 2), QString::fromUtf8("…"));
+        const QByteArray before = panel.saved();
+        typeInto(panel.view(), panel.cell("Fields/MeasuredHeight", 2), "m");
+        QTRY_COMPARE(panel.text("Fields/MeasuredHeight", 2), QString("m"));
+        QCOMPARE(panel.saved().count("uom=\"m\">7"), 3);
+        panel.undo();
+        QCOMPARE(panel.saved(), before);
     }
 
     void aUnitThatIsNoneIsRefused_data()
