@@ -150,7 +150,8 @@ private slots:
         const Open<CityGMLProxyModelTraverseChildrenVisitor> visitor(nodes);
         QVERIFY(visitor.treeNode == nullptr);
         QVERIFY(visitor.traversalVisitor);
-        QVERIFY(typeid(*visitor.traversalVisitor) == typeid(CityGMLProxyModelTraverseAllVisitor));
+        const auto& traversal = *visitor.traversalVisitor;
+        QVERIFY(typeid(traversal) == typeid(CityGMLProxyModelTraverseAllVisitor));
         QCOMPARE(visitor.traversalVisitor->referenceCount(), 1);
     }
 
