@@ -6,6 +6,7 @@
 #include "apps/viewer/edits/PropertyEdit.h"
 #include "framework/AbstractUnit.h"
 #include "gml/AbstractFeatureType.hxx"
+#include "support/Documents.h"
 #include "support/Files.h"
 #include "support/PanelFixture.h"
 #include "support/TestClass.h"
@@ -169,6 +170,27 @@ private slots:
         edit->undo();
         QVERIFY(RecordedEdit::make(edit->kind(), program.document(), record) != nullptr);
         QCOMPARE(program.saved(), after);
+    }
+
+    void editsOfAFeatureAreTakenBackFromTheLastOn()
+    {
+        PanelFixture fixture(documentWithBuilding("<gml:description>one</gml:description>"));
+        const QByteArray before = fixture.saved();
+        const MemberPlace description{MemberPlace::Property, {{"Fields", 1}, {"Description", 1}}};
+        EditGroup group("describe", 1, [&](int, QString& refusal) {
+            EditGroup::Edits edits;
+            for (const char* const text : {"two", "three"}) {
+                edits.push_back(PropertyEdit::make(fixture.document(), {&fixture.feature("b")},
+                                                   PropertyEdit::SetValue, description, text, refusal));
+            }
+            return edits;
+        });
+        QCOMPARE(group.performAll(), QString());
+        QVERIFY(fixture.saved().contains(">three</gml:description>"));
+        group.undo();
+        QCOMPARE(fixture.saved(), before);
+        group.redo();
+        QVERIFY(fixture.saved().contains(">three</gml:description>"));
     }
 };
 
