@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <QAbstractButton>
+#include <QAction>
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>

@@ -4,6 +4,7 @@
 #include "viewer/OpenedWindow.h"
 
 #include <QAccessible>
+#include <QMenuBar>
 #include <QtTest>
 
 using namespace testsupport;

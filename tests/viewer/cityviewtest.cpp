@@ -13,6 +13,7 @@
 #include "support/TestClass.h"
 #include "support/TestPaths.h"
 
+#include <QAction>
 #include <QComboBox>
 #include <QLabel>
 #include <QSet>

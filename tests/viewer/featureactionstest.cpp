@@ -4,6 +4,7 @@
 #include "viewer/OpenedWindow.h"
 
 #include <QClipboard>
+#include <QMenu>
 #include <QtTest>
 
 using namespace testsupport;
