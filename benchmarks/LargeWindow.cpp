@@ -61,10 +61,11 @@ LargeWindow::LargeWindow(const Content& content) : content(content)
     const QString path = folder.filePath(QStringLiteral("city.gml"));
     writeDocument(path, content);
     window.show();
-    bool isOpen = false;
-    QObject::connect(&window.files(), &viewer::FileCommands::opened, &window, [&] { isOpen = true; });
+    // The window may open other documents later.
+    const auto isOpen = std::make_shared<bool>(false);
+    QObject::connect(&window.files(), &viewer::FileCommands::opened, &window, [isOpen] { *isOpen = true; });
     window.open(path);
-    while (!isOpen) {
+    while (!*isOpen) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
 }

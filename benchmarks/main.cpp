@@ -15,9 +15,9 @@ int main(int argc, char* argv[])
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
     const log4cplus::Initializer log;
-    log4cplus::Logger::getRoot().addAppender(
-        log4cplus::SharedAppenderPtr(new log4cplus::ConsoleAppender(true)));
-    log4cplus::Logger::getRoot().setLogLevel(log4cplus::WARN_LOG_LEVEL);
+    log4cplus::Logger root = log4cplus::Logger::getRoot();
+    root.addAppender(log4cplus::SharedAppenderPtr(new log4cplus::ConsoleAppender(true)));
+    root.setLogLevel(log4cplus::WARN_LOG_LEVEL);
 
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
