@@ -1,9 +1,13 @@
 #include "apps/viewer/document/Document.h"
+#include "apps/viewer/properties/PropertyPanel.h"
+#include "support/Documents.h"
+#include "support/Files.h"
 #include "support/TestClass.h"
 #include "support/TestPaths.h"
 #include "viewer/OpenedWindow.h"
 
 #include <QClipboard>
+#include <QDesktopServices>
 #include <QMenu>
 #include <QtTest>
 
@@ -14,6 +18,9 @@ using namespace tolvik::viewer;
 class FeatureActionsTest : public QObject
 {
     Q_OBJECT
+
+public:
+    Q_INVOKABLE void note(const QUrl& link) { noted.append(link); }
 
 private slots:
     void init() { opened = std::make_unique<OpenedWindow>(examples() + "/district.gml"); }
@@ -147,6 +154,35 @@ private slots:
         QVERIFY(opened->window->statusBar()->currentMessage().contains("refers to no other feature"));
     }
 
+    void aReferenceToItselfIsNone()
+    {
+        writeFile(opened->path("own.gml"),
+                  documentText(buildingMember("<bldg:lod1Solid xmlns:xlink=\"http://www.w3.org/1999/xlink\" "
+                                              "xlink:href=\"#own\"/>",
+                                              "own")));
+        QVERIFY(opened->open(opened->path("own.gml")));
+        opened->select({"own"});
+        opened->action("goToReferenced")->trigger();
+        QVERIFY(opened->window->statusBar()->currentMessage().contains("refers to no other feature"));
+    }
+
+    /// A document may come from anywhere, and a file that is opened may be a program.
+    void onlyLinksOfTheWebAreOpened()
+    {
+        for (const char* const scheme : {"https", "file"}) {
+            QDesktopServices::setUrlHandler(scheme, this, "note");
+        }
+        auto* const properties = opened->window->findChild<PropertyPanel*>();
+        emit properties->linkActivated(QUrl("file:///bin/true"));
+        emit properties->linkActivated(QUrl("https://town.example/page#part"));
+        emit properties->linkActivated(QUrl("#pew"));
+        for (const char* const scheme : {"https", "file"}) {
+            QDesktopServices::unsetUrlHandler(scheme);
+        }
+        QCOMPARE(noted, QList<QUrl>{QUrl("https://town.example/page#part")});
+        QCOMPARE(opened->selected(), QStringList{"pew"});
+    }
+
     void nothingCanBeDoneWithoutASelection()
     {
         opened->document().selection().clear();
@@ -168,6 +204,7 @@ private:
     }
     int check(const QString& identifier) { return nodeOf(identifier).data(Qt::CheckStateRole).toInt(); }
 
+    QList<QUrl> noted;
     std::unique_ptr<OpenedWindow> opened;
 };
 

@@ -358,6 +358,8 @@ private slots:
         list->findChild<QToolButton*>("moveUp")->click();
         table->setCurrentCell(1, 0);
         list->findChild<QToolButton*>("moveUp")->click();
+        // The cursor goes with the entry.
+        QCOMPARE(table->currentRow(), 0);
         QTest::mouseClick(list->findChild<QToolButton*>("finish"), Qt::LeftButton);
         QTest::qWait(10);
         QVERIFY2(panel.saved().contains(">2.75 3.2</bldg:storeyHeightsAboveGround>"), panel.saved());
