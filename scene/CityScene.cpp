@@ -465,17 +465,17 @@ void CityScene::sendAll()
 bool CityScene::takeFinished()
 {
     bool isNew = false;
-    for (TileWorkers::Result& result : workers.take()) {
+    for (const TileWorkers::Result& result : workers.take()) {
         Tile& tile = tiles[result.tile];
         if (result.version == tile.version) {
-            show(tile, std::move(result.mesh));
+            show(tile, result.mesh);
             isNew = true;
         }
     }
     return isNew;
 }
 
-void CityScene::show(Tile& tile, TileMesh mesh)
+void CityScene::show(Tile& tile, const TileMesh& mesh)
 {
     tile.node->removeChildren(0, tile.node->getNumChildren());
     const Position offset = difference(mesh.origin, sceneOrigin);

@@ -159,7 +159,7 @@ private:
     void send(Pending pending);
     void sendAll();
     void sendToWorkers(std::size_t tile, unsigned version, Batch batch);
-    void show(Tile& tile, TileMesh mesh);
+    void show(Tile& tile, const TileMesh& mesh);
     void makeStale(std::size_t tile);
     void makeAllStale();
     void rebuildTile(std::size_t tile);

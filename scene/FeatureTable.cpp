@@ -263,8 +263,8 @@ void FeatureTable::setColour(Slot slot, const QColor& colour)
 
 QColor FeatureTable::colourOf(Slot slot) const
 {
-    const std::uint32_t colour = colours[slot];
-    return QColor(colour & 0xff, colour >> 8 & 0xff, colour >> 16 & 0xff);
+    const auto part = [this, slot](int shift) { return static_cast<int>(colours[slot] >> shift & 0xff); };
+    return QColor(part(0), part(8), part(16));
 }
 
 void FeatureTable::update()
