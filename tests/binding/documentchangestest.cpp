@@ -2,6 +2,7 @@
 #include "bldg/AbstractBoundarySurfaceType.hxx"
 #include "bldg/BoundarySurfacePropertyType.hxx"
 #include "bldg/BuildingType.hxx"
+#include "bldg/InteriorRoomPropertyType.hxx"
 #include "bldg/WallSurfaceType.hxx"
 #include "citygml/Member.h"
 #include "citygml/ReadingThreads.h"
@@ -510,6 +511,12 @@ private slots:
         add("required attribute", [](bldg::BuildingType& b) {
             citygml::Member(*b.measuredHeight(), b.measuredHeight()->uom()).clear();
         });
+        add("attribute that is implied now", [](bldg::BuildingType& b) {
+            bldg::InteriorRoomPropertyType room;
+            room.href(*b.interiorRoom().front().href());
+            b.interiorRoom().clear();
+            b.interiorRoom().push_back(room);
+        });
         QTest::newRow("element that a program made") << Edit([](core::CityModelType& document) {
             gml::FeaturePropertyType member;
             member._Feature(buildingIn(document, 2));
@@ -528,7 +535,8 @@ private slots:
                            "<gml:boundedBy><gml:Envelope><gml:lowerCorner>0 1 2</gml:lowerCorner>"
                            "<gml:upperCorner>2 3 4</gml:upperCorner></gml:Envelope></gml:boundedBy>"
                            "<bldg:class codeSpace='c'>1</bldg:class><!--a--><bldg:function>1</bldg:function>"
-                           "<bldg:measuredHeight uom='m'>1.50</bldg:measuredHeight>",
+                           "<bldg:measuredHeight uom='m'>1.50</bldg:measuredHeight>"
+                           "<bldg:interiorRoom xlink:type='simple' xlink:href='#a'/>",
                            id)
                            .replace("<bldg:Building ", "<bldg:Building x:a='a' ");
         }
