@@ -129,7 +129,7 @@ private:
     {
         citygml::setReadingThreads(static_cast<unsigned>(threads));
         qputenv("TOLVIK_PIECE_SIZE", pieceSize);
-        const QByteArray actual = saved(original, document);
+        QByteArray actual = saved(original, document);
         qunsetenv("TOLVIK_PIECE_SIZE");
         citygml::setReadingThreads(0);
         return actual;
