@@ -182,7 +182,7 @@ private:
             const bool isCrossing = corner >= positions.size();
             const Position& position =
                 isCrossing ? triangulator.crossings()[corner - positions.size()].position : positions[corner];
-            indexes[corner] = arrays.add(difference(position, mesh.origin), normal, tag);
+            indexes[corner] = static_cast<int>(arrays.add(difference(position, mesh.origin), normal, tag));
             arrays.addPlace(isCrossing ? placeOf(triangulator.crossings()[corner - positions.size()], begin)
                                        : placeAt(begin + corner));
         }
