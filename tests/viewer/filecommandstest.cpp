@@ -100,7 +100,8 @@ private slots:
         QCOMPARE(opened->window->windowTitle(), QString("document.gml[*] - Tolvik"));
         QCOMPARE(opened->selected(), QStringList{"pier"});
         const QAbstractItemModel* const log = opened->view("log")->model();
-        QVERIFY(log->index(log->rowCount() - 1, 2).data().toString().contains("junk"));
+        // The view of the former document may tell something after it.
+        QCOMPARE(log->match(log->index(0, 2), Qt::DisplayRole, "junk", 1, Qt::MatchContains).size(), 1);
     }
 
     void aReadingIsCancelled()
