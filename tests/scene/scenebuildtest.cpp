@@ -35,7 +35,8 @@ QByteArray largeBuilding(const QByteArray& looks = QByteArray())
 {
     QByteArray surfaces;
     for (int i = 0; i < 2600; ++i) {
-        surfaces += square("p" + QByteArray::number(i), 11.0 * (i % 70), i / 70, "r" + QByteArray::number(i));
+        const int storey = i / 70;
+        surfaces += square("p" + QByteArray::number(i), 11.0 * (i % 70), storey, "r" + QByteArray::number(i));
     }
     return documentText(looks +
                         buildingMember("<bldg:lod2MultiSurface><gml:MultiSurface gml:id='p'>" + surfaces +
