@@ -46,7 +46,7 @@ bool GmlCorePropertyCreator::visit_core_xalAddressPropertyType(core::xalAddressP
     object->AddressDetails().accept(this);
     // Not by way of the direct base, which enters the details too.
     // NOLINTNEXTLINE(bugprone-parent-virtual-call)
-    return CityGMLInheritVisitor::visit_core_xalAddressPropertyType(object);
+    return CityGMLInheritVisitor::visit_core_xalAddressPropertyType(object); // clazy:exclude=skipped-base-method
 }
 
 } // namespace tolvik

@@ -268,7 +268,8 @@ struct Conversion<sequence<T>>
     static sequence<T> read(const QVariant& value, const uri& uom)
     {
         sequence<T> result;
-        for (const QVariant& entry : value.toList()) {
+        const QVariantList entries = value.toList();
+        for (const QVariant& entry : entries) {
             result.push_back(Conversion<T>::read(entry, uom));
         }
         return result;
@@ -308,7 +309,8 @@ QVariant listVariant(const List& values)
 gml::doubleOrNullList doubleOrNullList(const QVariant& value)
 {
     gml::doubleOrNullList result;
-    for (const QVariant& entry : value.toList()) {
+    const QVariantList entries = value.toList();
+    for (const QVariant& entry : entries) {
         result.push_back(gml::doubleOrNull(text(entry)));
     }
     return result;
@@ -323,7 +325,8 @@ struct Conversion<gml::MeasureListType>
     static gml::MeasureListType read(const QVariant& value, const uri& uom)
     {
         gml::doubleList numbers;
-        for (const QVariant& entry : value.toList()) {
+        const QVariantList entries = value.toList();
+        for (const QVariant& entry : entries) {
             numbers.push_back(entry.toDouble());
         }
         return gml::MeasureListType(numbers, uom);
@@ -356,7 +359,8 @@ struct Conversion<optional<gml::integerList>>
     static optional<gml::integerList> read(const QVariant& value, const uri&)
     {
         gml::integerList numbers;
-        for (const QVariant& entry : value.toList()) {
+        const QVariantList entries = value.toList();
+        for (const QVariant& entry : entries) {
             numbers.push_back(wholeNumber(entry));
         }
         return optional<gml::integerList>(numbers);
