@@ -52,8 +52,12 @@ struct InnerElement
 std::vector<InnerElement> innerElements(std::string_view child)
 {
     RootCutter outer;
-    outer.scan(child);
+    outer.scan(child.substr(0, child.find('>') + 1));
     const std::size_t begin = outer.rootBegin();
+    if (begin == 0) {
+        // There is such a character in an attribute.
+        return {};
+    }
     RootCutter inner;
     inner.scan(child.substr(begin));
     std::vector<InnerElement> elements;
@@ -199,11 +203,12 @@ void ChildrenMerge::Extract::addUnchanged(std::string_view bytes, const std::vec
     for (std::size_t i = 0; i < count; ++i) {
         const InnerElement& element = elements[i];
         const xml_schema::type& object = ops.at(is, i);
-        const bool isSame = haveSameContent(ops.at(was, i), object);
+        const bool isLong = element.end - element.begin >= shortestElided;
+        const bool isSame = (isLong || isNext) && haveSameContent(ops.at(was, i), object);
         if (isSame && isNext && isBlank(bytes.substr(result.back().end, element.begin - result.back().end))) {
             result.back().end = element.end;
             result.back().objects.push_back(&object);
-        } else if (isSame && element.end - element.begin >= shortestElided) {
+        } else if (isSame && isLong) {
             result.push_back({element.begin, element.end, {&object}});
             isNext = member.group == 0;
         } else {

@@ -525,21 +525,23 @@ void ReducedOriginal::copy(std::size_t begin, std::size_t end, std::ostream& tar
 
 void ReducedOriginal::copy(const Elision& elision, std::ostream& target)
 {
+    stream.clear();
+    stream.seekg(static_cast<std::streamoff>(start + elision.first));
     std::uint64_t at = elision.first;
     for (const ByteEdit& edit : elision.edits) {
-        copyOriginal(at, edit.begin, target);
+        copyOriginal(edit.begin - at, target);
         target.write(edit.bytes.data(), static_cast<std::streamsize>(edit.bytes.size()));
+        stream.ignore(static_cast<std::streamsize>(edit.end - edit.begin));
         at = edit.end;
     }
-    copyOriginal(at, elision.last, target);
+    copyOriginal(elision.last - at, target);
 }
 
-void ReducedOriginal::copyOriginal(std::uint64_t begin, std::uint64_t end, std::ostream& target)
+/// Copies what comes next in the stream.
+void ReducedOriginal::copyOriginal(std::uint64_t count, std::ostream& target)
 {
-    std::array<char, blockSize> block{};
-    stream.clear();
-    stream.seekg(static_cast<std::streamoff>(start + begin));
-    for (std::uint64_t left = end - begin; left != 0 && stream;) {
+    std::array<char, blockSize> block;
+    for (std::uint64_t left = count; left != 0 && stream;) {
         stream.read(block.data(), static_cast<std::streamsize>(std::min<std::uint64_t>(left, blockSize)));
         target.write(block.data(), stream.gcount());
         left -= static_cast<std::uint64_t>(stream.gcount());

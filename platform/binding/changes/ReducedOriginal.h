@@ -115,7 +115,7 @@ private:
     bool cutsElision(std::size_t at) const;
     void copy(std::size_t begin, std::size_t end, std::ostream& target);
     void copy(const Elision& elision, std::ostream& target);
-    void copyOriginal(std::uint64_t begin, std::uint64_t end, std::ostream& target);
+    void copyOriginal(std::uint64_t count, std::ostream& target);
 
     std::istream& stream;
     const core::CityModelType& document;
