@@ -420,6 +420,18 @@ QStringList listOf(const QString& value)
     return value.split(',', Qt::SkipEmptyParts);
 }
 
+/// Runs a command of the module, and tells with its code that files are missing, too.
+template <class Command>
+int codeOf(const DocumentFiles& files, Command command)
+{
+    try {
+        const int code = command();
+        return files.areComplete() ? code : failure;
+    } catch (const TableUsageError& error) {
+        throw UsageError(error.what());
+    }
+}
+
 int table(const QStringList& given)
 {
     const Arguments arguments(
@@ -439,12 +451,7 @@ int table(const QStringList& given)
     options.hasHeights = arguments.has("3d");
     options.append = arguments.has("append");
     const DocumentFiles files = arguments.documents();
-    try {
-        const int code = TableModule::load().writeTables(options, tableDocuments(files));
-        return files.areComplete() ? code : failure;
-    } catch (const TableUsageError& error) {
-        throw UsageError(error.what());
-    }
+    return codeOf(files, [&] { return TableModule::load().writeTables(options, tableDocuments(files)); });
 }
 
 int columns(const QStringList& given)
@@ -470,12 +477,9 @@ int apply(const QStringList& given)
     options.skipBad = arguments.has("skip-bad");
     options.isPlain = arguments.has("plain");
     const DocumentFiles files = arguments.documents();
-    try {
-        const int code = TableModule::load().applyTables(options, tableDocuments(files, formOf(arguments)));
-        return files.areComplete() ? code : failure;
-    } catch (const TableUsageError& error) {
-        throw UsageError(error.what());
-    }
+    return codeOf(files, [&] {
+        return TableModule::load().applyTables(options, tableDocuments(files, formOf(arguments)));
+    });
 }
 
 struct Command
