@@ -3,6 +3,7 @@
 #include "apps/viewer/document/SlicedEdit.h"
 #include "apps/viewer/features/SlicedWork.h"
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <QObject>
@@ -38,6 +39,9 @@ public:
 
     /// Gives up what is under way, where it stands: the document is about to go.
     void abandon();
+
+    /// See SlicedWork::setSliceLength().
+    void setSliceLength(std::chrono::milliseconds length) { work.setSliceLength(length); }
 
 public slots:
     void undo();

@@ -7,8 +7,6 @@ namespace tolvik::viewer {
 
 namespace {
 
-// A quarter of what a user feels as a hitch, so that painting has its share.
-constexpr int sliceMilliseconds = 12;
 // Most steps are short, and so the clock is not asked for each.
 constexpr int stepsToClock = 8;
 
@@ -43,7 +41,7 @@ void SlicedWork::runSlice()
     // A step may stop the work.
     while (done < steps && timer.isActive()) {
         step(done++);
-        if (done % stepsToClock == 0 && clock.elapsed() >= sliceMilliseconds) {
+        if (done % stepsToClock == 0 && clock.elapsed() >= sliceLength.count()) {
             break;
         }
     }

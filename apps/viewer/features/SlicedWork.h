@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <QObject>
 #include <QTimer>
@@ -30,6 +31,9 @@ public:
     void stop();
     bool isRunning() const { return timer.isActive(); }
 
+    /// How long others wait at most, as far as the steps are short: a shorter slice leaves them more time.
+    void setSliceLength(std::chrono::milliseconds length) { sliceLength = length; }
+
 signals:
     /// A slice is done.
     void progressed(int done, int steps);
@@ -42,6 +46,8 @@ private:
     End end;
     int done = 0;
     int steps = 0;
+    // A quarter of what a user feels as a hitch, so that painting has its share.
+    std::chrono::milliseconds sliceLength{12};
 };
 
 } // namespace tolvik::viewer
