@@ -30,6 +30,16 @@ class Measure
 public:
     explicit Measure(benchmark::State& state) : state(state) {}
 
+    /// Runs \a work in front of an iteration, which is compared with it: a slow minute of the machine is slow
+    /// for both.
+    template <class Work>
+    void yardstick(Work work)
+    {
+        const double start = elapsedSeconds();
+        work();
+        yardsticks += elapsedSeconds() - start;
+    }
+
     /// Runs \a work as one iteration.
     /// \return its seconds by the clock
     template <class Work>
@@ -50,12 +60,16 @@ public:
     /// MB/s, for so many bytes an iteration.
     void setBytes(double bytes) { state.SetBytesProcessed(static_cast<long>(bytes * iterations)); }
 
+    /// The time of the iterations as a multiple of that of their yardsticks, under a name.
+    void setRatio(const char* name) { state.counters[name] = total / yardsticks; }
+
     /// The time of an iteration as a multiple of another one, under a name.
     void setRatio(const char* name, double otherSeconds) { state.counters[name] = seconds() / otherSeconds; }
 
 private:
     benchmark::State& state;
     double total = 0;
+    double yardsticks = 0;
     int iterations = 0;
 };
 

@@ -96,18 +96,6 @@ std::unique_ptr<core::CityModelType> Subject::read() const
     return std::unique_ptr<core::CityModelType>(core::CityModel(stream).release());
 }
 
-double Subject::expatSeconds()
-{
-    if (expat == 0) {
-        expat = quickest([this] {
-            const double start = elapsedSeconds();
-            passExpat();
-            return elapsedSeconds() - start;
-        });
-    }
-    return expat;
-}
-
 double Subject::readSeconds()
 {
     if (reading == 0) {

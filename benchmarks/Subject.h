@@ -33,9 +33,8 @@ public:
     /// Reads the file into schema objects.
     std::unique_ptr<core::CityModelType> read() const;
 
-    // What other times are compared with, in seconds: the least of three tries, measured when it
-    // is first asked for.
-    double expatSeconds();
+    /// What other times are compared with: the seconds of reading, the least of three tries, measured when it
+    /// is first asked for.
     double readSeconds();
 
     /// The document loaded; loaded when it is first asked for, and kept until release().
@@ -50,7 +49,6 @@ private:
     QTemporaryDir directory;
     QString file;
     double size = 0;
-    double expat = 0;
     double reading = 0;
     double loading = 0;
     std::unique_ptr<CityGMLModel> loaded;

@@ -3,7 +3,6 @@
 #include "citygml/CityGMLFeaturesVisitor.h"
 
 #include <list>
-#include <unordered_set>
 
 namespace tolvik {
 
@@ -22,8 +21,10 @@ public:
     bool visit_gml_AbstractFeatureType(gml::AbstractFeatureType* feature) override;
 
 private:
-    std::list<gml::AbstractFeatureType*> features;
-    std::unordered_set<gml::AbstractFeatureType*> listed;
+    // What was met more than once is taken out when the list is asked for: to ask at each feature whether it
+    // is new takes as long as the walk.
+    mutable std::list<gml::AbstractFeatureType*> features;
+    mutable bool mayRepeat = false;
 };
 
 } // namespace tolvik

@@ -10,10 +10,26 @@
 
 #include "gml.instantiations.h"
 
+#include <QHash>
+
 namespace tolvik {
 
+namespace {
+
+/// The name of a type, of which each feature has a row: they share the text.
+const QString& sharedText(const xml_schema::TypeLabel& label) {
+    thread_local QHash<const std::string*, QString> texts;
+    QString& text = texts[&label.str()];
+    if (text.isNull()) {
+        text = QString::fromStdString(label);
+    }
+    return text;
+}
+
+} // namespace
+
 ROWS_OF(gml::AbstractGMLType) {
-    readOnly(QStringLiteral("ClassType"), QString::fromStdString(object.typeLabel));
+    readOnly(QStringLiteral("ClassType"), sharedText(object.typeLabel));
     if (object.id().present()) {
         readOnly(QStringLiteral("Id"), QString::fromStdString(object.id().get()));
     }
