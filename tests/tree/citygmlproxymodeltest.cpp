@@ -438,6 +438,11 @@ private slots:
         QCOMPARE(nodes.front()->parent(), static_cast<TreeNode*>(nodes.back().get()));
         QVERIFY(nodes.back()->parent() == nullptr);
         QCOMPARE(tree.rootNodeSize(), 1);
+        // And so in a tree that is built after that.
+        OpenTree later;
+        later.setSourceModel(&model);
+        QCOMPARE(later.nodeMap.at(city).size(), std::size_t(2));
+        QCOMPARE(later.rootNodeSize(), 1);
     }
 
     void childOfTwoNodesBelongsToTheLater()

@@ -18,7 +18,7 @@ using namespace tolvik::viewer;
 
 namespace {
 
-constexpr int buildings = 2500;
+constexpr int buildings = 400;
 // Rows go one by one, and each has all others numbered anew.
 constexpr int goingBuildings = 300;
 

