@@ -145,6 +145,8 @@ private slots:
     void referencesAreFollowedAndTold();
     void orientableSurfacesTurnWhatIsInThem();
     void circlesOfReferencesEnd();
+    void referencesThatMultiplyEnd_data();
+    void referencesThatMultiplyEnd();
     void trianglesOfATerrain();
     void positionsOfAllForms_data();
     void positionsOfAllForms();
@@ -226,6 +228,42 @@ void GeometryWalkTest::circlesOfReferencesEnd()
         "</gml:CompositeSurface></gml:surfaceMember></gml:MultiSurface></bldg:lod2MultiSurface>"));
     QVERIFY(!lines.isEmpty());
     QVERIFY2(lines.size() < 100, qPrintable(QString::number(lines.size())));
+}
+
+void GeometryWalkTest::referencesThatMultiplyEnd_data()
+{
+    QTest::addColumn<int>("partSize");
+    QTest::newRow("at once") << 0;
+    QTest::newRow("in parts") << 5000;
+}
+
+/// Ten surfaces, each of which refers ten times to the next, would be ten thousand million triangles.
+void GeometryWalkTest::referencesThatMultiplyEnd()
+{
+    QFETCH(int, partSize);
+    constexpr int most = 1000000;
+    QByteArray surfaces;
+    for (int level = 0; level < 10; ++level) {
+        const QByteArray next = QByteArray::number(level + 1);
+        surfaces +=
+            surfaceMember("<gml:CompositeSurface gml:id='c" + QByteArray::number(level) + "'>" +
+                          QByteArray("<gml:surfaceMember xlink:href='#c" + next + "'/>").repeated(10) +
+                          "</gml:CompositeSurface>");
+    }
+    const Document document = readMembers(buildingMember("<bldg:lod2MultiSurface><gml:MultiSurface>" +
+                                                         surfaces + surfaceMember(polygon(triangle, "c10")) +
+                                                         "</gml:MultiSurface></bldg:lod2MultiSurface>"));
+    const gml::AbstractFeatureType& building = *featuresOf(*document).back();
+    int count = 0;
+    const auto takeSome = [&](const GeometryPiece&) {
+        ++count;
+        return count <= most && (partSize == 0 || count % partSize != 0);
+    };
+    citygml::GeometryWalkPlace place;
+    while (citygml::walkGeometry(building, place, takeSome) && count <= most) {
+    }
+    QVERIFY2(count <= most, qPrintable(QString::number(count)));
+    QVERIFY2(count > most / 2, qPrintable(QString::number(count)));
 }
 
 void GeometryWalkTest::trianglesOfATerrain()
