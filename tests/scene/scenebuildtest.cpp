@@ -77,6 +77,7 @@ private slots:
     void largeFeaturesTakeManySteps();
     void largeFeaturesGoWhileTheyCome();
     void largeFeaturesChangeWhileTheyCome();
+    void ofATileThatIsMadeAnewNothingFormerComes();
     void aThemeIsChosenWhileALargeFeatureComes();
     void aThemeIsChosenMeanwhile();
     void whatIsRemovedFromTheDocumentGoes();
@@ -285,6 +286,32 @@ void SceneBuildTest::largeFeaturesChangeWhileTheyCome()
         }
         fixture.scene.addAll();
         QCOMPARE(fixture.scene.counts().triangles, std::size_t(4));
+    }
+}
+
+/// Neither when it changes while it is walked through, nor when that is still under way in a thread.
+void SceneBuildTest::ofATileThatIsMadeAnewNothingFormerComes()
+{
+    const DocumentFile file(largeBuilding());
+    for (const int steps : {1, 2, 3, 5, 6}) {
+        SceneFixture fixture(file.path());
+        auto& large = dynamic_cast<bldg::BuildingType&>(*fixture.model.getFeature("large"));
+        const auto& small = dynamic_cast<const bldg::BuildingType&>(*fixture.model.getFeature("small"));
+        fixture.scene.rebuild(large);
+        for (int step = 0; step < steps; ++step) {
+            fixture.scene.addSome(0);
+        }
+        large.lod2MultiSurface(small.lod2MultiSurface().get());
+        fixture.scene.rebuild(large);
+        std::vector<std::size_t> shown;
+        while (fixture.scene.isBusy()) {
+            fixture.scene.addSome(0);
+            fixture.scene.waitForTile();
+            if (fixture.scene.takeFinished()) {
+                shown.push_back(fixture.scene.counts().triangles);
+            }
+        }
+        QCOMPARE(shown, std::vector<std::size_t>{4});
     }
 }
 
