@@ -9,9 +9,11 @@
 #include <QClipboard>
 #include <QDesktopServices>
 #include <QMenu>
+#include <QTabWidget>
 #include <QtTest>
 
 using namespace testsupport;
+using namespace tolvik;
 using namespace tolvik::viewer;
 
 /// What the menu and the keys do with features.
@@ -66,6 +68,53 @@ private slots:
         opened->action("showOnly")->trigger();
         QVERIFY(isVisible("bell"));
         QVERIFY(!isVisible("heron-bridge"));
+    }
+
+    void visibilityChangesAtOnce_data()
+    {
+        QTest::addColumn<QString>("place");
+        QTest::addColumn<int>("key");
+        QTest::addColumn<int>("hidings");
+        QTest::addColumn<int>("showings");
+        QTest::newRow("box in the tree") << "featureTree" << int(Qt::Key_Space) << 0 << 1;
+        for (const QString place : {"featureTree", "featureList", "view"}) {
+            const auto row = [&place](const char* what) -> QTestData& {
+                return QTest::newRow(qPrintable(what + (" in " + place)));
+            };
+            row("hide") << place << int(Qt::Key_H) << 1 << 0;
+            row("show") << place << int(Qt::Key_S) << 0 << 1;
+            row("only this") << place << int(Qt::Key_O) << 1 << 1;
+            row("hide all") << place << int(Qt::ControlModifier | Qt::ShiftModifier | Qt::Key_H) << 1 << 0;
+            row("show all") << place << int(Qt::ControlModifier | Qt::ShiftModifier | Qt::Key_A) << 0 << 1;
+        }
+    }
+
+    /// Whoever shows the features is told once of all that are hidden, and once of all that are shown.
+    void visibilityChangesAtOnce()
+    {
+        QFETCH(QString, place);
+        QFETCH(int, key);
+        QFETCH(int, hidings);
+        QFETCH(int, showings);
+        CityGMLModel& model = opened->document().model();
+        opened->select({"shop"});
+        opened->action("hide")->trigger();
+        opened->select({"lantern-house"});
+        opened->window->findChild<QTabWidget*>()->setCurrentIndex(place == "featureList" ? 1 : 0);
+        auto* const widget = opened->window->findChild<QWidget*>(place);
+        widget->setFocus();
+        int hidden = 0;
+        int shown = 0;
+        connect(&model, qOverload<const QList<QModelIndex>&>(&Model::visibilityChanged), this,
+                [&](const QList<QModelIndex>& rows) { ++(model.isVisible(rows.first()) ? shown : hidden); });
+        int single = 0;
+        connect(&model, qOverload<const QModelIndex&>(&Model::visibilityChanged), this, [&] { ++single; });
+        QTest::keyClick(widget, Qt::Key(key & ~Qt::KeyboardModifierMask),
+                        Qt::KeyboardModifiers(key & Qt::KeyboardModifierMask));
+        model.disconnect(this);
+        QCOMPARE(hidden, hidings);
+        QCOMPARE(shown, showings);
+        QCOMPARE(single, 0);
     }
 
     void disabledFeaturesAreGreyAndCannotBeSelected()

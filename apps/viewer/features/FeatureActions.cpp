@@ -129,14 +129,14 @@ void FeatureActions::showOnlySelected()
 {
     CityGMLModel& model = document.model();
     const QVector<int> wanted = branches();
-    QVector<int> others;
+    QList<QModelIndex> wrong;
     for (int row = 0; row < model.rowCount(); ++row) {
-        if (model.isVisible(model.index(row, 0)) && !std::binary_search(wanted.begin(), wanted.end(), row)) {
-            others.append(row);
+        const QModelIndex index = model.index(row, 0);
+        if (model.isVisible(index) != std::binary_search(wanted.begin(), wanted.end(), row)) {
+            wrong.append(index);
         }
     }
-    model.hide(indexesOf(document, others));
-    model.show(indexesOf(document, wanted));
+    model.toggleVisibility(wrong);
 }
 
 void FeatureActions::hideEverything()
