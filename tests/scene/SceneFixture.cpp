@@ -1,7 +1,5 @@
 #include "scene/SceneFixture.h"
 
-#include <QSet>
-
 namespace testsupport {
 
 using namespace tolvik::scene;
@@ -68,28 +66,6 @@ QVector<QPoint> SceneFixture::grid(int columns, int rows) const
         }
     }
     return pixels;
-}
-
-int differences(const QImage& a, const QImage& b)
-{
-    int count = a.size() == b.size() ? 0 : a.width() * a.height();
-    for (int y = 0; y < a.height() && a.size() == b.size(); ++y) {
-        for (int x = 0; x < a.width(); ++x) {
-            count += a.pixel(x, y) != b.pixel(x, y) ? 1 : 0;
-        }
-    }
-    return count;
-}
-
-int coloursIn(const QImage& image)
-{
-    QSet<QRgb> colours;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            colours.insert(image.pixel(x, y));
-        }
-    }
-    return colours.size();
 }
 
 } // namespace testsupport

@@ -2,6 +2,7 @@
 
 #include "scene/CityScene.h"
 #include "scene/OffscreenContext.h"
+#include "scene/Pictures.h"
 #include "scene/Renderer.h"
 #include "UI/Models/CityGMLModel/CityGMLModel.h"
 
@@ -45,11 +46,5 @@ public:
     /// Pixels at even distances all over the picture.
     QVector<QPoint> grid(int columns, int rows) const;
 };
-
-/// Number of pixels that differ.
-int differences(const QImage& a, const QImage& b);
-
-/// Number of colours in a picture.
-int coloursIn(const QImage& image);
 
 } // namespace testsupport

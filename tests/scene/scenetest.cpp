@@ -89,6 +89,7 @@ private slots:
     void aPictureCanHaveNoBackground();
     void placesAreFoundByPixel();
     void edgesAreLeftOutWhereTheyAreFarAway();
+    void edgesOfSmallSurfacesFadeBesideLargeOnes();
     void whatIsFittedIsMetWhenComingNear();
 
 private:
@@ -505,6 +506,54 @@ void SceneTest::edgesAreLeftOutWhereTheyAreFarAway()
         fixture.camera.zoom(20, osg::Vec2d(), 1.5);
         QVERIFY(!picturesDiffer());
         QVERIFY(coloursIn(fixture.picture()) > 1);
+    }
+}
+
+/// They are in one drawable, of which the edges are left out or not as a whole.
+void SceneTest::edgesOfSmallSurfacesFadeBesideLargeOnes()
+{
+    QByteArray surfaces;
+    for (int i = 0; i < 30; ++i) {
+        surfaces += square("", 10.0 * i, i % 2);
+    }
+    const DocumentFile file(documentText(
+        buildingMember(multiSurface("lod2MultiSurface", surfaces), "small") +
+        buildingMember(multiSurface("lod2MultiSurface",
+                                    "<gml:surfaceMember><gml:Polygon><gml:exterior><gml:LinearRing>"
+                                    "<gml:posList>0 20 0 300 20 0 300 150 0 0 150 0 0 20 0</gml:posList>"
+                                    "</gml:LinearRing></gml:exterior></gml:Polygon></gml:surfaceMember>"),
+                       "large")));
+    SceneFixture fixture(file.path());
+    QCOMPARE(fixture.scene.counts().tiles, std::size_t(1));
+    /// The strongest that the edges of a feature darken a pixel.
+    const auto edgesOf = [&fixture](const char* id) {
+        fixture.setAllHidden(true);
+        fixture.features().setHidden(fixture.slotOf(id), false);
+        fixture.options.hasEdges = true;
+        const QImage withEdges = fixture.picture();
+        fixture.options.hasEdges = false;
+        const QImage without = fixture.picture();
+        int strongest = 0;
+        for (int y = 0; y < withEdges.height(); ++y) {
+            for (int x = 0; x < withEdges.width(); ++x) {
+                strongest = std::max(strongest, qGray(without.pixel(x, y)) - qGray(withEdges.pixel(x, y)));
+            }
+        }
+        return strongest;
+    };
+    for (const bool isParallel : {false, true}) {
+        fixture.camera.setParallel(isParallel);
+        fixture.camera.setDirection(Camera::Direction::Top);
+        fixture.camera.fit(fixture.scene.bounds(), 1.5);
+        const int near = edgesOf("small");
+        // The small ones are about five pixels large, then about two.
+        fixture.camera.zoom(3, osg::Vec2d(), 1.5);
+        const int middle = edgesOf("small");
+        fixture.camera.zoom(2.5, osg::Vec2d(), 1.5);
+        QVERIFY(middle > 0);
+        QVERIFY(middle < near / 2);
+        QCOMPARE(edgesOf("small"), 0);
+        QVERIFY(edgesOf("large") > near / 2);
     }
 }
 

@@ -1,21 +1,18 @@
-#include "apps/viewer/view/CityView.h"
-
-#include "apps/common/DocumentReading.h"
 #include "apps/common/PropertyPath.h"
-#include "apps/viewer/document/Document.h"
-#include "apps/viewer/view/SceneLink.h"
 #include "apps/viewer/view/ViewOverlay.h"
-#include "apps/viewer/view/ViewPanel.h"
 #include "framework/CoreProperty.h"
 #include "gml/AbstractFeatureType.hxx"
+#include "scene/Pictures.h"
+#include "scene/SceneDocuments.h"
 #include "support/Documents.h"
 #include "support/Files.h"
 #include "support/TestClass.h"
 #include "support/TestPaths.h"
+#include "viewer/ViewFixture.h"
 
 #include <QAction>
 #include <QComboBox>
-#include <QLabel>
+#include <QRegularExpression>
 #include <QSet>
 #include <QSlider>
 #include <QTemporaryDir>
@@ -29,39 +26,25 @@ using scene::noSlot;
 
 namespace {
 
-int differences(const QImage& a, const QImage& b)
-{
-    int count = a.size() == b.size() ? 0 : a.width() * a.height();
-    for (int y = 0; y < a.height() && a.size() == b.size(); ++y) {
-        for (int x = 0; x < a.width(); ++x) {
-            count += a.pixel(x, y) != b.pixel(x, y) ? 1 : 0;
-        }
-    }
-    return count;
-}
-
 bool isBackground(const QImage& image)
 {
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            if (image.pixel(x, y) != image.pixel(0, 0)) {
-                return false;
-            }
-        }
-    }
-    return true;
+    return coloursIn(image) == 1;
 }
 
 } // namespace
 
-/// The view of a document on a display. Mouse positions are those of the widget, pictures are in pixels.
-class CityViewTest : public QObject
+/// What a user does with the view of a document.
+class CityViewTest : public ViewFixture
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
+    void init()
+    {
+        show(QSize(700, 500));
+        open(examples() + "/district.gml");
+    }
+    void cleanup() { end(); }
     void theDocumentIsSeen();
     void aClickSelectsWhatIsSeenThere();
     void controlAddsAndTakesAway();
@@ -78,6 +61,7 @@ private slots:
     void levelsOfDetailAreChosen();
     void coloursFollowAnAttributeAndItsEdits();
     void twoClicksMeasure();
+    void aMeasureIsInTheUnitsOfTheDocument();
     void keysTurnAndMove();
     void theWheelZoomsToThePointer();
     void picturesHaveTheSizeThatIsAsked();
@@ -88,91 +72,9 @@ private slots:
     void manyFeaturesAreHiddenByOneRepaint();
     void theViewEndsWhileItIsBuilt();
     void documentsChangeWhileTheyAreBuilt();
-
-private:
-    void open(const QString& path);
-    /// Opens a document, and does a little of what the view has to do for it.
-    void beginToOpen(const QString& path);
-    QImage picture();
-    /// A place where a feature is seen, far enough from the edges of its picture.
-    QPoint placeOfSomething(int* row = nullptr);
-    QModelIndex treeIndex(int row);
-
-    std::unique_ptr<viewer::Document> document;
-    std::unique_ptr<ViewPanel> panel;
-    CityView* view = nullptr;
 };
 
 TEST_CLASS(CityViewTest, Widgets)
-
-void CityViewTest::init()
-{
-    document = std::make_unique<viewer::Document>();
-    panel = std::make_unique<ViewPanel>(*document);
-    panel->resize(700, 500);
-    panel->show();
-    QVERIFY(QTest::qWaitForWindowExposed(panel.get()));
-    view = panel->view();
-    QVERIFY(view != nullptr);
-    QVERIFY2(view->error().isEmpty(), qPrintable(view->error()));
-    open(examples() + "/district.gml");
-}
-
-void CityViewTest::cleanup()
-{
-    panel.reset();
-    document.reset();
-}
-
-void CityViewTest::open(const QString& path)
-{
-    apps::DocumentReading reading(path);
-    reading.read();
-    QVERIFY2(reading.document() != nullptr, qPrintable(reading.error()));
-    document->open(reading);
-    panel->link()->finish();
-    // The tools take their sizes.
-    QCoreApplication::processEvents();
-    view->fitAll();
-}
-
-void CityViewTest::beginToOpen(const QString& path)
-{
-    apps::DocumentReading reading(path);
-    reading.read();
-    QVERIFY2(reading.document() != nullptr, qPrintable(reading.error()));
-    document->open(reading);
-    QSignalSpy shown(panel->link(), &SceneLink::changed);
-    while (shown.isEmpty() && panel->link()->isBusy()) {
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 1);
-    }
-}
-
-QImage CityViewTest::picture()
-{
-    return view->grabFramebuffer();
-}
-
-QPoint CityViewTest::placeOfSomething(int* row)
-{
-    for (int y = 20; y < view->height(); y += 7) {
-        for (int x = 20; x < view->width(); x += 7) {
-            const scene::Slot slot = view->hitAt(QPoint(x, y)).slot;
-            if (slot != noSlot && view->hitAt(QPoint(x + 3, y + 3)).slot == slot) {
-                if (row != nullptr) {
-                    *row = panel->link()->rowOf(slot);
-                }
-                return QPoint(x, y);
-            }
-        }
-    }
-    return QPoint();
-}
-
-QModelIndex CityViewTest::treeIndex(int row)
-{
-    return document->tree().mapFromSource(document->model().index(row, 0));
-}
 
 void CityViewTest::theDocumentIsSeen()
 {
@@ -188,8 +90,7 @@ void CityViewTest::aClickSelectsWhatIsSeenThere()
     QTest::mouseClick(view, Qt::LeftButton, Qt::NoModifier, place);
     QCOMPARE(document->selection().currentIndex().row(), row);
     QVERIFY(document->selection().isRowSelected(row, QModelIndex()));
-    const QPointF pixel = (QPointF(place) + QPointF(0.5, 0.5)) * view->devicePixelRatioF();
-    QCOMPARE(QColor(picture().pixel(pixel.toPoint())), view->options().selection);
+    QCOMPARE(colourAt(picture(), place), view->options().selection);
 
     QTest::mouseClick(view, Qt::LeftButton, Qt::NoModifier, QPoint(2, 2));
     QVERIFY(!document->selection().hasSelection());
@@ -210,14 +111,10 @@ void CityViewTest::controlAddsAndTakesAway()
 void CityViewTest::aFrameSelectsAllThatIsSeenInIt()
 {
     QSet<int> seen;
-    for (int y = 0; y < view->height(); y += 5) {
-        for (int x = 0; x < view->width(); x += 5) {
-            const scene::Slot slot = view->hitAt(QPoint(x, y)).slot;
-            if (slot != noSlot) {
-                seen.insert(panel->link()->rowOf(slot));
-            }
-        }
+    for (const QPoint& place : grid(140, 100)) {
+        seen.insert(rowAt(place));
     }
+    seen.remove(-1);
     QVERIFY(seen.size() > 3);
     QTest::mousePress(view, Qt::LeftButton, Qt::ShiftModifier, QPoint(1, 1));
     // Qt Test does not say which button is held.
@@ -237,12 +134,7 @@ void CityViewTest::aDoubleClickFits()
     QTest::mouseDClick(view, Qt::LeftButton, Qt::NoModifier, place);
     document->goTo(row);
     const QImage image = picture();
-    int selected = 0;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            selected += QColor(image.pixel(x, y)) == view->options().selection ? 1 : 0;
-        }
-    }
+    const int selected = pixelsOf(view->options().selection, image);
     QVERIFY2(selected >= 0.02 * image.width() * image.height(), qPrintable(QString::number(selected)));
 }
 
@@ -253,13 +145,8 @@ void CityViewTest::theSelectionOfTheDocumentIsSeen()
     document->goTo(0);
     const QImage all = picture();
     QVERIFY(differences(before, all) > 1000);
-    QSet<QRgb> colours;
-    for (int y = 0; y < all.height(); ++y) {
-        for (int x = 0; x < all.width(); ++x) {
-            colours.insert(all.pixel(x, y));
-        }
-    }
-    QCOMPARE(colours, QSet<QRgb>({view->options().selection.rgb(), view->options().background.rgb()}));
+    QCOMPARE(pixelsOf(view->options().selection, all) + pixelsOf(view->options().background, all),
+             all.width() * all.height());
     document->selection().clearSelection();
     QCOMPARE(differences(before, picture()), 0);
 }
@@ -271,8 +158,7 @@ void CityViewTest::uncheckingInTheTreeHides()
     const QPoint place = placeOfSomething(&row);
     QVERIFY(document->tree().setData(treeIndex(row), Qt::Unchecked, Qt::CheckStateRole));
     QVERIFY(differences(before, picture()) > 20);
-    const scene::Slot now = view->hitAt(place).slot;
-    QVERIFY(now == noSlot || panel->link()->rowOf(now) != row);
+    QVERIFY(rowAt(place) != row);
     QVERIFY(document->tree().setData(treeIndex(row), Qt::Checked, Qt::CheckStateRole));
     QCOMPARE(differences(before, picture()), 0);
 }
@@ -419,6 +305,31 @@ void CityViewTest::twoClicksMeasure()
     QVERIFY(panel->overlay()->measure().isEmpty());
 }
 
+void CityViewTest::aMeasureIsInTheUnitsOfTheDocument()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("squares.gml");
+    QVERIFY(writeFile(
+        path, documentText(buildingMember(multiSurface("lod2MultiSurface", square("p", 0, 0)), "low") +
+                           buildingMember(multiSurface("lod2MultiSurface", square("q", 30, 40)), "high"))));
+    open(path);
+    view->look(scene::Camera::Direction::Oblique);
+    panel->findChild<QAction*>("measure")->trigger();
+    for (const osg::Vec3d& place : {osg::Vec3d(5, 5, 0), osg::Vec3d(35, 5, 40)}) {
+        QTest::mouseClick(view, Qt::LeftButton, Qt::NoModifier, view->placeOf(place).toPoint());
+    }
+    static const QRegularExpression number("-?[0-9]+[.,][0-9]+");
+    QVector<double> numbers;
+    for (auto found = number.globalMatch(panel->overlay()->measure()); found.hasNext();) {
+        numbers << found.next().captured().replace(',', '.').toDouble();
+    }
+    QCOMPARE(numbers.size(), 3);
+    // Within a pixel.
+    QVERIFY2(qAbs(numbers[0] - 50) < 0.5, qPrintable(panel->overlay()->measure()));
+    QVERIFY2(qAbs(numbers[1] - 30) < 0.5, qPrintable(panel->overlay()->measure()));
+    QVERIFY2(qAbs(numbers[2] - 40) < 0.01, qPrintable(panel->overlay()->measure()));
+}
+
 void CityViewTest::keysTurnAndMove()
 {
     const QImage before = picture();
@@ -449,9 +360,7 @@ void CityViewTest::theWheelZoomsToThePointer()
     const double height = view->camera().height();
     QCoreApplication::sendEvent(view, &wheel);
     QVERIFY(view->camera().height() < height);
-    const scene::Slot slot = view->hitAt(place).slot;
-    QVERIFY(slot != noSlot);
-    QCOMPARE(panel->link()->rowOf(slot), row);
+    QCOMPARE(rowAt(place), row);
 }
 
 void CityViewTest::picturesHaveTheSizeThatIsAsked()
@@ -545,13 +454,11 @@ void CityViewTest::nothingButTheSelectedIsShown()
         }
     }
     model.hide(others);
-    for (int y = 5; y < view->height(); y += 16) {
-        for (int x = 5; x < view->width(); x += 16) {
-            const scene::Slot slot = view->hitAt(QPoint(x, y)).slot;
-            QVERIFY(slot == noSlot || panel->link()->rowOf(slot) == row);
-        }
+    for (const QPoint& each : grid(44, 31)) {
+        const int found = rowAt(each);
+        QVERIFY(found == -1 || found == row);
     }
-    QCOMPARE(panel->link()->rowOf(view->hitAt(place).slot), row);
+    QCOMPARE(rowAt(place), row);
     model.showAll();
 }
 
