@@ -30,7 +30,7 @@ QString EditRunner::perform(std::unique_ptr<SlicedEdit> next)
         return tr("Another edit is still under way.");
     }
     if (isShort(*next, next->size())) {
-        const QString reason = next->performAll();
+        QString reason = next->performAll();
         if (reason.isEmpty()) {
             push(std::move(next));
         }

@@ -20,9 +20,9 @@ RecordedEdit::RecordedEdit() : ownNumber(++lastNumber) {}
 
 RecordedEdit::~RecordedEdit() = default;
 
-void RecordedEdit::addMaker(const QString& kind, Maker maker)
+void RecordedEdit::addMaker(const QString& kind, const Maker& maker)
 {
-    makers().insert(kind, std::move(maker));
+    makers().insert(kind, maker);
 }
 
 std::unique_ptr<RecordedEdit> RecordedEdit::make(const QString& kind, Document& document,

@@ -33,7 +33,7 @@ public:
     virtual QJsonObject record() const = 0;
 
     /// Registers the maker of a kind.
-    static void addMaker(const QString& kind, Maker maker);
+    static void addMaker(const QString& kind, const Maker& maker);
 
     /// \return null for a kind that nobody has registered, and where the maker refuses
     static std::unique_ptr<RecordedEdit> make(const QString& kind, Document& document,

@@ -13,7 +13,7 @@ void SlicedEdit::finish(bool done)
 QString SlicedEdit::performAll()
 {
     for (int number = 0; number < size(); ++number) {
-        const QString refusal = perform(number);
+        QString refusal = perform(number);
         if (!refusal.isEmpty()) {
             turnAll();
             finish(false);

@@ -139,8 +139,7 @@ QString PropertyEdit::perform(int number)
 QString PropertyEdit::performOnEntry(gml::AbstractFeatureType& feature, citygml::Member& attributes)
 {
     Change change{locator().addressOf(feature), editedPlace(), CapturedState(), attributes.size(), false};
-    const QString refusal =
-        action == AddAttribute ? addAttributeTo(attributes) : takeAttributeOf(feature, change);
+    QString refusal = action == AddAttribute ? addAttributeTo(attributes) : takeAttributeOf(feature, change);
     if (refusal.isEmpty()) {
         changed.push_back(change);
         announce(feature);
@@ -250,7 +249,7 @@ QString PropertyEdit::refusalOfCharacters() const
 /// \return why it is refused, or nothing. The member may have changed then.
 QString PropertyEdit::performOn(gml::AbstractFeatureType& feature, EditedMember& member) const
 {
-    const QString refusal = refusalOfCharacters();
+    QString refusal = refusalOfCharacters();
     if (!refusal.isEmpty()) {
         return refusal;
     }
@@ -333,7 +332,7 @@ QString PropertyEdit::makeAbsent(EditedMember& member) const
 
 QString PropertyEdit::addAttributeTo(citygml::Member& attributes) const
 {
-    const QString refusal = refusalOfCharacters();
+    QString refusal = refusalOfCharacters();
     if (!refusal.isEmpty()) {
         return refusal;
     }

@@ -60,9 +60,8 @@ void TableCommands::perform(const ImportDialog& dialog, const QString& name)
 {
     EditRunner& runner = document.editRunner();
     const int cells = static_cast<int>(dialog.changes().size());
-    const QStringList remarks = dialog.remarks();
     const int before = document.undoStack().index();
-    const auto end = [this, name, cells, remarks, before](const QString& refusal) {
+    const auto end = [this, name, cells, remarks = dialog.remarks(), before](const QString& refusal) {
         const bool isCancelled = refusal.isEmpty() && document.undoStack().index() == before;
         if (isCancelled) {
             return;

@@ -17,7 +17,7 @@ class FindingsModel : public QAbstractTableModel
 public:
     enum Column { Line, Reason, Path, Feature, ColumnCount };
     /// Of the identifier of the feature around the place, empty where there is none.
-    static constexpr int IdentifierRole = Qt::UserRole;
+    enum Roles { IdentifierRole = Qt::UserRole };
 
     explicit FindingsModel(QObject* parent = nullptr);
     ~FindingsModel() override;
