@@ -34,6 +34,10 @@ void noteSkip();
 
 } // namespace testsupport
 
+// Qt looks every 50 milliseconds whether what a test waits for has come, and tests of windows wait much.
+#undef QTRY_IMPL
+#define QTRY_IMPL(expr, timeout) QTRY_LOOP_IMPL((expr), (timeout), 5)
+
 /// Puts a test class into the program that its source file is linked into. A program may have several: `main`
 /// runs those without an application object first, then those with a QCoreApplication, then those with a
 /// QApplication. The program takes the options of Qt Test, and names of test functions of any of its classes.
