@@ -108,7 +108,7 @@ void MainWindow::goToIdentifier(const QString& identifier)
     }
 }
 
-void MainWindow::offer(std::shared_ptr<Recovery> recovery)
+void MainWindow::offer(const std::shared_ptr<Recovery>& recovery)
 {
     const QString name = QFileInfo(recovery->file()).fileName();
     notice->tell(

@@ -42,7 +42,7 @@ public:
     void open(const QString& path);
 
     /// Asks whether edits that were lost with the program shall be done again.
-    void offer(std::shared_ptr<Recovery> recovery);
+    void offer(const std::shared_ptr<Recovery>& recovery);
 
     /// A further window, without a document; it deletes itself when it is closed.
     static MainWindow* openNew();
