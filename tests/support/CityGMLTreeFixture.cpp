@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <QAbstractItemModelTester>
 #include <QStringList>
+#include <QtTest>
 #include <sstream>
 
 namespace testsupport {
@@ -36,6 +37,37 @@ QByteArray village()
   </cityObjectMember>
   <cityObjectMember><bldg:Building gml:id="b2"><gml:name>Church</gml:name></bldg:Building></cityObjectMember>
 )");
+}
+
+void addInsertionRows()
+{
+    QTest::addColumn<int>("level");
+    QTest::addColumn<QString>("place");
+    QTest::addColumn<QString>("tree");
+    QTest::newRow("second level") << 1 << "0:0 2 2"
+                                  << "city(b1(w1(d1 d2) w2) b2 new)";
+    QTest::newRow("third level") << 2 << "0/0:0 2 2"
+                                 << "city(b1(w1(d1 d2) w2 new) b2)";
+    QTest::newRow("fourth level") << 3 << "0/0/0:0 2 2"
+                                  << "city(b1(w1(d1 d2 new) w2) b2)";
+}
+
+void addToVillage(tolvik::CityGMLModel& model, int level)
+{
+    const auto feature = [&model](const char* id) { return model.getFeature(std::string(id)); };
+    gml::AbstractFeatureType* added = nullptr;
+    switch (level) {
+    case 1:
+        added = addMember(*model.cityGML(), makeBuilding("new"));
+        break;
+    case 2:
+        added = addSurface(dynamic_cast<bldg::AbstractBuildingType&>(*feature("b1")), makeWall("new"));
+        break;
+    default:
+        added = addOpening(dynamic_cast<bldg::AbstractBoundarySurfaceType&>(*feature("w1")), makeDoor("new"));
+        break;
+    }
+    model.addFeature(added);
 }
 
 CityTree::CityTree(const QByteArray& document)

@@ -18,6 +18,14 @@ QByteArray cityDocument(const QByteArray& members);
 /// city(b1(w1(d1 d2) w2) b2), and an appearance. In rows: city a1 b1 w1 d1 d2 w2 b2.
 QByteArray village();
 
+/// Adds columns and rows to the data of a test function that calls addToVillage(): `level`, its argument;
+/// `place`, parent and rows of the insertion as the recorder writes them; `tree`, what the tree is then.
+void addInsertionRows();
+
+/// Puts a feature "new" into the document of a village and into the list.
+/// \param level 1 for a building of the city, 2 for a wall of b1, 3 for a door of w1, each behind the others
+void addToVillage(tolvik::CityGMLModel& model, int level);
+
 /// The proxy with its protected members open.
 class OpenTree : public tolvik::CityGMLProxyModel
 {

@@ -77,40 +77,17 @@ private slots:
         town.check();
     }
 
-    void insertionBelowAParent_data()
-    {
-        QTest::addColumn<int>("level");
-        QTest::addColumn<QString>("lines");
-        QTest::addColumn<QString>("tree");
-        QTest::newRow("second level") << 1 << "0:0 2 2"
-                                      << "city(b1(w1(d1 d2) w2) b2 new)";
-        QTest::newRow("third level") << 2 << "0/0:0 2 2"
-                                     << "city(b1(w1(d1 d2) w2 new) b2)";
-        QTest::newRow("fourth level") << 3 << "0/0/0:0 2 2"
-                                      << "city(b1(w1(d1 d2 new) w2) b2)";
-    }
+    void insertionBelowAParent_data() { addInsertionRows(); }
 
     void insertionBelowAParent()
     {
         QFETCH(int, level);
-        QFETCH(QString, lines);
+        QFETCH(QString, place);
         QFETCH(QString, tree);
         Town town;
         const TreeNodeGML* const wall = town.node("w1");
-        gml::AbstractFeatureType* added = nullptr;
-        switch (level) {
-        case 1:
-            added = addMember(town.city(), makeBuilding("new"));
-            break;
-        case 2:
-            added = addSurface(town.feature<bldg::AbstractBuildingType>("b1"), makeWall("new"));
-            break;
-        default:
-            added = addOpening(town.feature<bldg::AbstractBoundarySurfaceType>("w1"), makeDoor("new"));
-            break;
-        }
-        town.model.addFeature(added);
-        QCOMPARE(town.recorder.take(), inserted(lines));
+        addToVillage(town.model, level);
+        QCOMPARE(town.recorder.take(), inserted(place));
         QCOMPARE(town.dump(), tree);
         QCOMPARE(town.node("new")->childNumber(), 2);
         QCOMPARE(town.node("new")->parent()->children()[2].get(), static_cast<TreeNode*>(town.node("new")));

@@ -152,37 +152,19 @@ private slots:
         QVERIFY(!town.at("a1").isValid());
     }
 
-    void insertionIsSignalledAroundTheChange_data()
-    {
-        QTest::addColumn<int>("level");
-        QTest::addColumn<QString>("line");
-        QTest::addColumn<QString>("tree");
-        QTest::newRow("second level") << 1 << "0:0 2 2"
-                                      << "city(b1(w1(d1 d2) w2) b2 new)";
-        QTest::newRow("third level") << 2 << "0/0:0 2 2"
-                                     << "city(b1(w1(d1 d2) w2 new) b2)";
-        QTest::newRow("fourth level") << 3 << "0/0/0:0 2 2"
-                                      << "city(b1(w1(d1 d2 new) w2) b2)";
-    }
+    void insertionIsSignalledAroundTheChange_data() { addInsertionRows(); }
 
     void insertionIsSignalledAroundTheChange()
     {
         QFETCH(int, level);
-        QFETCH(QString, line);
+        QFETCH(QString, place);
         QFETCH(QString, tree);
         Town town;
         int rowsBefore = 0;
         connect(&town.tree, &QAbstractItemModel::rowsAboutToBeInserted, &town.tree,
                 [&](const QModelIndex& parent) { rowsBefore = town.tree.rowCount(parent); });
-        if (level == 1) {
-            town.addBuilding("new");
-        } else if (level == 2) {
-            town.addWall("b1", "new");
-        } else {
-            town.model.addFeature(
-                addOpening(town.feature<bldg::AbstractBoundarySurfaceType>("w1"), makeDoor("new")));
-        }
-        QCOMPARE(town.recorder.take(), inserted(line));
+        addToVillage(town.model, level);
+        QCOMPARE(town.recorder.take(), inserted(place));
         QCOMPARE(rowsBefore, 2);
         QCOMPARE(town.dump(), tree);
     }

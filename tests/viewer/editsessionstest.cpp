@@ -5,8 +5,8 @@
 #include "apps/viewer/properties/ValueText.h"
 #include "support/Files.h"
 #include "support/PanelFixture.h"
+#include "support/Sessions.h"
 #include "support/TestClass.h"
-#include "support/TestPaths.h"
 
 #include <QRandomGenerator>
 #include <QtTest>
@@ -17,14 +17,6 @@ using namespace tolvik::viewer;
 namespace {
 
 constexpr int editsOfSession = 50;
-
-/// Where two texts begin to differ.
-QString differenceOf(const QByteArray& now, const QByteArray& wanted, const QString& step)
-{
-    const auto found = std::mismatch(now.begin(), now.end(), wanted.begin(), wanted.end());
-    const int from = std::max<int>(0, static_cast<int>(found.first - now.begin()) - 80);
-    return step + "\n" + now.mid(from, 300) + "\n-- wanted --\n" + wanted.mid(from, 300);
-}
 
 /// Makes edits at random, as steps of the history.
 class Session
@@ -130,17 +122,7 @@ class EditSessionsTest : public QObject
     Q_OBJECT
 
 private slots:
-    void undoingAllGivesTheDocumentBack_data()
-    {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<int>("seed");
-        const int sessions = qEnvironmentVariableIsSet("TOLVIK_LONG_RUNS") ? 50 : 2;
-        for (const QString& path : documentsBelow(examples())) {
-            for (int seed = 1; seed <= sessions; ++seed) {
-                QTest::addRow("%s %d", qPrintable(QFileInfo(path).fileName()), seed) << path << seed;
-            }
-        }
-    }
+    void undoingAllGivesTheDocumentBack_data() { addSessionRows(2, 50); }
 
     void undoingAllGivesTheDocumentBack()
     {
@@ -166,7 +148,7 @@ private slots:
                 history.setIndex(history.index() + step);
                 const QByteArray now = fixture.saved();
                 QVERIFY2(now == states[history.index()],
-                         qPrintable(differenceOf(now, states[history.index()], what)));
+                         qPrintable(what + "\n" + differenceOf(now, states[history.index()])));
             }
         }
     }

@@ -8,12 +8,11 @@
 #include "support/Documents.h"
 #include "support/Files.h"
 #include "support/PanelFixture.h"
+#include "support/Sessions.h"
 #include "support/TestClass.h"
-#include "support/TestPaths.h"
 #include "support/XmlTree.h"
 #include "viewer/OpenedWindow.h"
 
-#include <algorithm>
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
@@ -288,13 +287,6 @@ QStringList differencesOf(const QByteArray& a, const QByteArray& b)
     return differences;
 }
 
-QString differenceOf(const QByteArray& now, const QByteArray& wanted)
-{
-    const auto found = std::mismatch(now.begin(), now.end(), wanted.begin(), wanted.end());
-    const int from = std::max<int>(0, static_cast<int>(found.first - now.begin()) - 80);
-    return now.mid(from, 300) + "\n-- wanted --\n" + wanted.mid(from, 300);
-}
-
 } // namespace
 
 /// Long sessions at random in the panels of a window, and what a save writes after them.
@@ -303,17 +295,7 @@ class WindowSessionsTest : public QObject
     Q_OBJECT
 
 private slots:
-    void anythingThatIsUndoneLeavesTheBytes_data()
-    {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<int>("seed");
-        const int sessions = qEnvironmentVariableIsSet("TOLVIK_LONG_RUNS") ? 40 : 1;
-        for (const QString& path : documentsBelow(examples())) {
-            for (int seed = 1; seed <= sessions; ++seed) {
-                QTest::addRow("%s %d", qPrintable(QFileInfo(path).fileName()), seed) << path << seed;
-            }
-        }
-    }
+    void anythingThatIsUndoneLeavesTheBytes_data() { addSessionRows(1, 40); }
 
     void anythingThatIsUndoneLeavesTheBytes()
     {
