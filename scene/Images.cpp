@@ -16,8 +16,13 @@ namespace {
 constexpr int longestSide = 8192;
 /// A file of few bytes can claim to be a picture of any size.
 constexpr qint64 mostPixels = 400'000'000;
-const QList<QByteArray> rasterFormats = {"png", "jpeg", "jpg", "gif", "bmp", "tiff", "tif", "webp",
+constexpr const char* rasterFormats[] = {"png", "jpeg", "jpg", "gif", "bmp", "tiff", "tif", "webp",
                                          "tga", "pbm",  "pgm", "ppm", "xbm", "xpm",  "ico", "jp2"};
+
+bool isRaster(const QByteArray& format)
+{
+    return std::find(std::begin(rasterFormats), std::end(rasterFormats), format) != std::end(rasterFormats);
+}
 
 /// The path that an address of a document means; empty for one of a network.
 QString localPathOf(const QString& uri)
@@ -101,7 +106,7 @@ Picture::Picture(QString file) : path(std::move(file))
     QImageReader reader(path);
     reader.setDecideFormatFromContent(true);
     const QSize size = reader.size();
-    if (reader.canRead() && rasterFormats.contains(reader.format()) &&
+    if (reader.canRead() && isRaster(reader.format()) &&
         static_cast<qint64>(size.width()) * size.height() <= mostPixels) {
         ownSize = size;
     }

@@ -102,7 +102,8 @@ Corners readStl(QFile& file)
         return readBinaryStl(bytes);
     }
     Corners corners;
-    for (const QByteArray& line : bytes.split('\n')) {
+    const QList<QByteArray> lines = bytes.split('\n');
+    for (const QByteArray& line : lines) {
         const QList<QByteArray> words = line.simplified().split(' ');
         if (words[0] == "vertex" && words.size() > 3) {
             corners.push_back(readPosition(words));

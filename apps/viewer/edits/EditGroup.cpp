@@ -18,7 +18,7 @@ void undoAll(EditGroup::Edits& edits)
 EditGroup::Edits editsOf(Document& document, const QJsonArray& records, QString& refusal)
 {
     EditGroup::Edits edits;
-    for (const QJsonValue each : records) {
+    for (const QJsonValue& each : records) {
         std::unique_ptr<RecordedEdit> edit =
             RecordedEdit::make(each["kind"].toString(), document, each["edit"].toObject());
         if (edit == nullptr) {

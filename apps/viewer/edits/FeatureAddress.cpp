@@ -65,7 +65,7 @@ gml::AbstractFeatureType* FeatureLocator::find(const FeatureAddress& address)
 std::vector<gml::AbstractFeatureType*> FeatureLocator::findAll(const QJsonArray& addresses)
 {
     std::vector<gml::AbstractFeatureType*> features;
-    for (const QJsonValue each : addresses) {
+    for (const QJsonValue& each : addresses) {
         const FeatureAddress address =
             each.isString() ? FeatureAddress{each.toString().toStdString(), 0}
                             : FeatureAddress{each[0].toString().toStdString(), each[1].toInt()};

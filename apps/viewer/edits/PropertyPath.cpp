@@ -45,7 +45,7 @@ QJsonArray toJson(const PropertyPath& path)
 PropertyPath pathFromJson(const QJsonArray& json)
 {
     PropertyPath path;
-    for (const QJsonValue step : json) {
+    for (const QJsonValue& step : json) {
         path.append({step[0].toString(), step[1].toInt()});
     }
     return path;

@@ -48,7 +48,8 @@ QString filterOf(const TableFormat& format)
 QVector<const TableFormat*> fileFormats(bool isOneType)
 {
     QVector<const TableFormat*> formats;
-    for (const QString& name : tables::formatNames()) {
+    const QStringList names = tables::formatNames();
+    for (const QString& name : names) {
         const TableFormat* const format = tables::formatNamed(name);
         if (*format->ending != '\0' && (isOneType || format->holdsSeveral)) {
             formats += format;

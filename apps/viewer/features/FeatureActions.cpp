@@ -178,8 +178,9 @@ void FeatureActions::selectLikeSiblings()
 
 void FeatureActions::copyIdentifiers()
 {
+    const QVector<int> rows = targets();
     QStringList identifiers;
-    for (const int row : targets()) {
+    for (const int row : rows) {
         identifiers.append(idOf(*document.model().getFeature(row)));
     }
     identifiers.removeAll(QString());

@@ -21,7 +21,8 @@ bool has(const QString& text, const QString& word)
 
 FeatureQuery::FeatureQuery(const QString& text)
 {
-    for (const QString& each : split(text)) {
+    const QStringList words = split(text);
+    for (const QString& each : words) {
         terms.append(termOf(each));
     }
 }

@@ -50,7 +50,8 @@ ViewState ViewState::of(Document& document, const QTreeView& tree)
             state.disabled.insert(idOf(*feature));
         }
     }
-    for (const int row : selectedRows(document.selection())) {
+    const QVector<int> selected = selectedRows(document.selection());
+    for (const int row : selected) {
         state.selected.insert(idOf(*model.getFeature(row)));
     }
     if (document.selection().currentIndex().isValid()) {

@@ -65,7 +65,7 @@ QString textOf(QVector<Part> parts)
         country = code;
     }
     QStringList lines;
-    for (const Part& part : parts) {
+    for (const Part& part : qAsConst(parts)) {
         lines += part.text;
     }
     lines << street << (postCode + ' ' + town).trimmed() << country;

@@ -55,7 +55,7 @@ void ListEditor::setValue(const QVariant& value)
     given = value.toList();
     example = given.isEmpty() ? QVariant(QString()) : given.first();
     table->setRowCount(0);
-    for (const QVariant& entry : given) {
+    for (const QVariant& entry : qAsConst(given)) {
         insertRow(table->rowCount(), text.textOf(entry));
     }
     givenTexts = texts();

@@ -78,8 +78,9 @@ void addAddresses(gml::AbstractFeatureType& feature, PropertyNode& root)
         summary->parent = fields;
         fields->children.insert(fields->children.begin(), std::move(summary));
     } else if (fields->child({label, 1}) != nullptr) {
+        const QStringList addresses = addressesOf(feature);
         int occurrence = 0;
-        for (const QString& address : addressesOf(feature)) {
+        for (const QString& address : addresses) {
             PropertyNode* const group = fields->child({label, ++occurrence});
             if (group != nullptr) {
                 group->summary = address;

@@ -29,7 +29,7 @@ namespace {
 
 QString textListName(const QString& element)
 {
-    return element.left(1).toUpper() + element.mid(1);
+    return element.at(0).toUpper() + element.mid(1);
 }
 
 /// The text of a cell, of a long list too.
@@ -195,7 +195,7 @@ void PropertyPanel::refresh()
     rowsToRead = selectedRows(document.selection());
     merged.reset();
     if (rowsToRead.size() <= 1) {
-        for (const int row : rowsToRead) {
+        for (const int row : qAsConst(rowsToRead)) {
             readFeature(row);
         }
         showAll();
@@ -333,8 +333,9 @@ void PropertyPanel::showContextMenu(const QPoint& place)
 
 PropertyEdit::Features PropertyPanel::selectedFeatures() const
 {
+    const QVector<int> rows = selectedRows(document.selection());
     PropertyEdit::Features features;
-    for (const int row : selectedRows(document.selection())) {
+    for (const int row : rows) {
         features.push_back(document.model().getFeature(row));
     }
     return features;

@@ -70,7 +70,8 @@ QString ValueText::textOf(const QVariant& value) const
         return locale.toString(value.toDateTime(), dateTimeFormat());
     case QMetaType::QVariantList: {
         QStringList texts;
-        for (const QVariant& entry : value.toList()) {
+        const QVariantList entries = value.toList();
+        for (const QVariant& entry : entries) {
             texts += textOf(entry);
         }
         return texts.join(QStringLiteral("; "));

@@ -15,8 +15,9 @@ std::vector<std::unique_ptr<Recovery>> Recovery::findAll()
 {
     std::vector<std::unique_ptr<Recovery>> found;
     const QDir folder(Journal::folder());
-    for (const QFileInfo& each :
-         folder.entryInfoList({QStringLiteral("*.journal")}, QDir::Files, QDir::Time)) {
+    const QFileInfoList journals =
+        folder.entryInfoList({QStringLiteral("*.journal")}, QDir::Files, QDir::Time);
+    for (const QFileInfo& each : journals) {
         const QString path = each.absoluteFilePath();
         auto lock = std::make_unique<QLockFile>(path + QStringLiteral(".lock"));
         lock->setStaleLockTime(0);

@@ -339,7 +339,8 @@ void AttributeTable::copyCells(bool withTitles)
     QMap<int, QMap<int, QString>> texts;
     QMap<int, int> columns;
     const QHeaderView& header = *view->horizontalHeader();
-    for (const CellRun& run : selectedCells()) {
+    const QVector<CellRun> runs = selectedCells();
+    for (const CellRun& run : runs) {
         const QVector<AttributeCell> cells = model->valuesOf(run.row, run.first, run.last);
         for (int column = run.first; column <= run.last; ++column) {
             columns[header.visualIndex(column)] = column;
@@ -349,14 +350,14 @@ void AttributeTable::copyCells(bool withTitles)
     QStringList lines;
     if (withTitles) {
         QStringList titles;
-        for (const int column : columns) {
+        for (const int column : qAsConst(columns)) {
             titles += quoted(model->headerData(column, Qt::Horizontal).toString());
         }
         lines += titles.join('\t');
     }
-    for (const auto& row : texts) {
+    for (const auto& row : qAsConst(texts)) {
         QStringList line;
-        for (const int column : columns) {
+        for (const int column : qAsConst(columns)) {
             line += row.value(column);
         }
         lines += line.join('\t');

@@ -1,5 +1,6 @@
 #include "apps/viewer/table/ColumnSettings.h"
 
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QSettings>
 
@@ -21,7 +22,8 @@ std::optional<QVector<PropertyPath>> chosenColumns(const QString& type)
         return std::nullopt;
     }
     QVector<PropertyPath> columns;
-    for (const QJsonValue each : QJsonDocument::fromJson(text).array()) {
+    const QJsonArray records = QJsonDocument::fromJson(text).array();
+    for (const QJsonValue& each : records) {
         const PropertyPath path = pathFromJson(each.toArray());
         // Anybody may write into the settings.
         if (!path.isEmpty() && !columns.contains(path)) {

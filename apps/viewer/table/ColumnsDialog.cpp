@@ -15,7 +15,7 @@ ColumnsDialog::ColumnsDialog(const QVector<PropertyPath>& all, const QVector<Pro
     setWindowTitle(tr("Columns"));
     list->setObjectName(QStringLiteral("columns"));
     list->setAccessibleName(tr("Columns"));
-    for (const PropertyPath& path : paths) {
+    for (const PropertyPath& path : all) {
         auto* const item = new QListWidgetItem(toString(path), list);
         item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
         item->setCheckState(chosen.contains(path) ? Qt::Checked : Qt::Unchecked);

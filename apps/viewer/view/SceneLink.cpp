@@ -173,8 +173,9 @@ Slot SceneLink::slotOfRow(int row) const
 
 std::vector<Slot> SceneLink::selectedFeatures() const
 {
+    const QVector<int> rows = selectedRows(document.selection());
     std::vector<Slot> selected;
-    for (const int row : selectedRows(document.selection())) {
+    for (const int row : rows) {
         const Slot slot = slotOfRow(row);
         if (slot != noSlot) {
             selected.push_back(slot);

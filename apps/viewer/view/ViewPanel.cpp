@@ -277,7 +277,8 @@ void ViewPanel::setMeasuring(bool isMeasuring)
 /// Makes anew what is drawn of the selected features.
 void ViewPanel::resetSelected()
 {
-    for (const int row : selectedRows(document.selection())) {
+    const QVector<int> rows = selectedRows(document.selection());
+    for (const int row : rows) {
         document.model().reset(document.model().index(row, 0));
     }
 }
@@ -383,7 +384,8 @@ void ViewPanel::fillAttributes()
     const QString chosen = sceneLink->colourPath();
     attributes->clear();
     attributes->addItem(tr("Colours of the types"), QString());
-    for (const QString& path : paths.sorted()) {
+    const QStringList sorted = paths.sorted();
+    for (const QString& path : sorted) {
         attributes->addItem(path.section('/', 1), path);
     }
     if (!chosen.isEmpty() && attributes->findData(chosen) < 0) {

@@ -351,14 +351,15 @@ QMenu* MainWindow::makeFileMenu()
 void MainWindow::fillRecentFiles(QMenu& menu)
 {
     menu.clear();
-    for (const QString& path : recentFiles::list()) {
+    const QStringList paths = recentFiles::list();
+    for (const QString& path : paths) {
         // A & in a name is no mark of a key.
         QAction* const action = menu.addAction(QString(path).replace(QLatin1Char('&'), QLatin1String("&&")));
         connect(action, &QAction::triggered, this, [this, path] { open(path); });
     }
     menu.addSeparator();
-    QAction* const clear = menu.addAction(tr("&Clear List"), [] { recentFiles::clear(); });
-    clear->setEnabled(!recentFiles::list().isEmpty());
+    QAction* const clear = menu.addAction(tr("&Clear List"), this, [] { recentFiles::clear(); });
+    clear->setEnabled(!paths.isEmpty());
 }
 
 QMenu* MainWindow::makeEditMenu()
@@ -411,7 +412,7 @@ QMenu* MainWindow::makeColoursMenu()
     auto* const menu = new QMenu(tr("C&olours"), this);
     auto* const choice = new QActionGroup(menu);
     const auto add = [&](const QString& text, Colours colours) {
-        QAction* const action = menu->addAction(text, [colours] { chooseColours(colours); });
+        QAction* const action = menu->addAction(text, this, [colours] { chooseColours(colours); });
         action->setCheckable(true);
         action->setChecked(colours == chosenColours());
         choice->addAction(action);
@@ -536,15 +537,17 @@ void MainWindow::showSettings()
 {
     const QString key = QStringLiteral("viewRanges");
     QVector<double> ranges;
-    for (const QVariant& each : QSettings().value(key).toList()) {
+    const QVariantList saved = QSettings().value(key).toList();
+    for (const QVariant& each : saved) {
         ranges.append(each.toDouble());
     }
     // The dialog fills up what is missing.
     const std::unique_ptr<EditRangeDialog> dialog(shown->model().getEditRangeDialog(ranges));
     dialog->setParent(this, dialog->windowFlags());
     if (dialog->exec() == QDialog::Accepted) {
+        const QVector<double> chosen = dialog->getRanges();
         QVariantList accepted;
-        for (const double each : dialog->getRanges()) {
+        for (const double each : chosen) {
             accepted.append(each);
         }
         QSettings().setValue(key, accepted);
@@ -582,7 +585,8 @@ void MainWindow::dragEnterEvent(QDragEnterEvent* event)
 void MainWindow::dropEvent(QDropEvent* event)
 {
     MainWindow* window = this;
-    for (const QUrl& url : event->mimeData()->urls()) {
+    const QList<QUrl> urls = event->mimeData()->urls();
+    for (const QUrl& url : urls) {
         if (url.isLocalFile()) {
             (window != nullptr ? window : openNew())->open(url.toLocalFile());
             window = nullptr;
