@@ -137,7 +137,7 @@ inline std::string runReaderCase(std::string_view document, unsigned long flags)
     if (!changed.empty()) {
         return "a save changes the document:\n" + changed + "\n" + saved;
     }
-    if (const std::string problem = changesOfUnedited(document, *first); !problem.empty()) {
+    if (std::string problem = changesOfUnedited(document, *first); !problem.empty()) {
         return problem;
     }
     const Document copy(first->_clone());
@@ -198,7 +198,7 @@ inline std::string runReaderCase(std::string_view document)
 {
     for (const unsigned long flags :
          {0ul, static_cast<unsigned long>(xsd::cxx::tree::flags::dont_validate)}) {
-        const std::string problem = runReaderCase(document, flags);
+        std::string problem = runReaderCase(document, flags);
         if (!problem.empty()) {
             return problem;
         }
