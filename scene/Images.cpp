@@ -87,7 +87,7 @@ QString DocumentFolder::find(const QString& uri) const
     for (const QString& folder : folders) {
         // Links and steps upwards are resolved before it is asked where the file lies.
         const QFileInfo file(QDir(folder).absoluteFilePath(path));
-        const QString found = file.canonicalFilePath();
+        QString found = file.canonicalFilePath();
         const bool isInside = std::any_of(folders.begin(), folders.end(), [&found](const QString& allowed) {
             return isBelow(found, allowed);
         });

@@ -15,7 +15,7 @@ using citygml::Position;
 using Corners = std::vector<Position>;
 
 /// No tree or lamp has so many bytes.
-constexpr qint64 largestFile = 256 * 1024 * 1024;
+constexpr qint64 largestFile = qint64(256) * 1024 * 1024;
 
 /// Three numbers of a line, behind its first word.
 Position readPosition(const QList<QByteArray>& words)
@@ -70,10 +70,11 @@ private:
     Corners corners;
 };
 
-/// An STL file of bytes: 80 of a title, the number of triangles, and 50 for each of these: twelve numbers,
-/// the first three of which are the normal, and two bytes more.
+/// An STL file of bytes: 80 of a title, the number of triangles, and 50 for each of these: four vectors of
+/// three numbers, the first of which is the normal, and two bytes more.
 constexpr int stlHeader = 84;
 constexpr int stlTriangle = 50;
+constexpr int stlVector = 12;
 
 bool isBinaryStl(const QByteArray& bytes)
 {
@@ -86,8 +87,8 @@ Corners readBinaryStl(const QByteArray& bytes)
 {
     Corners corners;
     for (int triangle = stlHeader; triangle < bytes.size(); triangle += stlTriangle) {
-        for (int corner = 1; corner <= 3; ++corner) {
-            const char* const numbers = bytes.constData() + triangle + 12 * corner;
+        for (int corner = triangle + stlVector; corner < triangle + 4 * stlVector; corner += stlVector) {
+            const char* const numbers = bytes.constData() + corner;
             corners.push_back({qFromLittleEndian<float>(numbers), qFromLittleEndian<float>(numbers + 4),
                                qFromLittleEndian<float>(numbers + 8)});
         }
