@@ -79,7 +79,11 @@ struct Triangulator::Tessellation
     }
 
 private:
-    static void* toData(std::size_t corner) { return reinterpret_cast<void*>(corner + 1); }
+    static void* toData(std::size_t corner)
+    {
+        // NOLINTNEXTLINE(performance-no-int-to-ptr): it is handed back as it is, and never followed
+        return reinterpret_cast<void*>(corner + 1);
+    }
     static std::uint32_t toCorner(void* data)
     {
         return static_cast<std::uint32_t>(reinterpret_cast<std::size_t>(data) - 1);
@@ -125,6 +129,7 @@ bool Triangulator::triangulate(const std::vector<Position>& positions, const std
     corners.clear();
     crossed.clear();
     std::vector<Ring> rings;
+    rings.reserve(runs.size());
     for (const PositionRun& run : runs) {
         rings.push_back(distinctCorners(run));
     }
