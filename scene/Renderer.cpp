@@ -190,12 +190,17 @@ void Renderer::run(osgUtil::SceneView& view)
     scene.features().update();
     // The host binds and draws in the same context. Modes it leaves alone.
     state->dirtyAllAttributes();
-    state->dirtyAllVertexArrays();
     state->setLastAppliedProgramObject(nullptr);
     view.getFrameStamp()->setFrameNumber(view.getFrameStamp()->getFrameNumber() + 1);
     view.cull();
     view.draw();
     state->apply();
+    // The state remembers arrays and buffers by their addresses, where others may come to stand when tiles
+    // go: it would take them for what is bound already.
+    state->lazyDisablingOfVertexAttributes();
+    state->applyDisablingOfVertexAttributes();
+    state->unbindVertexBufferObject();
+    state->unbindElementBufferObject();
     osg::flushAllDeletedGLObjects(state->getContextID());
 }
 

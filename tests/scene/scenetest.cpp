@@ -9,6 +9,7 @@
 #include "support/TestClass.h"
 #include "support/TestPaths.h"
 
+#include <osg/GLExtensions>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -85,6 +86,7 @@ private slots:
     void picturesOutsideOfTheFolderAreNotRead();
     void whatIsAddedLaterIsDrawn();
     void nothingIsLeftOfAClearedDocument();
+    void aPictureLeavesNoArraysBound();
     void aSectionCutsAway();
     void aPictureCanHaveNoBackground();
     void placesAreFoundByPixel();
@@ -429,6 +431,29 @@ void SceneTest::nothingIsLeftOfAClearedDocument()
     QCOMPARE(coloursIn(fixture.picture()), 1);
     QCOMPARE(fixture.features().size(), std::size_t(0));
     QVERIFY(!fixture.hasContent());
+}
+
+/// Neither for the host, which draws in the same context, nor for tiles that come later.
+void SceneTest::aPictureLeavesNoArraysBound()
+{
+    const DocumentFile file(
+        documentText(buildingMember(multiSurface("lod2MultiSurface", square("p", 0, 0)), "one")));
+    SceneFixture fixture(file.path());
+    QVERIFY(coloursIn(fixture.picture()) > 1);
+    for (const GLenum binding : {GL_ARRAY_BUFFER_BINDING, GL_ELEMENT_ARRAY_BUFFER_BINDING}) {
+        GLint buffer = -1;
+        glGetIntegerv(binding, &buffer);
+        QCOMPARE(buffer, 0);
+    }
+    QVERIFY(!glIsEnabled(GL_VERTEX_ARRAY));
+    const auto* const gl = osg::GLExtensions::Get(0, true);
+    GLint attributes = 0;
+    glGetIntegerv(GL_MAX_VERTEX_ATTRIBS, &attributes);
+    for (int i = 0; i < attributes; ++i) {
+        GLint isEnabled = -1;
+        gl->glGetVertexAttribiv(static_cast<GLuint>(i), GL_VERTEX_ATTRIB_ARRAY_ENABLED, &isEnabled);
+        QCOMPARE(isEnabled, 0);
+    }
 }
 
 void SceneTest::aSectionCutsAway()
