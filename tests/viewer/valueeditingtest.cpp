@@ -130,6 +130,46 @@ private slots:
         QCOMPARE(panel.saved(), before);
     }
 
+    void aListIsEmptied_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QByteArray>("former");
+        QTest::addColumn<QByteArray>("empty");
+        QTest::newRow("elements") << "Fields/Function" << QByteArray("<bldg:function") << QByteArray();
+        QTest::newRow("one element") << "Fields/StoreyHeightsAboveGround" << QByteArray(">3.2 3<")
+                                     << QByteArray("<bldg:storeyHeightsAboveGround uom=\"m\"/>");
+    }
+
+    void aListIsEmptied()
+    {
+        QFETCH(QString, path);
+        QFETCH(QByteArray, former);
+        QFETCH(QByteArray, empty);
+        ShownPanel panel(documentWithBuilding(manyAttributes));
+        const QByteArray before = panel.saved();
+        QVERIFY(before.contains(former));
+        auto* const list = qobject_cast<ListEditor*>(openEditor(panel.view(), panel.cell(path)));
+        QVERIFY(list != nullptr);
+        auto* const table = list->findChild<QTableWidget*>();
+        table->setCurrentCell(1, 0);
+        QVERIFY(list->isAncestorOf(QApplication::focusWidget()));
+        while (table->rowCount() > 0) {
+            QTest::mouseClick(list->findChild<QToolButton*>("removeEntry"), Qt::LeftButton);
+            QCOMPARE(editorIn(panel.view()), list);
+        }
+        QTest::mouseClick(list->findChild<QToolButton*>("finish"), Qt::LeftButton);
+        QTest::qWait(10);
+        QCOMPARE(panel.message(), QString());
+        QVERIFY(!panel.saved().contains(former));
+        QVERIFY2(panel.saved().contains(empty), panel.saved());
+        QCOMPARE(panel.stack().count(), 1);
+        panel.undo();
+        QCOMPARE(panel.saved(), before);
+        QTRY_VERIFY(panel.cell(path).isValid());
+        panel.stack().redo();
+        QVERIFY(!panel.saved().contains(former));
+    }
+
     void aPositionIsEdited()
     {
         ShownPanel panel(
@@ -355,9 +395,9 @@ private slots:
         auto* const table = list->findChild<QTableWidget*>();
         QCOMPARE(table->rowCount(), 2);
         table->item(1, 0)->setText("2.75");
-        list->findChild<QToolButton*>("moveUp")->click();
+        QTest::mouseClick(list->findChild<QToolButton*>("moveUp"), Qt::LeftButton);
         table->setCurrentCell(1, 0);
-        list->findChild<QToolButton*>("moveUp")->click();
+        QTest::mouseClick(list->findChild<QToolButton*>("moveUp"), Qt::LeftButton);
         // The cursor goes with the entry.
         QCOMPARE(table->currentRow(), 0);
         QTest::mouseClick(list->findChild<QToolButton*>("finish"), Qt::LeftButton);

@@ -20,6 +20,8 @@ ListEditor::ListEditor(const ValueText& text, QWidget* parent)
     table->setSelectionMode(QAbstractItemView::SingleSelection);
     table->setEditTriggers(QAbstractItemView::AllEditTriggers);
     setFocusProxy(table);
+    // A click beside the table, or on a button, is no click on the view behind.
+    setFocusPolicy(Qt::ClickFocus);
 
     auto* const buttons = new QHBoxLayout;
     buttons->setSpacing(2);

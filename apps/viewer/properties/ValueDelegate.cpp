@@ -223,8 +223,13 @@ bool ValueDelegate::enterFrom(QWidget* editor, bool evenUnchanged)
 
 void ValueDelegate::enterAndClose(QWidget* editor, EndEditHint hint)
 {
+    if (!editor->property(indexName).isValid()) {
+        // It is being closed, and so loses the keyboard.
+        return;
+    }
     const QPointer<QWidget> held = editor;
     if (enterFrom(editor, true) && held != nullptr) {
+        editor->setProperty(indexName, QVariant());
         emit closeEditor(editor, hint);
     }
 }
