@@ -163,6 +163,47 @@ private slots:
         QCOMPARE(panel.saved(), before);
     }
 
+    /// An attribute gets the name of one of another type: both are there, each with its own value.
+    void attributesOfOneNameStayApart()
+    {
+        ShownPanel panel(documentWithBuilding(manyAttributes));
+        const QByteArray before = panel.saved();
+        panel.view().setCurrentIndex(panel.cell("Fields/owner"));
+        answerDialog({{"", "ratio"}});
+        panel.panel.renameCurrent();
+        QTRY_COMPARE(panel.text("Fields/ratio"), "Guild");
+        QCOMPARE(panel.text("Fields/ratio[2]"), "1.5");
+        panel.type("Fields/ratio[2]", "2.5");
+        panel.press("Fields/ratio", Qt::Key_Delete);
+        QVERIFY2(!panel.saved().contains("stringAttribute"), panel.saved());
+        QVERIFY(panel.saved().contains("<gen:doubleAttribute name=\"ratio\">"));
+        QCOMPARE(panel.text("Fields/ratio"), "2.5");
+        for (int i = 0; i < 3; ++i) {
+            panel.undo();
+        }
+        QCOMPARE(panel.saved(), before);
+    }
+
+    /// What several features have in common is of one type: an edit goes to all of them.
+    void attributesOfOneNameAndSeveralTypesAreNotCommon()
+    {
+        const auto note = [](const QByteArray& type) {
+            return "<gen:" + type + "Attribute name=\"note\"><gen:value>7</gen:value></gen:" + type +
+                   "Attribute>";
+        };
+        ShownPanel panel(documentText(buildingMember(note("string"), "a") + buildingMember(note("int"), "b") +
+                                      buildingMember(note("string"), "c") +
+                                      buildingMember("<gen:genericAttributeSet name=\"note\"/>", "d")),
+                         {"a", "c"});
+        QTRY_COMPARE(panel.text("Fields/note"), "7");
+        for (const QStringList& several : {QStringList{"a", "b"}, {"b", "a"}, {"a", "d"}, {"d", "a"}}) {
+            panel.fixture.select(several);
+            QTRY_VERIFY(panel.panel.isComplete());
+            QVERIFY(panel.cell("Fields/Id").isValid());
+            QVERIFY(!panel.cell("Fields/note").isValid());
+        }
+    }
+
     void setsOfAttributesComeAndGo()
     {
         const QByteArray inner = "<gen:genericAttributeSet name=\"terms\"><gen:stringAttribute name=\"b\">"

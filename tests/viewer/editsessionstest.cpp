@@ -60,7 +60,7 @@ private:
         const MemberPlace place{MemberPlace::Property, node.path()};
         const int choice = random.bounded(4);
         const PropertyEdit::Action action = choice > 1                 ? PropertyEdit::SetValue
-                                            : !node.isGenericAttribute ? PropertyEdit::MakeAbsent
+                                            : !node.isGenericAttribute() ? PropertyEdit::MakeAbsent
                                             : choice == 1              ? PropertyEdit::RemoveAttribute
                                                                        : PropertyEdit::RenameAttribute;
         const QVariant value = action == PropertyEdit::SetValue          ? valueFor(node)

@@ -5,6 +5,7 @@
 #include "apps/viewer/properties/AddressText.h"
 #include "citygml/MemberUnit.h"
 #include "framework/AbstractUnit.h"
+#include "gen/AbstractGenericAttributeType.hxx"
 #include "UI/Models/CityGMLModel/properties/BoundProperty.h"
 
 #include <algorithm>
@@ -31,7 +32,8 @@ void readProperty(CoreProperty& property, PropertyNode& node)
     if (const auto* const bound = dynamic_cast<const BoundProperty*>(&property)) {
         const citygml::Member member = bound->member();
         node.isPresent = member.present();
-        node.isGenericAttribute = attributeAround(member) != nullptr;
+        const gen::AbstractGenericAttributeType* const attribute = attributeAround(member);
+        node.attributeType = attribute != nullptr ? &typeid(*attribute) : nullptr;
         const bool isMeasure = property.unit() != nullptr || node.value.userType() == QMetaType::Double;
         node.isUnitEditable = node.isEditable && isMeasure && citygml::unitOf(member).has_value();
     }
@@ -99,7 +101,7 @@ void noteAttributeSets(gml::AbstractFeatureType& feature, PropertyNode& root)
     for (const auto& each : fields->children) {
         const bool isGroup = !each->isBound && !each->value.isValid() && each->summary.isEmpty() &&
                              std::all_of(each->children.begin(), each->children.end(),
-                                         [](const auto& child) { return child->isGenericAttribute; });
+                                         [](const auto& child) { return child->isGenericAttribute(); });
         each->isAttributeSet =
             isGroup && attributesOf(feature, each->step.name, each->step.occurrence).has_value();
     }
@@ -120,6 +122,13 @@ bool isSameValue(const QVariant& a, const QVariant& b)
     return a.userType() == b.userType() && a == b;
 }
 
+/// Whether an edit of one makes sense for the other: several generic attributes may have one name.
+bool isSameKind(const PropertyNode& a, const PropertyNode& b)
+{
+    return a.attributeType == b.attributeType && a.isAttributeSet == b.isAttributeSet &&
+           a.isBound == b.isBound;
+}
+
 void mergeNode(PropertyNode& node, const PropertyNode& other)
 {
     node.isDiffering = node.isDiffering || other.isDiffering || !isSameValue(node.value, other.value) ||
@@ -128,8 +137,6 @@ void mergeNode(PropertyNode& node, const PropertyNode& other)
         node.value = QVariant();
         node.summary.clear();
     }
-    node.isGenericAttribute = node.isGenericAttribute && other.isGenericAttribute;
-    node.isAttributeSet = node.isAttributeSet && other.isAttributeSet;
     node.isUnitDiffering = node.isUnitDiffering || other.isUnitDiffering || node.unit != other.unit;
     if (node.isUnitDiffering) {
         node.unit.clear();
@@ -195,7 +202,10 @@ std::unique_ptr<PropertyNode> readValues(const CityGMLModel& model, gml::Abstrac
 void mergeProperties(PropertyNode& tree, const PropertyNode& other)
 {
     auto& children = tree.children;
-    const auto isAlone = [&other](const auto& each) { return other.child(each->step) == nullptr; };
+    const auto isAlone = [&other](const auto& each) {
+        const PropertyNode* const same = other.child(each->step);
+        return same == nullptr || !isSameKind(*each, *same);
+    };
     children.erase(std::remove_if(children.begin(), children.end(), isAlone), children.end());
     for (const auto& each : children) {
         const PropertyNode& same = *other.child(each->step);

@@ -5,6 +5,7 @@
 #include <memory>
 #include <QString>
 #include <QVariant>
+#include <typeinfo>
 #include <vector>
 
 namespace tolvik::viewer {
@@ -20,17 +21,19 @@ struct PropertyNode
     QString unit;         ///< empty also where several features differ
     QString summary;      ///< for the eye, in place of a value that there is none of
     bool isBound = false; ///< whether an attribute of the document stands behind it
-    bool isEditable = false;         ///< whether that can be given a value
-    bool isPresent = true;           ///< of an attribute, whether any of the features has it
-    bool isGenericAttribute = false; ///< whether the features can do without it and its name
-    bool isDiffering = false;        ///< whether the features have different values
-    bool isAttributeSet = false;     ///< whether it is the group of a set of generic attributes
-    bool isUnitEditable = false;     ///< whether it is a measure, whose unit can be changed
-    bool isUnitDiffering = false;    ///< whether the features have different units
+    bool isEditable = false; ///< whether that can be given a value
+    bool isPresent = true;   ///< of an attribute, whether any of the features has it
+    /// The class of a generic attribute, which the features can do without; null for any other property.
+    const std::type_info* attributeType = nullptr;
+    bool isDiffering = false;     ///< whether the features have different values
+    bool isAttributeSet = false;  ///< whether it is the group of a set of generic attributes
+    bool isUnitEditable = false;  ///< whether it is a measure, whose unit can be changed
+    bool isUnitDiffering = false; ///< whether the features have different units
 
     PropertyNode* parent = nullptr;
     std::vector<std::unique_ptr<PropertyNode>> children;
 
+    bool isGenericAttribute() const { return attributeType != nullptr; }
     PropertyPath path() const;
     /// The place among the nodes beside it.
     int row() const;
@@ -44,7 +47,7 @@ std::unique_ptr<PropertyNode> readProperties(const CityGMLModel& model, gml::Abs
 /// The same for mergeProperties(), without what editors start from.
 std::unique_ptr<PropertyNode> readValues(const CityGMLModel& model, gml::AbstractFeatureType& feature);
 
-/// Leaves of a tree what a second one has too, and notes where the values differ.
+/// Leaves of a tree what a second one has too, of the same type, and notes where the values differ.
 void mergeProperties(PropertyNode& tree, const PropertyNode& other);
 
 } // namespace tolvik::viewer

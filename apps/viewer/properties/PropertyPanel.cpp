@@ -42,7 +42,7 @@ QString wholeTextOf(const QModelIndex& cell)
 /// Whether it is a generic attribute or a set of them, which the features can do without.
 bool canBeRenamed(const PropertyNode& node)
 {
-    return node.isGenericAttribute || node.isAttributeSet;
+    return node.isGenericAttribute() || node.isAttributeSet;
 }
 
 } // namespace

@@ -204,7 +204,7 @@ void PropertyTreeModel::takeValues(PropertyNode& node, const PropertyNode& wante
     node.isBound = wanted.isBound;
     node.isEditable = wanted.isEditable;
     node.isPresent = wanted.isPresent;
-    node.isGenericAttribute = wanted.isGenericAttribute;
+    node.attributeType = wanted.attributeType;
     node.isDiffering = wanted.isDiffering;
     node.isAttributeSet = wanted.isAttributeSet;
     node.isUnitEditable = wanted.isUnitEditable;
