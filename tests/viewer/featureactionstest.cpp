@@ -215,6 +215,28 @@ private slots:
         QVERIFY(opened->window->statusBar()->currentMessage().contains("refers to no other feature"));
     }
 
+    void whatIsNeededCannotBeRemoved()
+    {
+        writeFile(
+            opened->path("hill.gml"),
+            documentText("<core:cityObjectMember><dem:ReliefFeature "
+                         "xmlns:dem='http://www.opengis.net/citygml/relief/2.0' gml:id='hill'>"
+                         "<dem:lod>1</dem:lod><dem:reliefComponent><dem:MassPointRelief gml:id='points'>"
+                         "<dem:lod>1</dem:lod></dem:MassPointRelief></dem:reliefComponent>"
+                         "</dem:ReliefFeature></core:cityObjectMember>"));
+        QVERIFY(opened->open(opened->path("hill.gml")));
+        opened->select({"points"});
+        opened->action("removeFeature")->trigger();
+        QVERIFY(opened->window->statusBar()->currentMessage().contains(
+            "MassPointRelief points cannot be removed"));
+        QVERIFY(opened->row("points") > 0);
+        QVERIFY(!opened->document().isModified());
+        opened->select({"hill"});
+        opened->action("removeFeature")->trigger();
+        QCOMPARE(opened->document().model().rowCount(), 1);
+        QCOMPARE(opened->document().undoStack().undoText(), QString("remove ReliefFeature hill"));
+    }
+
     /// A document may come from anywhere, and a file that is opened may be a program.
     void onlyLinksOfTheWebAreOpened()
     {

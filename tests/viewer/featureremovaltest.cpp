@@ -4,6 +4,7 @@
 #include "support/TestClass.h"
 
 #include <QAbstractItemModelTester>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QtTest>
 
@@ -22,6 +23,19 @@ QByteArray town()
         buildingMember("", "a") + "<!--behind a-->" + buildingMember(part, "b") +
         buildingMember("<bldg:class>2</bldg:class>", "") +
         buildingMember(part.simplified().replace("'part'", "'q'").replace("'wall'", "'w'"), ""));
+}
+
+QByteArray relief(const QByteArray& id, const QByteArray& components)
+{
+    return "<core:cityObjectMember><dem:ReliefFeature xmlns:dem='http://www.opengis.net/citygml/relief/2.0' "
+           "gml:id='" +
+           id + "'><dem:lod>1</dem:lod>" + components + "</dem:ReliefFeature></core:cityObjectMember>";
+}
+
+QByteArray reliefComponent(const QByteArray& id)
+{
+    return "<dem:reliefComponent><dem:MassPointRelief gml:id='" + id +
+           "'><dem:lod>1</dem:lod></dem:MassPointRelief></dem:reliefComponent>";
 }
 
 QStringList idsOf(tolvik::viewer::Document& document)
@@ -165,6 +179,37 @@ private slots:
         PanelFixture fixture(town());
         QVERIFY(!remove(fixture, {fixture.document().model().getFeature(0)}));
         QCOMPARE(fixture.document().undoStack().count(), 0);
+    }
+
+    /// A relief has one component at least.
+    void whatIsNeededStays()
+    {
+        PanelFixture fixture(documentText(relief("hill", reliefComponent("one") + reliefComponent("two"))));
+        const QByteArray before = fixture.saved();
+        QVERIFY(!remove(fixture, {&fixture.feature("one"), &fixture.feature("two")}));
+        QCOMPARE(fixture.saved(), before);
+        QVERIFY(remove(fixture, {&fixture.feature("one")}));
+        QVERIFY(!remove(fixture, {&fixture.feature("two")}));
+        QVERIFY(fixture.saved().contains("gml:id=\"two\""));
+        QVERIFY(remove(fixture, {&fixture.feature("two"), &fixture.feature("hill")}));
+        QVERIFY(!fixture.saved().contains("Relief"));
+        fixture.document().undoStack().undo();
+        fixture.document().undoStack().undo();
+        QCOMPARE(fixture.saved(), before);
+    }
+
+    /// A record may have been changed, or be of another document.
+    void aRecordOfWhatIsNotThereIsRefused()
+    {
+        FeatureRemoval::addMaker();
+        PanelFixture fixture(town());
+        const QByteArray before = fixture.saved();
+        const int rows = fixture.document().model().rowCount();
+        for (const int step : {-1, rows, rows + 1}) {
+            const QJsonObject record{{"features", QJsonArray{QJsonArray{"", step}}}};
+            QVERIFY(RecordedEdit::make("removal", fixture.document(), record) == nullptr);
+        }
+        QCOMPARE(fixture.saved(), before);
     }
 
     void aRemovalIsRecordedAndMadeAgain()

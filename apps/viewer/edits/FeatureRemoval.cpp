@@ -4,6 +4,7 @@
 #include "apps/viewer/features/FeatureTexts.h"
 #include "citygml/CityGMLFeaturesFillVisitor.h"
 #include "core/CityModelType.hxx"
+#include "dem/ReliefFeatureType.hxx"
 #include "gml/AbstractFeatureType.hxx"
 
 #include <algorithm>
@@ -33,6 +34,14 @@ citygml::Member memberToLeave(gml::AbstractFeatureType& feature)
         return inside;
     }
     return citygml::Member::holding(inside.object());
+}
+
+/// Whether the schema demands something in the member. Of the lists that hold features there is one in which
+/// it does.
+bool isNeeded(const citygml::Member& entry)
+{
+    return entry.isRequired() || (dynamic_cast<const dem::ReliefFeatureType*>(&entry.object()) != nullptr &&
+                                  entry.name() == "reliefComponent");
 }
 
 bool isInside(const gml::AbstractFeatureType& feature,
@@ -113,7 +122,7 @@ FeatureRemoval::FeatureRemoval(Document& document, Features features)
       chosen(this->features.begin(), this->features.end())
 {
     setText(this->features.size() == 1
-                ? tr("remove %1 %2").arg(typeOf(*this->features.front()), nameOf(*this->features.front()))
+                ? tr("remove %1").arg(descriptionOf(*this->features.front()))
                 : tr("remove %n feature(s)", nullptr, static_cast<int>(this->features.size())));
 }
 
@@ -176,6 +185,7 @@ void FeatureRemoval::endWalk()
 {
     features = Features();
     chosen.clear();
+    leaving.clear();
     located.reset();
     going.clear();
     coming.clear();
@@ -203,10 +213,8 @@ QString FeatureRemoval::find(std::size_t number)
     }
     const citygml::Member entry = memberToLeave(*feature);
     auto* const owner = dynamic_cast<gml::AbstractFeatureType*>(&entry.object());
-    const bool isNeeded = entry.isRequired() && entry.list().size() == 1;
-    if (owner == nullptr || isNeeded) {
-        return tr("%1 %2 cannot be removed, as what stands around it needs it.")
-            .arg(typeOf(*feature), nameOf(*feature));
+    if (owner == nullptr || (isNeeded(entry) && isLastToGo(entry))) {
+        return tr("%1 cannot be removed, as what stands around it needs it.").arg(descriptionOf(*feature));
     }
     all.push_back({locator().addressOf(*feature),
                    locator().addressOf(*owner),
@@ -216,6 +224,12 @@ QString FeatureRemoval::find(std::size_t number)
                    false});
     rows += collectRows(feature, all.size() - 1);
     return QString();
+}
+
+/// Whether nothing is left of the entry's list when all go that are to go. To be asked once for each entry.
+bool FeatureRemoval::isLastToGo(const citygml::Member& entry)
+{
+    return ++leaving[{&entry.object(), entry.name()}] == entry.list().size();
 }
 
 /// Finds a feature that is to go once more.

@@ -4,10 +4,12 @@
 #include "apps/viewer/edits/FeatureAddress.h"
 #include "citygml/Member.h"
 
+#include <map>
 #include <memory>
 #include <QCoreApplication>
 #include <QString>
 #include <unordered_set>
+#include <utility>
 #include <vector>
 
 namespace tolvik::viewer {
@@ -72,6 +74,7 @@ private:
 
     FeatureRemoval(Document& document, Features features);
     QString find(std::size_t number);
+    bool isLastToGo(const citygml::Member& entry);
     void locate(std::size_t number);
     std::size_t collectRows(gml::AbstractFeatureType* feature, std::size_t number);
     void removeNext();
@@ -91,6 +94,8 @@ private:
     /// What one walk over the features knows of them.
     /// @{
     std::unordered_set<const gml::AbstractFeatureType*> chosen;
+    /// How many entries go of each list that must not become empty.
+    std::map<std::pair<const xml_schema::type*, std::string>, std::size_t> leaving;
     std::unique_ptr<FeatureLocator> located;
     std::vector<Row> going;
     Features coming;

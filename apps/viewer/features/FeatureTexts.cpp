@@ -20,4 +20,10 @@ QString typeOf(const gml::AbstractFeatureType& feature)
     return QString::fromStdString(feature.typeLabel);
 }
 
+QString descriptionOf(const gml::AbstractFeatureType& feature)
+{
+    const QString name = nameOf(feature);
+    return (typeOf(feature) + ' ' + (name.isEmpty() ? idOf(feature) : name)).trimmed();
+}
+
 } // namespace tolvik::viewer

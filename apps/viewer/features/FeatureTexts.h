@@ -17,4 +17,7 @@ QString nameOf(const gml::AbstractFeatureType& feature);
 /// The kind, such as `Building`.
 QString typeOf(const gml::AbstractFeatureType& feature);
 
+/// The kind with the first name, or with the `gml:id` where there is no name.
+QString descriptionOf(const gml::AbstractFeatureType& feature);
+
 } // namespace tolvik::viewer

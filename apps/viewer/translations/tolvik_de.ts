@@ -743,8 +743,8 @@ height&gt;3, function=1000 für Attribute. Eingabe führt zum nächsten Treffer.
 <context>
     <name>tolvik::viewer::FeatureRemoval</name>
     <message>
-        <source>remove %1 %2</source>
-        <translation>%1 %2 entfernen</translation>
+        <source>remove %1</source>
+        <translation>%1 entfernen</translation>
     </message>
     <message numerus="yes">
         <source>remove %n feature(s)</source>
@@ -758,8 +758,8 @@ height&gt;3, function=1000 für Attribute. Eingabe führt zum nächsten Treffer.
         <translation>Das Dokument selbst kann nicht entfernt werden.</translation>
     </message>
     <message>
-        <source>%1 %2 cannot be removed, as what stands around it needs it.</source>
-        <translation>%1 %2 kann nicht entfernt werden, da das Umgebende es braucht.</translation>
+        <source>%1 cannot be removed, as what stands around it needs it.</source>
+        <translation>%1 kann nicht entfernt werden, da das Umgebende es braucht.</translation>
     </message>
 </context>
 <context>

@@ -743,8 +743,8 @@ height&gt;3, function=1000 pour les attributs. Entrée mène au résultat suivan
 <context>
     <name>tolvik::viewer::FeatureRemoval</name>
     <message>
-        <source>remove %1 %2</source>
-        <translation>supprimer %1 %2</translation>
+        <source>remove %1</source>
+        <translation>supprimer %1</translation>
     </message>
     <message numerus="yes">
         <source>remove %n feature(s)</source>
@@ -758,8 +758,8 @@ height&gt;3, function=1000 pour les attributs. Entrée mène au résultat suivan
         <translation>Le document lui-même ne peut pas être supprimé.</translation>
     </message>
     <message>
-        <source>%1 %2 cannot be removed, as what stands around it needs it.</source>
-        <translation>%1 %2 ne peut pas être supprimé : ce qui l’entoure en a besoin.</translation>
+        <source>%1 cannot be removed, as what stands around it needs it.</source>
+        <translation>%1 ne peut pas être supprimé : ce qui l’entoure en a besoin.</translation>
     </message>
 </context>
 <context>

@@ -182,12 +182,9 @@ void MainWindow::showReferrers(int row, const QVector<int>& referring)
                              messageMilliseconds);
 }
 
-/// Type and name of a feature, or its identifier where it has no name.
 QString MainWindow::describe(int row) const
 {
-    const gml::AbstractFeatureType& feature = *shown->model().getFeature(row);
-    const QString name = nameOf(feature);
-    return typeOf(feature) + QLatin1Char(' ') + (name.isEmpty() ? idOf(feature) : name);
+    return descriptionOf(*shown->model().getFeature(row));
 }
 
 QWidget* MainWindow::makeMiddle()
