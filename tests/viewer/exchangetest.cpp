@@ -172,7 +172,7 @@ private:
         const QJsonObject record = step.record();
         history.undo();
         QCOMPARE(saved(), before);
-        history.push(RecordedEdit::make(kind, opened->document(), record).release());
+        history.push(SlicedEdit::remake(kind, opened->document(), record).release());
         QCOMPARE(saved(), after);
     }
 
@@ -255,7 +255,7 @@ private slots:
         const QJsonObject record = step.record();
         document.undoStack().undo();
         QVERIFY(saved() != after);
-        document.undoStack().push(RecordedEdit::make(kind, document, record).release());
+        document.undoStack().push(SlicedEdit::remake(kind, document, record).release());
         QCOMPARE(saved(), after);
     }
 

@@ -207,7 +207,7 @@ private slots:
         const int rows = fixture.document().model().rowCount();
         for (const int step : {-1, rows, rows + 1}) {
             const QJsonObject record{{"features", QJsonArray{QJsonArray{"", step}}}};
-            QVERIFY(RecordedEdit::make("removal", fixture.document(), record) == nullptr);
+            QVERIFY(SlicedEdit::remake("removal", fixture.document(), record) == nullptr);
         }
         QCOMPARE(fixture.saved(), before);
     }
@@ -220,7 +220,7 @@ private slots:
         const auto* const edit = dynamic_cast<const RecordedEdit*>(fixture.document().undoStack().command(0));
         PanelFixture other(town());
         const QByteArray before = other.saved();
-        auto made = RecordedEdit::make(edit->kind(), other.document(), edit->record());
+        auto made = SlicedEdit::remake(edit->kind(), other.document(), edit->record());
         QVERIFY(made != nullptr);
         other.document().undoStack().push(made.release());
         QCOMPARE(other.saved(), fixture.saved());

@@ -150,7 +150,7 @@ private slots:
             QVERIFY(edit != nullptr);
             const QJsonObject record =
                 QJsonDocument::fromJson(QJsonDocument(edit->record()).toJson()).object();
-            auto made = RecordedEdit::make(edit->kind(), other.fixture.document(), record);
+            auto made = SlicedEdit::remake(edit->kind(), other.fixture.document(), record);
             QVERIFY(made != nullptr);
             other.stack().push(made.release());
         }

@@ -1,13 +1,17 @@
 #include "apps/viewer/recovery/Recovery.h"
 #include "apps/viewer/document/Document.h"
 #include "apps/viewer/document/RecordedEdit.h"
+#include "apps/viewer/edits/PropertyEdit.h"
+#include "apps/viewer/files/FileCommands.h"
 #include "apps/viewer/recovery/Journal.h"
+#include "support/Documents.h"
 #include "support/Files.h"
 #include "support/PanelFixture.h"
 #include "support/TestClass.h"
 #include "support/TestPaths.h"
 #include "viewer/OpenedWindow.h"
 
+#include <algorithm>
 #include <csignal>
 #include <QDir>
 #include <QLabel>
@@ -23,7 +27,7 @@ namespace {
 class Renaming : public RecordedEdit
 {
 public:
-    Renaming(Document& document, QJsonObject what)
+    Renaming(tolvik::viewer::Document& document, QJsonObject what)
         : document(document), what(std::move(what)), former(name().data().toString())
     {
         setText("rename");
@@ -37,14 +41,38 @@ public:
 private:
     QModelIndex name() const { return document.model().index(what.value("row").toInt(), 0); }
 
-    Document& document;
+    tolvik::viewer::Document& document;
     const QJsonObject what;
     const QString former;
 };
 
-void rename(Document& document, int row, const QString& name)
+void rename(tolvik::viewer::Document& document, int row, const QString& name)
 {
     document.undoStack().push(new Renaming(document, {{"row", row}, {"name", name}}));
+}
+
+constexpr int buildings = 1000;
+// A slice has some steps, however short it is.
+constexpr int slicesOfEdit = buildings / 100;
+
+QByteArray street()
+{
+    QByteArray members;
+    for (int i = 0; i < buildings; ++i) {
+        members += buildingMember("<gml:description>old</gml:description>", "b" + QByteArray::number(i));
+    }
+    return documentText(members);
+}
+
+/// Gives all buildings of the street a description.
+std::unique_ptr<PropertyEdit> describing(tolvik::viewer::Document& document, const QString& text)
+{
+    PropertyEdit::Features features;
+    for (int row = 1; row < document.model().rowCount(); ++row) {
+        features.push_back(document.model().getFeature(row));
+    }
+    return PropertyEdit::prepare(document, features, PropertyEdit::SetValue,
+                                 {MemberPlace::Property, {{"Fields", 1}, {"Description", 1}}}, text);
 }
 
 QStringList journals()
@@ -67,9 +95,10 @@ class RecoveryTest : public QObject
 private slots:
     void initTestCase()
     {
-        RecordedEdit::addMaker("test renaming", [](Document& document, const QJsonObject& record) {
-            return std::unique_ptr<RecordedEdit>(new Renaming(document, record));
-        });
+        RecordedEdit::addMaker("test renaming",
+                               [](tolvik::viewer::Document& document, const QJsonObject& record) {
+                                   return std::unique_ptr<RecordedEdit>(new Renaming(document, record));
+                               });
     }
 
     void init()
@@ -149,6 +178,89 @@ private slots:
         QCOMPARE(name(opened, 1), QString("One"));
     }
 
+    /// As the one before, with edits of so many features that each takes slices: the second one is undone.
+    void aLargeSessionThatIsKilled()
+    {
+        if (!qEnvironmentVariableIsSet(victim)) {
+            return;
+        }
+        OpenedWindow opened(QString{});
+        opened.open(qEnvironmentVariable(victim));
+        EditRunner& runner = opened.document().editRunner();
+        for (const char* const text : {"new", "newer"}) {
+            QCOMPARE(runner.perform(describing(opened.document(), text)), QString());
+            QTRY_VERIFY(!runner.isRunning());
+        }
+        runner.undo();
+        QTRY_VERIFY(!runner.isRunning());
+        QTRY_VERIFY(!journals().isEmpty());
+        ::raise(SIGKILL);
+    }
+
+    void editsOfManyFeaturesAreDoneAgainInSlices()
+    {
+        QVERIFY(killLarge());
+        OpenedWindow opened(QString{});
+        offer(opened);
+        EditRunner& runner = opened.document().editRunner();
+        QVector<int> parts;
+        QString refusal;
+        connect(&runner, &EditRunner::progressed, opened.window.get(), [&](int done) {
+            parts.append(done);
+            if (parts.size() > 1 && refusal.isEmpty()) {
+                // Nobody else edits or saves meanwhile.
+                refusal = runner.perform(describing(opened.document(), "mine"));
+                runner.undo();
+                QVERIFY(!opened.window->files().save());
+                QVERIFY(!opened.window->close());
+            }
+        });
+        recover(opened);
+        QVERIFY(!refusal.isEmpty());
+        QVERIFY(parts.size() > 3 * slicesOfEdit);
+        QVERIFY(std::is_sorted(parts.begin(), parts.end()));
+        QCOMPARE(opened.document().undoStack().count(), 2);
+        QCOMPARE(opened.document().undoStack().index(), 1);
+        QCOMPARE(saved(opened).count(">new</gml:description>"), buildings);
+        runner.undo();
+        QTRY_VERIFY(!runner.isRunning());
+        QCOMPARE(saved(opened), street());
+    }
+
+    void aRecoveryIsCancelledWithinAnEdit_data()
+    {
+        QTest::addColumn<double>("when");
+        QTest::addColumn<int>("edits");
+        QTest::addColumn<QByteArray>("text");
+        QTest::newRow("in the first edit") << 0.2 << 0 << QByteArray("old");
+        QTest::newRow("in the second edit") << 0.5 << 1 << QByteArray("new");
+        QTest::newRow("in the undo") << 0.8 << 2 << QByteArray("newer");
+    }
+
+    /// What was under way is taken back, and those before stay.
+    void aRecoveryIsCancelledWithinAnEdit()
+    {
+        QFETCH(double, when);
+        QFETCH(int, edits);
+        QFETCH(QByteArray, text);
+        QVERIFY(killLarge());
+        OpenedWindow opened(QString{});
+        offer(opened);
+        EditRunner& runner = opened.document().editRunner();
+        connect(&runner, &EditRunner::progressed, opened.window.get(), [&](int done, int count) {
+            if (done > when * count) {
+                QMetaObject::invokeMethod(&runner, &EditRunner::cancel, Qt::QueuedConnection);
+            }
+        });
+        recover(opened);
+        QVERIFY2(notice(opened).contains("cancelled"), qPrintable(notice(opened)));
+        QCOMPARE(opened.document().undoStack().count(), edits);
+        QCOMPARE(opened.document().undoStack().index(), edits);
+        QCOMPARE(saved(opened).count('>' + text + "</gml:description>"), buildings);
+        // The journal is there until it is discarded.
+        QCOMPARE(journals().size(), 1);
+    }
+
     void anotherFileIsRefused_data()
     {
         QTest::addColumn<QByteArray>("name");
@@ -194,16 +306,18 @@ private slots:
 private:
     QString file() const { return folder.filePath("killed.gml"); }
 
-    bool kill()
+    bool kill() { return kill(contentOf(examples() + "/district.gml"), "aSessionThatIsKilled"); }
+    bool killLarge() { return kill(street(), "aLargeSessionThatIsKilled"); }
+
+    /// Lets a session in a process of its own edit a document.
+    bool kill(const QByteArray& document, const QString& session)
     {
-        QFile::remove(file());
-        QFile::copy(examples() + "/district.gml", file());
-        QFile::setPermissions(file(), QFile::ReadOwner | QFile::WriteOwner);
+        writeFile(file(), document);
         QProcess process;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(victim, file());
         process.setProcessEnvironment(environment);
-        process.start(QCoreApplication::applicationFilePath(), {"aSessionThatIsKilled"});
+        process.start(QCoreApplication::applicationFilePath(), {session});
         return process.waitForFinished(longest) && process.exitStatus() == QProcess::CrashExit &&
                journals().size() == 1;
     }
@@ -217,11 +331,17 @@ private:
 
     static void recover(OpenedWindow& opened)
     {
+        opened.document().editRunner().setSliceLength(std::chrono::milliseconds(0));
         QSignalSpy done(&opened.document().editRunner(), &EditRunner::ended);
         opened.button("recover")->click();
         QTRY_COMPARE(done.count(), 1);
     }
 
+    static QByteArray saved(OpenedWindow& opened)
+    {
+        opened.window->files().save();
+        return contentOf(opened.document().fileName());
+    }
     static QString notice(const OpenedWindow& opened)
     {
         return opened.window->findChild<QLabel*>("noticeText")->text();

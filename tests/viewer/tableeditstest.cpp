@@ -169,7 +169,7 @@ private slots:
         edit->redo();
         QCOMPARE(program.saved(), after);
         edit->undo();
-        QVERIFY(RecordedEdit::make(edit->kind(), program.document(), record) != nullptr);
+        QVERIFY(SlicedEdit::remake(edit->kind(), program.document(), record) != nullptr);
         QCOMPARE(program.saved(), after);
     }
 

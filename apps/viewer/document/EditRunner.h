@@ -6,10 +6,19 @@
 #include <chrono>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <QObject>
 #include <QUndoStack>
 
 namespace tolvik::viewer {
+
+/// A step of a replay: an edit that is yet to be done, or a place in the history to go to. Where it is
+/// neither, the edit does not fit the document.
+struct ReplayStep
+{
+    std::unique_ptr<RecordedEdit> edit;
+    std::optional<int> index = {}; ///< number of edits that are done after the step
+};
 
 /// Makes edits of a document as steps of its history, and goes back and forth in that. What concerns many
 /// features goes in slices, so that the window stays alive, and can be cancelled: then all is as it was.
@@ -31,17 +40,17 @@ public:
     QString perform(std::unique_ptr<SlicedEdit> next);
 
     /// Has edits made that are steps of the history each, as if a user made them one after the other. A
-    /// cancelled one leaves those that were made.
-    /// \param step makes the edit of a number, from 0 on, and answers why that cannot be; the last one then
-    /// \param end  called once with that answer, empty where all were made
-    void replay(int steps, const std::function<QString(int)>& step,
+    /// cancelled one leaves those that were made, and so does one of which a step cannot be made.
+    /// \param step tells the step of a number, from 0 on, when those before are made
+    /// \param end  called once with the reason why not all steps were made; empty where they were
+    void replay(int steps, const std::function<ReplayStep(int)>& step,
                 const std::function<void(const QString&)>& end);
 
     /// Gives up what is under way, where it stands: the document is about to go.
     void abandon();
 
     /// See SlicedWork::setSliceLength().
-    void setSliceLength(std::chrono::milliseconds length) { work.setSliceLength(length); }
+    void setSliceLength(std::chrono::milliseconds length);
 
 public slots:
     void undo();
@@ -59,11 +68,18 @@ signals:
     void ended(const QString& refusal);
 
 private:
+    void performInSlices(std::unique_ptr<SlicedEdit> next);
     void performStep(int number);
-    void push(std::unique_ptr<SlicedEdit> done);
-    bool turnInSlices(const QUndoCommand* command, bool isUndo);
+    bool push(std::unique_ptr<SlicedEdit> done);
+    void turn(bool isUndo);
+    bool turnInSlices(bool isUndo);
     void takeBack();
-    void end();
+    void settle(const QString& reason);
+    void takeStep(ReplayStep step);
+    void performAgain(std::unique_ptr<SlicedEdit> next);
+    void goToTarget();
+    void giveUpReplay();
+    void tellProgress(int done, int count);
 
     QUndoStack& history;
     SlicedEdit* edit = nullptr;       // what is under way
@@ -72,8 +88,15 @@ private:
     int turned = 0;       // number of its changes that are at the other end
     bool wasDone = false; // whether it was done before
     bool isTakingBack = false;
-    bool isReplaying = false;
     QString refusal;
+
+    // Of edits that are made once more, each of which may go in slices itself.
+    SlicedWork replaying;
+    bool isReplaying = false;
+    int replayed = 0; // number of the step
+    int replaySteps = 0;
+    std::optional<int> target; // of the step, where it is a place in the history
+    QString replayRefusal;
 };
 
 } // namespace tolvik::viewer

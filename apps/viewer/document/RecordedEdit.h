@@ -16,7 +16,8 @@ class Document;
 class RecordedEdit : public QUndoCommand
 {
 public:
-    /// Makes an edit of what record() wrote; null where it does not fit the document.
+    /// Makes an edit of what record() wrote, which is yet to be done; null where it does not fit the
+    /// document.
     using Maker = std::function<std::unique_ptr<RecordedEdit>(Document& document, const QJsonObject& record)>;
 
     RecordedEdit();
@@ -35,6 +36,8 @@ public:
     /// Registers the maker of a kind.
     static void addMaker(const QString& kind, const Maker& maker);
 
+    /// Makes an edit that is yet to be done: an EditRunner does a SlicedEdit, the history any other one.
+    ///
     /// \return null for a kind that nobody has registered, and where the maker refuses
     static std::unique_ptr<RecordedEdit> make(const QString& kind, Document& document,
                                               const QJsonObject& record);

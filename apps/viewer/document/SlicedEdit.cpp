@@ -4,6 +4,19 @@ namespace tolvik::viewer {
 
 SlicedEdit::~SlicedEdit() = default;
 
+std::unique_ptr<SlicedEdit> SlicedEdit::remake(const QString& kind, Document& document,
+                                               const QJsonObject& record)
+{
+    std::unique_ptr<RecordedEdit> recorded = make(kind, document, record);
+    std::unique_ptr<SlicedEdit> edit(dynamic_cast<SlicedEdit*>(recorded.get()));
+    if (edit == nullptr) {
+        return nullptr;
+    }
+    (void)recorded.release();
+    const bool isDone = edit->performAll().isEmpty() && edit->changes() > 0;
+    return isDone ? std::move(edit) : nullptr;
+}
+
 void SlicedEdit::finish(bool done)
 {
     isDone = done;

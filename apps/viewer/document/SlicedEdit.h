@@ -35,6 +35,11 @@ public:
     /// \param turned number of calls that were made
     virtual int stepsBack(int turned) const { return turned; }
 
+    /// Makes an edit of what record() wrote, and does it at once.
+    /// \return null where that cannot be done or changes nothing, and for an edit of another class
+    static std::unique_ptr<SlicedEdit> remake(const QString& kind, Document& document,
+                                              const QJsonObject& record);
+
     /// All features are at one end of the edit.
     /// \param done whether they are as the edit made them
     void finish(bool done);

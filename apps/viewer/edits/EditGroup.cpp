@@ -19,8 +19,8 @@ EditGroup::Edits editsOf(Document& document, const QJsonArray& records, QString&
 {
     EditGroup::Edits edits;
     for (const QJsonValue& each : records) {
-        std::unique_ptr<RecordedEdit> edit =
-            RecordedEdit::make(each["kind"].toString(), document, each["edit"].toObject());
+        std::unique_ptr<SlicedEdit> edit =
+            SlicedEdit::remake(each["kind"].toString(), document, each["edit"].toObject());
         if (edit == nullptr) {
             refusal = each["kind"].toString();
             return edits;
@@ -41,12 +41,10 @@ void EditGroup::addMaker()
 {
     RecordedEdit::addMaker(editGroupKind, [](Document& document, const QJsonObject& record) {
         const QJsonArray features = record["features"].toArray();
-        auto group = std::make_unique<EditGroup>(
-            record["text"].toString(), features.size(), [&document, features](int number, QString& refusal) {
-                return editsOf(document, features[number].toArray(), refusal);
-            });
-        const bool isDone = group->performAll().isEmpty();
-        return std::unique_ptr<RecordedEdit>(isDone ? std::move(group) : nullptr);
+        return std::make_unique<EditGroup>(record["text"].toString(), features.size(),
+                                           [&document, features](int number, QString& refusal) {
+                                               return editsOf(document, features[number].toArray(), refusal);
+                                           });
     });
 }
 

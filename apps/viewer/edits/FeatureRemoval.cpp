@@ -112,8 +112,7 @@ void FeatureRemoval::addMaker()
 {
     RecordedEdit::addMaker(featureRemovalKind, [](Document& document, const QJsonObject& record) {
         const Features features = FeatureLocator(document.model()).findAll(record["features"].toArray());
-        QString refusal;
-        return std::unique_ptr<RecordedEdit>(make(document, features, refusal));
+        return std::unique_ptr<RecordedEdit>(features.empty() ? nullptr : prepare(document, features));
     });
 }
 

@@ -77,14 +77,11 @@ void PropertyEdit::addMaker()
 {
     RecordedEdit::addMaker(propertyEditKind, [](Document& document, const QJsonObject& record) {
         const Features features = FeatureLocator(document.model()).findAll(record["features"].toArray());
-        if (features.empty()) {
-            return std::unique_ptr<RecordedEdit>();
-        }
-        QString refusal;
-        return std::unique_ptr<RecordedEdit>(make(document, features,
-                                                  static_cast<Action>(record["action"].toInt()),
-                                                  MemberPlace::fromJson(record["place"].toObject()),
-                                                  unpacked(record["value"].toString()), refusal));
+        return std::unique_ptr<RecordedEdit>(
+            features.empty() ? nullptr
+                             : prepare(document, features, static_cast<Action>(record["action"].toInt()),
+                                       MemberPlace::fromJson(record["place"].toObject()),
+                                       unpacked(record["value"].toString())));
     });
 }
 

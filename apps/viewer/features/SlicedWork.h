@@ -29,6 +29,8 @@ public:
     /// \param end   called once when all steps are done. It may start the next work.
     void start(int steps, Step step, End end);
     void stop();
+    /// Goes on with the next step where stop() was called.
+    void goOn() { timer.start(); }
     bool isRunning() const { return timer.isActive(); }
 
     /// How long others wait at most, as far as the steps are short: a shorter slice leaves them more time.

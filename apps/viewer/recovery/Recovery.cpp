@@ -11,6 +11,22 @@
 
 namespace tolvik::viewer {
 
+namespace {
+
+/// \param line of a journal
+ReplayStep stepOf(const QJsonObject& line, Document& target)
+{
+    const QJsonValue index = line.value(QLatin1String("index"));
+    if (index.isDouble()) {
+        return {nullptr, index.toInt()};
+    }
+    return {RecordedEdit::make(line.value(QLatin1String("kind")).toString(), target,
+                               line.value(QLatin1String("edit")).toObject()),
+            std::nullopt};
+}
+
+} // namespace
+
 std::vector<std::unique_ptr<Recovery>> Recovery::findAll()
 {
     std::vector<std::unique_ptr<Recovery>> found;
@@ -76,24 +92,7 @@ QString Recovery::refusal() const
 void Recovery::applyTo(Document& target, const std::function<void(const QString&)>& end) const
 {
     target.editRunner().replay(
-        steps.size(), [this, &target](int number) { return apply(steps[number], target); }, end);
-}
-
-/// \return why a step cannot be done, or nothing
-QString Recovery::apply(const QJsonObject& step, Document& target)
-{
-    const QJsonValue index = step.value(QLatin1String("index"));
-    if (index.isDouble()) {
-        target.undoStack().setIndex(index.toInt());
-        return QString();
-    }
-    std::unique_ptr<RecordedEdit> edit = RecordedEdit::make(
-        step.value(QLatin1String("kind")).toString(), target, step.value(QLatin1String("edit")).toObject());
-    if (edit == nullptr) {
-        return tr("an edit does not fit the document");
-    }
-    target.undoStack().push(edit.release());
-    return QString();
+        steps.size(), [this, &target](int number) { return stepOf(steps[number], target); }, end);
 }
 
 void Recovery::discard()

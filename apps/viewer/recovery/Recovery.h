@@ -46,7 +46,6 @@ public:
 private:
     Recovery(QString path, std::unique_ptr<QLockFile> lock);
     bool read();
-    static QString apply(const QJsonObject& step, Document& target);
 
     QString journal;
     std::unique_ptr<QLockFile> lock;

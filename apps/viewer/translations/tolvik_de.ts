@@ -481,6 +481,10 @@
         <source>it was cancelled</source>
         <translation>es wurde abgebrochen</translation>
     </message>
+    <message>
+        <source>an edit does not fit the document</source>
+        <translation>eine Änderung passt nicht zum Dokument</translation>
+    </message>
 </context>
 <context>
     <name>tolvik::viewer::ExportDialog</name>
@@ -1560,10 +1564,6 @@ height&gt;3, function=1000 für Attribute. Eingabe führt zum nächsten Treffer.
     <message>
         <source>the file is not the one that was edited</source>
         <translation>die Datei ist nicht die, die bearbeitet wurde</translation>
-    </message>
-    <message>
-        <source>an edit does not fit the document</source>
-        <translation>eine Änderung passt nicht zum Dokument</translation>
     </message>
 </context>
 <context>

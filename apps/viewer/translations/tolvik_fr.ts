@@ -481,6 +481,10 @@
         <source>it was cancelled</source>
         <translation>elle a été annulée</translation>
     </message>
+    <message>
+        <source>an edit does not fit the document</source>
+        <translation>une modification ne convient pas au document</translation>
+    </message>
 </context>
 <context>
     <name>tolvik::viewer::ExportDialog</name>
@@ -1560,10 +1564,6 @@ height&gt;3, function=1000 pour les attributs. Entrée mène au résultat suivan
     <message>
         <source>the file is not the one that was edited</source>
         <translation>le fichier n&apos;est pas celui qui a été modifié</translation>
-    </message>
-    <message>
-        <source>an edit does not fit the document</source>
-        <translation>une modification ne convient pas au document</translation>
     </message>
 </context>
 <context>
