@@ -210,6 +210,16 @@ private slots:
         QCOMPARE(titles(next.view()), order);
     }
 
+    /// Anybody may write into the settings.
+    void aColumnStandsOnce()
+    {
+        QSettings().setValue(
+            "table/columns/Building",
+            R"([[["Fields",1],["Class",1]],[["Fields",1],["Id",1]],[["Fields",1],["Class",1]]])");
+        Table table;
+        QCOMPARE(titles(table.view()), QStringList({"Class", "Id"}));
+    }
+
     void figuresOfTheSelection()
     {
         Table table;

@@ -7,6 +7,7 @@
 #include "support/PanelFixture.h"
 #include "support/Sessions.h"
 #include "support/TestClass.h"
+#include "support/TestPaths.h"
 
 #include <QRandomGenerator>
 #include <QtTest>
@@ -17,6 +18,17 @@ using namespace tolvik::viewer;
 namespace {
 
 constexpr int editsOfSession = 50;
+
+/// The properties that can be edited.
+void collect(const PropertyNode& node, QVector<const PropertyNode*>& nodes)
+{
+    if (node.isEditable) {
+        nodes.append(&node);
+    }
+    for (const auto& child : node.children) {
+        collect(*child, nodes);
+    }
+}
 
 /// Makes edits at random, as steps of the history.
 class Session
@@ -59,24 +71,14 @@ private:
         const PropertyNode& node = *nodes[random.bounded(nodes.size())];
         const MemberPlace place{MemberPlace::Property, node.path()};
         const int choice = random.bounded(4);
-        const PropertyEdit::Action action = choice > 1                 ? PropertyEdit::SetValue
+        const PropertyEdit::Action action = choice > 1                   ? PropertyEdit::SetValue
                                             : !node.isGenericAttribute() ? PropertyEdit::MakeAbsent
-                                            : choice == 1              ? PropertyEdit::RemoveAttribute
-                                                                       : PropertyEdit::RenameAttribute;
+                                            : choice == 1                ? PropertyEdit::RemoveAttribute
+                                                                         : PropertyEdit::RenameAttribute;
         const QVariant value = action == PropertyEdit::SetValue          ? valueFor(node)
                                : action == PropertyEdit::RenameAttribute ? QVariant("renamed")
                                                                          : QVariant();
         push(PropertyEdit::make(fixture.document(), {&feature}, action, place, value, refusal));
-    }
-
-    static void collect(const PropertyNode& node, QVector<const PropertyNode*>& nodes)
-    {
-        if (node.isEditable) {
-            nodes.append(&node);
-        }
-        for (const auto& child : node.children) {
-            collect(*child, nodes);
-        }
     }
 
     QVariant valueFor(const PropertyNode& node)
@@ -122,6 +124,39 @@ class EditSessionsTest : public QObject
     Q_OBJECT
 
 private slots:
+    void everyListIsEmptiedAndComesBack_data() { addPathRows(documentsBelow(examples())); }
+
+    /// A list that could not be found again is not emptied.
+    void everyListIsEmptiedAndComesBack()
+    {
+        QFETCH(QString, path);
+        PanelFixture fixture(contentOf(path));
+        QUndoStack& history = fixture.document().undoStack();
+        const tolvik::CityGMLModel& model = fixture.document().model();
+        const QByteArray before = fixture.saved();
+        for (int row = 0; row < model.rowCount(); ++row) {
+            QVector<const PropertyNode*> nodes;
+            const std::unique_ptr<PropertyNode> tree = readProperties(model, *model.getFeature(row));
+            collect(*tree, nodes);
+            for (const PropertyNode* const node : nodes) {
+                QString refusal;
+                auto edit = kindOf(node->value, node->choices) == ValueKind::List
+                                ? PropertyEdit::make(
+                                      fixture.document(), {model.getFeature(row)}, PropertyEdit::SetValue,
+                                      {MemberPlace::Property, node->path()}, QVariantList(), refusal)
+                                : nullptr;
+                if (edit) {
+                    history.push(edit.release());
+                }
+            }
+        }
+        QVERIFY(history.count() > 0);
+        QVERIFY(fixture.saved() != before);
+        history.setIndex(0);
+        const QByteArray now = fixture.saved();
+        QVERIFY2(now == before, qPrintable(differenceOf(now, before)));
+    }
+
     void undoingAllGivesTheDocumentBack_data() { addSessionRows(2, 50); }
 
     void undoingAllGivesTheDocumentBack()
