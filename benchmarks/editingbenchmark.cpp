@@ -109,6 +109,62 @@ void windowRedoEditOfAll(benchmark::State& state)
         [](LargeWindow& window) { return window.operate([&] { window.trigger("redo"); }); });
 }
 
+/// As a recovery does, from what the journal has of the edit.
+void windowReplayEditOfAll(benchmark::State& state)
+{
+    QString kind;
+    QJsonObject record;
+    measureWindow(
+        state,
+        [&](LargeWindow& window) {
+            selectAll(window);
+            window.settle();
+            editAll(window);
+            window.settle();
+            const QUndoStack& history = window.window.document().undoStack();
+            const auto* const edit = dynamic_cast<const RecordedEdit*>(history.command(history.index() - 1));
+            kind = edit->kind();
+            record = edit->record();
+            window.trigger("undo");
+            window.settle();
+            selectNone(window);
+        },
+        [&](LargeWindow& window) {
+            Document& document = window.window.document();
+            return window.operate([&] {
+                document.editRunner().replay(
+                    1,
+                    [&](int) {
+                        return ReplayStep{RecordedEdit::make(kind, document, record), std::nullopt};
+                    },
+                    [](const QString&) {});
+            });
+        });
+}
+
+/// Every tenth building, with its walls: a tenth of the rows.
+void selectTenth(LargeWindow& window)
+{
+    Document& document = window.window.document();
+    const int house = 1 + window.content.walls;
+    QItemSelection rows;
+    for (int row = 1; row < document.model().rowCount(); row += 10 * house) {
+        const QModelIndex index = document.model().index(row, 0);
+        rows.append(QItemSelectionRange(index, index.siblingAtColumn(1)));
+    }
+    document.selection().replace(rows);
+}
+
+void windowRemoveTenth(benchmark::State& state)
+{
+    measureWindow(state, selectTenth, [](LargeWindow& window) {
+        const double block = window.operate([&] { window.trigger("removeFeature"); });
+        window.trigger("undo");
+        window.settle();
+        return block;
+    });
+}
+
 QTableView& table(LargeWindow& window)
 {
     return *window.window.findChild<QTableView*>(QStringLiteral("attributeTable"));
@@ -217,6 +273,7 @@ BENCHMARK(windowPropertiesOfAll)->Apply(large);
 BENCHMARK(windowEditAll)->Apply(large);
 BENCHMARK(windowUndoEditOfAll)->Apply(large);
 BENCHMARK(windowRedoEditOfAll)->Apply(large);
+BENCHMARK(windowReplayEditOfAll)->Apply(large);
 BENCHMARK(windowTableOpen)->Apply(large);
 BENCHMARK(windowTableSort)->Apply(large);
 BENCHMARK(windowTableSortSelected)->Apply(large);
@@ -224,3 +281,5 @@ BENCHMARK(windowTableFilter)->Apply(large);
 BENCHMARK(windowTableSelectAll)->Apply(large);
 BENCHMARK(windowTableScroll)->Apply(large);
 BENCHMARK(windowEditAllBesideTable)->Apply(large);
+// The last one, since what comes back has its rows behind all others.
+BENCHMARK(windowRemoveTenth)->Apply(large)->Iterations(1);

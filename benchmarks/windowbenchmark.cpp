@@ -117,6 +117,23 @@ void windowHideAll(benchmark::State& state)
         [](LargeWindow& window) { return window.operate([&] { window.trigger("hideAll"); }); });
 }
 
+/// The selection is kept meanwhile.
+void windowHideAllSelected(benchmark::State& state)
+{
+    measureWindow(
+        state,
+        [](LargeWindow& window) {
+            expanded(window);
+            window.trigger("showAll");
+            window.tree()->selectAll();
+        },
+        [](LargeWindow& window) {
+            const double block = window.operate([&] { window.trigger("hideAll"); });
+            window.window.document().selection().clearSelection();
+            return block;
+        });
+}
+
 void windowShowAll(benchmark::State& state)
 {
     measureWindow(
@@ -151,6 +168,7 @@ BENCHMARK(windowSelectOne)->Apply(large);
 BENCHMARK(windowSelectAll)->Apply(large);
 BENCHMARK(windowSelectOther)->Apply(large);
 BENCHMARK(windowHideAll)->Apply(large);
+BENCHMARK(windowHideAllSelected)->Apply(large);
 BENCHMARK(windowShowAll)->Apply(large);
 BENCHMARK(windowSortList)->Apply(large);
 BENCHMARK(windowTypeInSearch)->Name("windowTypeInSearchOfAMillion")->Apply(veryLarge);
