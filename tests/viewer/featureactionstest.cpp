@@ -1,4 +1,5 @@
 #include "apps/viewer/document/Document.h"
+#include "apps/viewer/features/FeatureBrowser.h"
 #include "apps/viewer/properties/PropertyPanel.h"
 #include "support/Documents.h"
 #include "support/Files.h"
@@ -41,6 +42,29 @@ private slots:
         opened->action("show")->trigger();
         QVERIFY(isVisible("bell"));
         QCOMPARE(check("heron-bridge"), int(Qt::Checked));
+    }
+
+    void whatIsSelectedStaysSelected()
+    {
+        QByteArray members;
+        for (int i = 0; i < 600; ++i) {
+            members += buildingMember("", "b" + QByteArray::number(i));
+        }
+        writeFile(opened->path("street.gml"), documentText(members));
+        QVERIFY(opened->open(opened->path("street.gml")));
+        opened->window->browser().expandAll();
+        QSignalSpy layouts(&opened->document().tree(), &QAbstractItemModel::layoutChanged);
+        QTreeView* const tree = opened->view("featureTree");
+        tree->selectAll();
+        opened->action("hideAll")->trigger();
+        QCOMPARE(layouts.count(), 1);
+        QCOMPARE(tree->selectionModel()->selectedRows().size(), 601);
+        opened->select({"b7", "b500"});
+        opened->action("showAll")->trigger();
+        QCOMPARE(layouts.count(), 2);
+        QCOMPARE(opened->selected(), QStringList({"b500", "b7"}));
+        QCOMPARE(tree->selectionModel()->selectedRows().size(), 2);
+        QVERIFY(tree->selectionModel()->isSelected(nodeOf("b500")));
     }
 
     void aCheckBoxHides()

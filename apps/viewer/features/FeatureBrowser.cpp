@@ -226,6 +226,9 @@ void FeatureBrowser::linkSelection(QTreeView& view, QAbstractProxyModel& proxy)
     view.setSelectionModel(selection);
     if (&proxy == &document.tree()) {
         treeSelection = selection;
+        // A new layout of the tree moves nothing, and to note each selected row for it takes longest of all.
+        disconnect(&proxy, &QAbstractItemModel::layoutAboutToBeChanged, selection, nullptr);
+        disconnect(&proxy, &QAbstractItemModel::layoutChanged, selection, nullptr);
     }
     RowSelectionModel& source = &proxy == branches ? *treeSelection : document.selection();
     links.push_back(new SelectionLink(*selection, proxy, source, this));
