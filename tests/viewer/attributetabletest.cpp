@@ -210,6 +210,26 @@ private slots:
         QCOMPARE(titles(next.view()), order);
     }
 
+    void columnsAreAsWideAsTheirTexts()
+    {
+        const QByteArray longName(200, 'x');
+        QByteArray members;
+        for (int i = 0; i < 30; ++i) {
+            members += buildingMember("<gml:description>" + (i == 20 ? longName : "x") +
+                                          "</gml:description><gml:name>" +
+                                          (i == 20 ? "Old Weigh House" : "x") + "</gml:name>",
+                                      "b" + QByteArray::number(i));
+        }
+        Table table(documentText(members));
+        const auto needed = [&](const QString& title) {
+            return table.view().sizeHintForIndex(table.cell(20, title)).width();
+        };
+        QVERIFY(table.view().columnWidth(table.column("Name")) >= needed("Name"));
+        const int width = table.view().columnWidth(table.column("Description"));
+        QVERIFY(width < needed("Description"));
+        QVERIFY(width < table.view().width() / 2);
+    }
+
     /// Anybody may write into the settings.
     void aColumnStandsOnce()
     {

@@ -26,6 +26,8 @@ namespace {
 // So many features show which attributes are in use; all others are looked at in the background.
 constexpr int featuresAtOnce = 50;
 constexpr int mostColumnsAtFirst = 14;
+// A description may be long; the user can make its column wider.
+constexpr int widestAtFirst = 320;
 constexpr int filterDelayMilliseconds = 250;
 
 bool isName(const PropertyPath& path)
@@ -133,8 +135,8 @@ void AttributeTable::makeTable()
     view->horizontalHeader()->setHighlightSections(false);
     connect(view->horizontalHeader(), &QHeaderView::sectionMoved, this,
             [this] { setChosenColumns(type(), shownColumns()); });
-    // Widths are those of the rows that are seen first: to ask for more takes long.
-    view->horizontalHeader()->setResizeContentsPrecision(0);
+    // The first rows tell how wide a column has to be: to ask for more takes long.
+    view->horizontalHeader()->setResizeContentsPrecision(featuresAtOnce);
     view->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     view->verticalHeader()->setDefaultSectionSize(view->fontMetrics().height() + 8);
     setFocusProxy(view);
@@ -279,6 +281,9 @@ void AttributeTable::setColumns(const QVector<PropertyPath>& columns)
         header->moveSection(header->visualIndex(column), column);
     }
     view->resizeColumnsToContents();
+    for (int column = 0; column < columns.size(); ++column) {
+        header->resizeSection(column, std::min(header->sectionSize(column), widestAtFirst));
+    }
 }
 
 /// The columns from left to right.
