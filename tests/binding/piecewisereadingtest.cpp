@@ -47,7 +47,7 @@ std::string outcome(const std::string& xml, xsd::cxx::tree::flags flags, unsigne
 {
     citygml::setReadingThreads(threads);
     qputenv("TOLVIK_PIECE_SIZE", QByteArray::number(pieceSize));
-    const std::string result = outcome(xml, flags);
+    std::string result = outcome(xml, flags);
     qunsetenv("TOLVIK_PIECE_SIZE");
     citygml::setReadingThreads(0);
     return result;

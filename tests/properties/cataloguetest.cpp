@@ -103,7 +103,7 @@ QString editAll(CoreProperty& property, const ExpectedNode& node)
         }
     }
     for (std::size_t i = 0; i < node.children.size(); ++i) {
-        const QString wrong = editAll(*property.properties().at(static_cast<int>(i)), *node.children.at(i));
+        QString wrong = editAll(*property.properties().at(static_cast<int>(i)), *node.children.at(i));
         if (!wrong.isEmpty()) {
             return wrong;
         }

@@ -53,7 +53,7 @@ private:
     {
         DocumentReading reading(path("a.gml"));
         reading.read();
-        const SourceFile source = reading.source();
+        SourceFile source = reading.source();
         reading.handOver(model);
         return source;
     }

@@ -356,7 +356,7 @@ private:
         for (int i = 0; i < 50000; ++i) {
             members += buildingMember("<gml:description>x</gml:description>", "b" + QByteArray::number(i));
         }
-        const QString path = opened->path("large.gml");
+        QString path = opened->path("large.gml");
         writeFile(path, documentText(members));
         return path;
     }
