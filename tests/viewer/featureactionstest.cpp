@@ -10,6 +10,7 @@
 #include <QClipboard>
 #include <QDesktopServices>
 #include <QMenu>
+#include <QStatusBar>
 #include <QTabWidget>
 #include <QtTest>
 
