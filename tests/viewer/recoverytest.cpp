@@ -51,7 +51,7 @@ void rename(tolvik::viewer::Document& document, int row, const QString& name)
     document.undoStack().push(new Renaming(document, {{"row", row}, {"name", name}}));
 }
 
-constexpr int buildings = 1000;
+constexpr int buildings = 400;
 // A slice has some steps, however short it is.
 constexpr int slicesOfEdit = buildings / 100;
 
@@ -140,7 +140,15 @@ private slots:
         OpenedWindow opened(QString{});
         offer(opened);
         QVERIFY2(notice(opened).contains("5 unsaved"), qPrintable(notice(opened)));
+        EditRunner& runner = opened.document().editRunner();
+        QString refusal;
+        connect(&runner, &EditRunner::begun, opened.window.get(), [&] {
+            // Between two edits that are done again there is no place for another one.
+            refusal = runner.perform(describing(opened.document(), "mine"));
+        });
         recover(opened);
+        QVERIFY(!refusal.isEmpty());
+        QCOMPARE(opened.document().undoStack().count(), 6);
         QTRY_COMPARE(name(opened, 1), QString("One"));
         QCOMPARE(name(opened, 2), QString("Two"));
         QVERIFY(name(opened, 3) != "Three");
