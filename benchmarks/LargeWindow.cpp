@@ -58,13 +58,12 @@ LargeWindow::LargeWindow(const Content& content) : content(content)
 {
     QSettings::setDefaultFormat(QSettings::IniFormat);
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());
-    const QString path = folder.filePath(QStringLiteral("city.gml"));
-    writeDocument(path, content);
+    writeDocument(path(), content);
     window.show();
     // The window may open other documents later.
     const auto isOpen = std::make_shared<bool>(false);
     QObject::connect(&window.files(), &viewer::FileCommands::opened, &window, [isOpen] { *isOpen = true; });
-    window.open(path);
+    window.open(path());
     while (!*isOpen) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }

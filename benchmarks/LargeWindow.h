@@ -46,6 +46,8 @@ public:
     void clearSearch();
     void trigger(const char* name);
     QTreeView* tree();
+    /// The file of the document.
+    QString path() const { return folder.filePath(QStringLiteral("city.gml")); }
 
     const Content content;
     viewer::MainWindow window;

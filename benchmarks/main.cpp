@@ -12,7 +12,9 @@
 /// it works on.
 int main(int argc, char* argv[])
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
     const QApplication application(argc, argv);
     const log4cplus::Initializer log;
     log4cplus::Logger root = log4cplus::Logger::getRoot();

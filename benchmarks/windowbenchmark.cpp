@@ -36,6 +36,14 @@ void windowOpen(benchmark::State& state)
         });
 }
 
+/// The document in place of itself. It is read beside the window, which then takes it over.
+void windowReload(benchmark::State& state)
+{
+    measureWindow(state, expanded, [](LargeWindow& window) {
+        return window.operate([&] { window.window.open(window.path()); });
+    });
+}
+
 void windowExpandAll(benchmark::State& state)
 {
     measureWindow(
@@ -160,6 +168,7 @@ void windowSortList(benchmark::State& state)
 } // namespace
 
 BENCHMARK(windowOpen)->Apply(large);
+BENCHMARK(windowReload)->Apply(large);
 BENCHMARK(windowExpandAll)->Apply(large);
 BENCHMARK(windowTypeInSearch)->Apply(large);
 BENCHMARK(windowFilter)->Apply(large);

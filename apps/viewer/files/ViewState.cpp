@@ -16,7 +16,8 @@ void collectExpanded(const QTreeView& view, const CityGMLTreeModel& tree, const 
 {
     for (int i = 0, count = tree.rowCount(parent); i < count; ++i) {
         const QModelIndex node = tree.index(i, 0, parent);
-        if (view.isExpanded(node)) {
+        // Most nodes are leaves, and the view has to look each up.
+        if (tree.hasChildren(node) && view.isExpanded(node)) {
             identifiers.insert(idOf(*CityGMLTreeModel::getFeature(node)));
             collectExpanded(view, tree, node, identifiers);
         }
@@ -70,7 +71,8 @@ void ViewState::restore(Document& document, QTreeView& tree) const
     CityGMLModel& model = document.model();
     QList<QModelIndex> toHide, toDisable;
     QItemSelection toSelect;
-    for (int row = 0; row < model.rowCount(); ++row) {
+    const bool hasRows = !hidden.isEmpty() || !disabled.isEmpty() || !selected.isEmpty();
+    for (int row = 0; hasRows && row < model.rowCount(); ++row) {
         const QString identifier = idOf(*model.getFeature(row));
         const QModelIndex index = model.index(row, 0);
         if (hidden.contains(identifier)) {
