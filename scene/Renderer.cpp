@@ -188,6 +188,8 @@ void Renderer::prepare(osgUtil::SceneView& view, const Camera& camera, const QSi
 void Renderer::run(osgUtil::SceneView& view)
 {
     scene.features().update();
+    // Buffers of tiles that went go before the next tiles could take them: they, too, are known by addresses.
+    osg::flushAllDeletedGLObjects(state->getContextID());
     // The host binds and draws in the same context. Modes it leaves alone.
     state->dirtyAllAttributes();
     state->setLastAppliedProgramObject(nullptr);
@@ -201,7 +203,6 @@ void Renderer::run(osgUtil::SceneView& view)
     state->applyDisablingOfVertexAttributes();
     state->unbindVertexBufferObject();
     state->unbindElementBufferObject();
-    osg::flushAllDeletedGLObjects(state->getContextID());
 }
 
 void Renderer::draw(const Camera& camera, const QSize& size, const DrawOptions& options)
