@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <map>
 #include <QCoreApplication>
 
 namespace tolvik::scene {
@@ -56,35 +55,18 @@ double roundStep(double range, double count)
 
 } // namespace
 
-AttributeColours::AttributeColours(const std::vector<QVariant>& values)
+AttributeColours::AttributeColours(std::vector<QVariant> values)
 {
-    bool hasValue = false;
-    bool areNumbers = true;
-    for (const QVariant& value : values) {
-        hasValue = hasValue || value.isValid();
-        areNumbers = areNumbers && (!value.isValid() || isNumber(value));
+    AttributeColouring colouring(std::move(values));
+    for (std::size_t step = 0; step < colouring.steps(); ++step) {
+        colouring.doStep(step);
     }
-    hasScale = hasValue && areNumbers;
-    if (hasScale) {
-        makeScale(values);
-    } else {
-        makeCategories(values);
-    }
-    entries.push_back({QColor(missingColour),
-                       QCoreApplication::translate("tolvik::scene::AttributeColours", "no value"), 0});
-    countValues(values);
+    *this = colouring.takeColours();
 }
 
-void AttributeColours::makeScale(const std::vector<QVariant>& values)
+void AttributeColours::makeScale(double lowest, double highest)
 {
-    double lowest = HUGE_VAL;
-    double highest = -HUGE_VAL;
-    for (const QVariant& value : values) {
-        if (value.isValid()) {
-            lowest = std::min(lowest, value.toDouble());
-            highest = std::max(highest, value.toDouble());
-        }
-    }
+    hasScale = true;
     if (!(highest > lowest)) {
         bounds = {lowest, lowest};
         entries.push_back({QColor(scaleColours[classCount / 2]), QString::number(lowest), 0});
@@ -109,22 +91,11 @@ void AttributeColours::makeScale(const std::vector<QVariant>& values)
     }
 }
 
-void AttributeColours::makeCategories(const std::vector<QVariant>& values)
+void AttributeColours::makeCategories(const QStringList& mostFrequent)
 {
-    std::map<QString, std::size_t> counts;
-    for (const QVariant& value : values) {
-        if (value.isValid()) {
-            ++counts[textOf(value)];
-        }
-    }
-    std::vector<std::pair<QString, std::size_t>> byCount(counts.begin(), counts.end());
-    std::stable_sort(byCount.begin(), byCount.end(),
-                     [](const auto& a, const auto& b) { return a.second > b.second; });
-    for (const auto& [name, count] : byCount) {
-        if (names.size() < categoryCount) {
-            entries.push_back({QColor(categoryColours[names.size()]), name, 0});
-            names << name;
-        }
+    names = mostFrequent;
+    for (int i = 0; i < names.size(); ++i) {
+        entries.push_back({QColor(categoryColours[i]), names[i], 0});
     }
     entries.push_back({QColor(otherColour),
                        QCoreApplication::translate("tolvik::scene::AttributeColours", "other values"), 0});
@@ -135,6 +106,24 @@ std::size_t AttributeColours::classOf(double value) const
     const auto above = std::upper_bound(bounds.begin(), bounds.end(), value);
     const auto index = static_cast<std::size_t>(std::max<std::ptrdiff_t>(0, above - bounds.begin() - 1));
     return std::min(index, entries.size() - 2);
+}
+
+std::size_t AttributeColours::entryOf(const QVariant& value) const
+{
+    if (!value.isValid()) {
+        return entries.size() - 1;
+    }
+    if (hasScale) {
+        return classOf(value.toDouble());
+    }
+    const int index = names.indexOf(textOf(value));
+    return index >= 0 ? static_cast<std::size_t>(index) : entries.size() - 2;
+}
+
+void AttributeColours::leaveOutUnused()
+{
+    const auto isUnused = [](const Entry& entry) { return entry.count == 0; };
+    entries.erase(std::remove_if(entries.begin(), entries.end(), isUnused), entries.end());
 }
 
 QColor AttributeColours::colourOf(const QVariant& value) const
@@ -149,18 +138,95 @@ QColor AttributeColours::colourOf(const QVariant& value) const
     return QColor(index >= 0 ? categoryColours[index] : otherColour);
 }
 
-void AttributeColours::countValues(const std::vector<QVariant>& values)
+AttributeColouring::AttributeColouring(std::vector<QVariant> values)
+    : values(std::move(values)), entryOf(this->values.size())
 {
-    for (const QVariant& value : values) {
-        const QColor colour = colourOf(value);
-        const auto entry = std::find_if(entries.begin(), entries.end(),
-                                        [&colour](const Entry& entry) { return entry.colour == colour; });
-        ++entry->count;
+    if (this->values.empty()) {
+        makeEntries();
     }
-    if (!hasScale) {
-        const auto isUnused = [](const Entry& entry) { return entry.count == 0; };
-        entries.erase(std::remove_if(entries.begin(), entries.end(), isUnused), entries.end());
+}
+
+void AttributeColouring::doStep(std::size_t step)
+{
+    const std::size_t index = step % values.size();
+    switch (step / values.size()) {
+    case 0:
+        return look(values[index]);
+    case 1:
+        return count(values[index]);
+    default:
+        if (index == 0) {
+            makeEntries();
+        }
+        return colour(index);
     }
+}
+
+void AttributeColouring::look(const QVariant& value)
+{
+    if (value.isValid()) {
+        hasValue = true;
+        areNumbers = areNumbers && isNumber(value);
+        lowest = std::min(lowest, value.toDouble());
+        highest = std::max(highest, value.toDouble());
+    }
+}
+
+void AttributeColouring::count(const QVariant& value)
+{
+    if (areNumbers || !value.isValid()) {
+        return;
+    }
+    const QString name = textOf(value);
+    const std::size_t number = ++counts[name];
+    const auto same = std::find_if(mostFrequent.begin(), mostFrequent.end(),
+                                   [&name](const auto& each) { return each.second == name; });
+    if (same != mostFrequent.end()) {
+        mostFrequent.erase(same);
+    }
+    // Whoever is less frequent than all of these will not become one of them without being counted again.
+    const auto place = std::find_if(mostFrequent.begin(), mostFrequent.end(), [&](const auto& each) {
+        return each.first < number || (each.first == number && name < each.second);
+    });
+    mostFrequent.insert(place, {number, name});
+    if (mostFrequent.size() > categoryCount) {
+        mostFrequent.pop_back();
+    }
+}
+
+void AttributeColouring::makeEntries()
+{
+    if (hasValue && areNumbers) {
+        found.makeScale(lowest, highest);
+    } else {
+        QStringList names;
+        for (const auto& each : mostFrequent) {
+            names << each.second;
+        }
+        found.makeCategories(names);
+    }
+    found.entries.push_back({QColor(missingColour),
+                             QCoreApplication::translate("tolvik::scene::AttributeColours", "no value"), 0});
+}
+
+void AttributeColouring::colour(std::size_t index)
+{
+    const std::size_t entry = found.entryOf(values[index]);
+    entryOf[index] = static_cast<std::uint8_t>(entry);
+    ++found.entries[entry].count;
+    // Both may be so many that nobody should wait for their end.
+    values[index].clear();
+    if (!counts.empty()) {
+        counts.erase(counts.begin());
+    }
+}
+
+AttributeColours AttributeColouring::takeColours()
+{
+    if (!found.hasScale) {
+        found.leaveOutUnused();
+    }
+    return std::move(found);
 }
 
 } // namespace tolvik::scene

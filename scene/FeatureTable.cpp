@@ -89,6 +89,7 @@ void FeatureTable::reserve(std::size_t count)
     lods.reserve(count);
     states.reserve(count);
     colours.reserve(count);
+    typeColours.reserve(count);
 }
 
 Slot FeatureTable::add(const Feature& feature)
@@ -104,6 +105,7 @@ Slot FeatureTable::add(const Feature& feature)
     states.push_back(parent != noSlot && isSelected(parent) ? SelectedBit : 0);
     const std::uint32_t level = parent != noSlot ? (colours[parent] >> levelShift) + 1 : 0;
     colours.push_back(packed(TypeColours::of(feature)) | std::min(level, deepestLevel) << levelShift);
+    typeColours.push_back(colours.back());
     slotByFeature->set(&feature, slot);
     areLodsOld = areStatesOld = areColoursOld = true;
     return slot;
@@ -128,6 +130,7 @@ std::shared_ptr<void> FeatureTable::clear()
     lods.clear();
     states.clear();
     colours.clear();
+    typeColours.clear();
     selection.clear();
     return std::exchange(slotByFeature, std::make_shared<PointerMap<Slot>>());
 }
@@ -245,19 +248,21 @@ void FeatureTable::setSelection(const std::vector<Slot>& wanted)
     }
 }
 
-void FeatureTable::inheritValues(std::vector<QVariant>& values) const
+Slot FeatureTable::valueGiverOf(Slot slot) const
 {
-    for (Slot slot = 0; slot < features.size() && slot < values.size(); ++slot) {
-        const Slot parent = parents[slot];
-        if (!values[slot].isValid() && parent != noSlot && parents[parent] != noSlot) {
-            values[slot] = values[parent];
-        }
-    }
+    const Slot parent = parents[slot];
+    return parent != noSlot && parents[parent] != noSlot ? parent : noSlot;
 }
 
 void FeatureTable::setColour(Slot slot, const QColor& colour)
 {
     colours[slot] = packed(colour) | (colours[slot] & ~colourBits);
+    areColoursOld = true;
+}
+
+void FeatureTable::resetColours()
+{
+    std::copy(typeColours.begin(), typeColours.end(), colours.begin());
     areColoursOld = true;
 }
 

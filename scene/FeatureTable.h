@@ -8,7 +8,6 @@
 #include <osg/StateSet>
 #include <osg/Texture2D>
 #include <QColor>
-#include <QVariant>
 #include <vector>
 
 namespace gml {
@@ -83,11 +82,12 @@ public:
     void setSelection(const std::vector<Slot>& which);
     bool isSelected(Slot slot) const { return bit(slot, SelectedBit); }
 
-    /// Gives features without a value that of the nearest feature around them that has one. The outermost
-    /// features, the document itself, pass nothing on.
-    /// \param values by slot; invalid for none
-    void inheritValues(std::vector<QVariant>& values) const;
+    /// The feature around one that passes the value of an attribute on to it, where it has none itself;
+    /// noSlot where there is none: the outermost features, the document itself, pass nothing on.
+    Slot valueGiverOf(Slot slot) const;
     void setColour(Slot slot, const QColor& colour);
+    /// Gives all features the colours of their types again.
+    void resetColours();
     QColor colourOf(Slot slot) const;
 
     /// Hands the changes since the last call over to the shaders: what has come, the levels of detail that
@@ -118,6 +118,8 @@ private:
 
     std::vector<std::uint8_t> states;
     std::vector<std::uint32_t> colours;
+    /// As they were at first.
+    std::vector<std::uint32_t> typeColours;
     std::vector<Slot> selection;
     LodChoice choice;
     bool areLodsOld = false;

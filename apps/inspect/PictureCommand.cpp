@@ -44,7 +44,12 @@ bool colourBy(const QString& path, const CityGMLModel& model, FeatureTable& feat
         values.push_back(property != nullptr ? property->value() : QVariant());
         isThere = isThere || property != nullptr;
     }
-    features.inheritValues(values);
+    for (Slot slot = 0; slot < features.size(); ++slot) {
+        const Slot giver = features.valueGiverOf(slot);
+        if (giver != noSlot && !values[slot].isValid()) {
+            values[slot] = values[giver];
+        }
+    }
     const AttributeColours colours(values);
     for (Slot slot = 0; slot < features.size(); ++slot) {
         features.setColour(slot, colours.colourOf(values[slot]));

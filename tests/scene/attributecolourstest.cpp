@@ -33,6 +33,7 @@ class AttributeColoursTest : public QObject
 private slots:
     void categoriesAreSortedByTheirNumber();
     void onlyTheMostFrequentHaveColoursOfTheirOwn();
+    void equallyFrequentOnesAreSortedByName();
     void numbersAreClasses();
     void oneNumberIsOneClass();
     void whatHasNoValueIsGrey();
@@ -65,6 +66,20 @@ void AttributeColoursTest::onlyTheMostFrequentHaveColoursOfTheirOwn()
     QCOMPARE(colours.legend().back().text, QString("other values"));
     QCOMPARE(colours.colourOf("19 m"), colours.legend().back().colour);
     QCOMPARE(colours.colourOf("0 m"), colours.legend().front().colour);
+}
+
+void AttributeColoursTest::equallyFrequentOnesAreSortedByName()
+{
+    std::vector<QVariant> values;
+    for (int round = 0; round < 3; ++round) {
+        for (const char* const name : {"h", "c", "k", "a", "d", "i", "b", "f", "e", "g"}) {
+            values.emplace_back(name);
+        }
+    }
+    values.emplace_back("k");
+    values.emplace_back(5);
+    QCOMPARE(legendOf(AttributeColours(values)),
+             QStringList({"k: 4", "a: 3", "b: 3", "c: 3", "d: 3", "e: 3", "f: 3", "other values: 10"}));
 }
 
 void AttributeColoursTest::numbersAreClasses()

@@ -48,6 +48,8 @@ void SlicedWork::runSlice()
     emit progressed(done, steps);
     if (done == steps && timer.isActive()) {
         timer.stop();
+        // What it holds may be large.
+        step = nullptr;
         // It may start the next work, which replaces what is called here.
         const End last = std::move(end);
         last();

@@ -4,9 +4,9 @@
 #include "apps/viewer/document/Document.h"
 #include "apps/viewer/features/FeatureRows.h"
 #include "framework/CoreProperty.h"
-#include "scene/TypeColours.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tolvik::viewer {
 
@@ -257,12 +257,7 @@ void SceneLink::colourBy(const QString& path)
     attribute = path;
     reading.stop();
     if (path.isEmpty()) {
-        scene::FeatureTable& features = city->features();
-        for (Slot slot = 0; slot < features.size(); ++slot) {
-            if (features.featureOf(slot) != nullptr) {
-                features.setColour(slot, scene::TypeColours::of(*features.featureOf(slot)));
-            }
-        }
+        city->features().resetColours();
         attributeColours = scene::AttributeColours();
         emit coloursChanged();
     } else if (!isBusy()) {
@@ -276,24 +271,37 @@ void SceneLink::readColours()
     const std::size_t count = city->features().size();
     values.assign(count, QVariant());
     reading.start(
-        static_cast<int>(count),
-        [this](int slot) {
-            values[static_cast<std::size_t>(slot)] = valueOf(rowOf(static_cast<Slot>(slot)));
-        },
-        [this] { showColours(); });
+        static_cast<int>(count), [this](int slot) { readValue(static_cast<Slot>(slot)); },
+        [this] { findColours(); });
 }
 
-void SceneLink::showColours()
+void SceneLink::readValue(Slot slot)
 {
-    scene::FeatureTable& features = city->features();
-    // Features may have come meanwhile.
-    values.resize(features.size());
-    features.inheritValues(values);
-    attributeColours = scene::AttributeColours(values);
-    for (Slot slot = 0; slot < features.size(); ++slot) {
-        features.setColour(slot, attributeColours.colourOf(values[slot]));
+    QVariant& value = values[slot];
+    value = valueOf(rowOf(slot));
+    // A feature comes after the one around it.
+    const Slot giver = city->features().valueGiverOf(slot);
+    if (!value.isValid() && giver != noSlot) {
+        value = values[giver];
     }
-    values.clear();
+}
+
+void SceneLink::findColours()
+{
+    const auto colouring = std::make_shared<scene::AttributeColouring>(std::exchange(values, {}));
+    reading.start(
+        static_cast<int>(colouring->steps()),
+        [colouring](int step) { colouring->doStep(static_cast<std::size_t>(step)); },
+        [this, colouring] { showColours(*colouring); });
+}
+
+/// Features that have come meanwhile have their colours when they are looked at in their turn.
+void SceneLink::showColours(scene::AttributeColouring& colouring)
+{
+    for (Slot slot = 0; slot < colouring.size(); ++slot) {
+        city->features().setColour(slot, colouring.colourOf(slot));
+    }
+    attributeColours = colouring.takeColours();
     emit coloursChanged();
     emit changed();
 }

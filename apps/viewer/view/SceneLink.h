@@ -75,7 +75,9 @@ private:
     void noteEdit(const QModelIndex& first, const QModelIndex& last, const QVector<int>& roles);
     void takeEdits();
     void readColours();
-    void showColours();
+    void readValue(scene::Slot slot);
+    void findColours();
+    void showColours(scene::AttributeColouring& colouring);
     QVariant valueOf(int row) const;
 
     Document& document;
