@@ -70,6 +70,7 @@ class SceneBuildTest : public QObject
 private slots:
     void slicesMakeTheSameScene();
     void anotherDocumentTakesThePlaceOfOneThatIsComing();
+    void tilesOfAFormerDocumentAreNotShown();
     void aClearedSceneStaysEmpty();
     void featuresThatGoMeanwhileAreNotDrawn();
     void featuresThatChangeMeanwhileAreDrawnOnce();
@@ -148,6 +149,36 @@ void SceneBuildTest::anotherDocumentTakesThePlaceOfOneThatIsComing()
     other.scene.addAll();
     other.camera = camera;
     QCOMPARE(differences(other.picture(), district), 0);
+}
+
+void SceneBuildTest::tilesOfAFormerDocumentAreNotShown()
+{
+    // A comb, which takes a while to be cut into triangles.
+    QByteArray positions = "0 0 0 ";
+    constexpr int teeth = 3000;
+    for (int i = 0; i < teeth; ++i) {
+        positions += QByteArray::number(i) + " 100 0 " + QByteArray::number(i + 0.5) + " 1 0 ";
+    }
+    positions += QByteArray::number(teeth) + " 0 0 0 0 0";
+    const DocumentFile slow(documentText(buildingMember(
+        multiSurface("lod2MultiSurface", "<gml:surfaceMember><gml:Polygon><gml:exterior><gml:LinearRing>"
+                                         "<gml:posList>" +
+                                             positions +
+                                             "</gml:posList></gml:LinearRing></gml:exterior></gml:Polygon>"
+                                             "</gml:surfaceMember>"))));
+    const DocumentFile quick(
+        documentText(buildingMember(multiSurface("lod2MultiSurface", square("p", 0, 0)))));
+    SceneFixture fixture(slow.path());
+    QVERIFY(fixture.scene.counts().triangles > teeth);
+    fixture.begin();
+    while (fixture.scene.addSome(0)) {
+    }
+    // A thread is at it by now.
+    QTest::qSleep(2);
+    fixture.model.load(quick.path());
+    fixture.begin();
+    fixture.scene.addAll();
+    QCOMPARE(fixture.scene.counts().triangles, std::size_t(2));
 }
 
 void SceneBuildTest::aClearedSceneStaysEmpty()

@@ -93,6 +93,7 @@ private slots:
     void edgesAreLeftOutWhereTheyAreFarAway();
     void edgesOfSmallSurfacesFadeBesideLargeOnes();
     void whatIsFittedIsMetWhenComingNear();
+    void onlyWhatIsShownIsFitted();
 
 private:
     void picksWhatIsSeen(SceneFixture& fixture);
@@ -483,6 +484,21 @@ void SceneTest::whatIsFittedIsMetWhenComingNear()
         fixture.camera.zoom(0.02, osg::Vec2d(), 1.5);
         QCOMPARE(fixture.slotAt(middle), fixture.slotOf("plate"));
     }
+}
+
+void SceneTest::onlyWhatIsShownIsFitted()
+{
+    const DocumentFile file(
+        documentText(buildingMember(multiSurface("lod1MultiSurface", square("a", 3000, 0)) +
+                                        multiSurface("lod2MultiSurface", square("b", 0, 0)),
+                                    "house")));
+    SceneFixture fixture(file.path());
+    const QSize size(SceneFixture::width, SceneFixture::height);
+    const Slot house = fixture.slotOf("house");
+    const Camera fitted =
+        fittedTo({house}, fixture.camera, size, fixture.scene, *fixture.renderer, fixture.options);
+    QVERIFY(fixture.renderer->pixelsOf(fitted, size, fixture.options)[house] >
+            0.02 * size.width() * size.height());
 }
 
 void SceneTest::aPictureCanHaveNoBackground()
