@@ -45,7 +45,7 @@ QString otherText(const QVariant& value)
 }
 
 /// Adds a column for each property below a group, with a cell that changes it or that takes it away.
-void addColumns(const tolvik::CoreProperty& group, ColumnPath path, bool isRemoval, EditTable& table)
+void addColumns(const tolvik::CoreProperty& group, const ColumnPath& path, bool isRemoval, EditTable& table)
 {
     QHash<QString, int> met;
     for (const auto& child : group.properties()) {
