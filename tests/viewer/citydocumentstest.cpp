@@ -2,6 +2,7 @@
 #include "scene/Pictures.h"
 #include "support/Files.h"
 #include "support/TestClass.h"
+#include "support/TestPaths.h"
 #include "viewer/ViewFixture.h"
 
 #include <functional>
@@ -22,7 +23,7 @@ class CityDocumentsTest : public ViewFixture
 
 private slots:
     void cleanup() { end(); }
-    void everyDocument_data() { addPathRows(exampleAndSharedDocuments()); }
+    void everyDocument_data();
     void everyDocument();
 
 private:
@@ -40,6 +41,13 @@ private:
 };
 
 TEST_CLASS(CityDocumentsTest, Widgets)
+
+/// A quick run looks at those of the project: without a window all are looked at in any run.
+void CityDocumentsTest::everyDocument_data()
+{
+    addPathRows(qEnvironmentVariableIsSet("TOLVIK_LONG_RUNS") ? exampleAndSharedDocuments()
+                                                              : documentsBelow(examples()));
+}
 
 void CityDocumentsTest::everyDocument()
 {
