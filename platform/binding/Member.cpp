@@ -156,11 +156,19 @@ void cutTo(xml_schema::type& owner, const FlatMember& member, std::size_t count)
 void insert(xml_schema::type& owner, const FlatMember& member, std::size_t index,
             std::unique_ptr<xml_schema::type> object)
 {
+    auto* const root = owner._root();
+    xsd::cxx::tree::_type& top = root != nullptr ? *root : static_cast<xsd::cxx::tree::_type&>(owner);
     std::vector<std::unique_ptr<xml_schema::type>> behind;
-    while (opsOf(member).count(owner) > index) {
-        behind.push_back(takeFrom(owner, member, opsOf(member).count(owner) - 1));
+    {
+        // Those behind come back at once: to look each up among all identifiers takes longest.
+        const binding::HiddenIdentifiers hidden(top);
+        while (opsOf(member).count(owner) > index) {
+            const std::size_t last = opsOf(member).count(owner) - 1;
+            behind.emplace_back(opsOf(member).take(owner, last));
+        }
     }
     opsOf(member).add(owner, object.release());
+    const binding::HiddenIdentifiers hidden(top);
     for (; !behind.empty(); behind.pop_back()) {
         opsOf(member).add(owner, behind.back().release());
     }
