@@ -301,7 +301,9 @@ private slots:
             auto* const window = qobject_cast<MainWindow*>(each);
             other = window != nullptr && window != opened->window.get() ? window : other;
         }
-        QVERIFY(other != nullptr);
+        if (other == nullptr) {
+            QFAIL("no other window");
+        }
         QTRY_VERIFY(opened->document().fileName().endsWith("energy.gml"));
         QTRY_VERIFY(other->document().fileName().endsWith("utility.gml"));
         QPointer<MainWindow> closed(other);
