@@ -5,6 +5,11 @@
 #include "support/TestPaths.h"
 #include "viewer/ShownPanel.h"
 
+#include <QApplication>
+#include <QComboBox>
+#include <QDateTimeEdit>
+#include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QTableWidget>
 
 using namespace testsupport;
