@@ -81,12 +81,12 @@ class Exchanging : public OpenTree
 public:
     QModelIndex index(int row, int column, TreeNode* node) const override
     {
-        const auto* const gmlNode = dynamic_cast<tolvik::TreeNodeGML*>(node);
-        if (parent != nullptr && gmlNode != nullptr) {
+        const auto& gmlNode = dynamic_cast<const tolvik::TreeNodeGML&>(*node);
+        if (parent != nullptr) {
             std::swap(parent->children()[1], parent->children()[2]);
             parent = nullptr;
         }
-        asked.append(QString("%1 %2").arg(CityTree::idOf(gmlNode->feature())).arg(row));
+        asked.append(QString("%1 %2").arg(CityTree::idOf(gmlNode.feature())).arg(row));
         return OpenTree::index(row, column, node);
     }
     using OpenTree::index;
