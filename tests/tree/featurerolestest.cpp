@@ -178,7 +178,9 @@ private slots:
         Models models;
         const QVariant properties = answer(models.at(isTree, "b1"), "properties");
         auto* const model = qobject_cast<tolvik::FeaturePropertyModel*>(properties.value<QObject*>());
-        QVERIFY(model != nullptr);
+        if (model == nullptr) {
+            QFAIL("the properties are no model");
+        }
         QVERIFY(model->rowCount() > 0);
         QCOMPARE(answer(models.at(isTree, "b1", 1), "properties"), properties);
         QVERIFY(answer(models.at(isTree, "b2"), "properties") != properties);
