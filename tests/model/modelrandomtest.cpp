@@ -55,7 +55,7 @@ public:
         treeView.resize(300, 300);
         list.show();
         treeView.show();
-        loadDocument();
+        RandomCity::loadDocument();
     }
 
     /// What differs from the reference; empty if nothing does.

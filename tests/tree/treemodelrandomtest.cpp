@@ -95,24 +95,24 @@ struct Watched
             return QString("another node is current");
         }
         const std::set<Feature> present = selectedNow();
-        for (const Feature feature : selected) {
+        for (auto* const feature : selected) {
             if (hasStayed(feature) && !isHidden(feature) && present.count(feature) == 0) {
                 return QString("a feature is selected no more");
             }
         }
-        for (const Feature feature : present) {
+        for (auto* const feature : present) {
             // What is enabled again may be selected still.
             if (!hasStayed(feature)) {
                 return QString("a new feature is selected");
             }
         }
         const std::set<Feature> open = expandedNow(QModelIndex());
-        for (const Feature feature : expanded) {
+        for (auto* const feature : expanded) {
             if (hasStayed(feature) && open.count(feature) == 0) {
                 return QString("a node is expanded no more");
             }
         }
-        for (const Feature feature : open) {
+        for (auto* const feature : open) {
             if (expanded.count(feature) == 0) {
                 return QString("another node is expanded");
             }
@@ -193,7 +193,7 @@ public:
             sorted, [this](const QModelIndex& index) { return featureBelow(sorted, index); });
         watched[2] = std::make_unique<Watched>(
             filtered, [this](const QModelIndex& index) { return featureBelow(filtered, index); });
-        loadDocument();
+        Run::loadDocument();
         sort();
         begin();
     }
