@@ -312,11 +312,10 @@ private slots:
     void aQueryMakesATable()
     {
         QCOMPARE(runTool({"table", path("a.gml"), "--out", path("t.gpkg")}).code, 0);
-        const ProcessResult result =
-            runTool({"apply", path("t.gpkg"), path("a.gml"), "--out", path("out.gml"), "--sql",
-                     "SELECT \"gml:id\" AS key, 'from SQL' AS \"gen:owner\" FROM Building WHERE "
-                     "\"Fields/MeasuredHeight\" < 10",
-                     "--id-column", "key"});
+        const QString query = "SELECT \"gml:id\" AS key, 'from SQL' AS \"gen:owner\" FROM Building WHERE "
+                              "\"Fields/MeasuredHeight\" < 10";
+        const ProcessResult result = runTool({"apply", path("t.gpkg"), path("a.gml"), "--out",
+                                              path("out.gml"), "--sql", query, "--id-column", "key"});
         QCOMPARE(result.err, QByteArray());
         QCOMPARE(written("from SQL", "Ada"), saved("a.gml"));
         QVERIFY(contentOf(path("out.gml")).contains("from SQL"));
