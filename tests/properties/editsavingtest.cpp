@@ -5,8 +5,8 @@
 #include "support/PropertyDump.h"
 #include "support/PropertyText.h"
 #include "support/TestClass.h"
-#include "UI/Models/CityGMLModel/properties/GmlCorePropertyCreator.h"
 
+#include <algorithm>
 #include <limits>
 #include <QtTest>
 #include <sstream>
@@ -14,7 +14,6 @@
 using namespace testsupport;
 
 using tolvik::CoreProperty;
-using tolvik::GmlCorePropertyCreator;
 
 namespace {
 
