@@ -235,14 +235,14 @@ private slots:
         bldg::BuildingType& building = buildingIn(document);
         const QByteArray before = document.text();
         citygml::Member function(building, building.function());
-        citygml::Member class_(building, building.class_());
-        QVERIFY(!function.restore(class_.capture()));
-        QVERIFY(!class_.restore(citygml::MemberState()));
+        citygml::Member classCode(building, building.class_());
+        QVERIFY(!function.restore(classCode.capture()));
+        QVERIFY(!classCode.restore(citygml::MemberState()));
         QVERIFY(!function.put(0, function.capture()));
         QCOMPARE(document.text(), before);
 
         bldg::BuildingType other;
-        QVERIFY(citygml::Member(other, other.class_()).restore(class_.capture()));
+        QVERIFY(citygml::Member(other, other.class_()).restore(classCode.capture()));
         QCOMPARE(QString::fromStdString(*other.class_()), QString("1"));
         QVERIFY_EXCEPTION_THROWN(citygml::Member(other, building.class_()), std::invalid_argument);
     }
