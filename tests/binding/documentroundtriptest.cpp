@@ -1,21 +1,20 @@
 #include "citygml/CityGmlUtils.h"
 #include "citygml/CityModel.h"
-#include "support/Documents.h"
-#include "support/SchemaObjects.h"
-#include "support/XmlTree.h"
-
 #include "gml/BoundingShapeType.hxx"
+#include "gml/CodeType.hxx"
 #include "gml/DirectPositionType.hxx"
 #include "gml/EnvelopeType.hxx"
 #include "gml/FeaturePropertyType.hxx"
+#include "support/Documents.h"
+#include "support/SchemaObjects.h"
 #include "support/TestClass.h"
+#include "support/XmlTree.h"
 
+#include <clocale>
 #include <QDirIterator>
 #include <QRegularExpression>
 #include <QSet>
 #include <QtTest>
-
-#include <clocale>
 #include <random>
 
 using namespace testsupport;
