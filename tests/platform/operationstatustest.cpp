@@ -1,5 +1,4 @@
 #include "framework/OperationStatus.h"
-#include "framework/OperationListener.h"
 #include "support/OperationRecorder.h"
 #include "support/TestClass.h"
 
@@ -10,7 +9,6 @@
 
 using namespace testsupport;
 
-using tolvik::OperationListener;
 using tolvik::OperationStatus;
 
 class OperationStatusTest : public QObject
