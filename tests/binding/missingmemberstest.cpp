@@ -269,7 +269,9 @@ private slots:
         const testsupport::Document document = read(documentWithBuilding(attribute));
         const Features features(*document, true);
         tolvik::CoreProperty* const row = rowOf(features, "/n#0");
-        QVERIFY(row != nullptr);
+        if (row == nullptr) {
+            QFAIL("no row of the attribute");
+        }
         QVERIFY(!row->value().isValid());
         row->setValue(value);
         QCOMPARE(row->value(), value);
