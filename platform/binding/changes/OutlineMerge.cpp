@@ -161,17 +161,16 @@ void OutlineMerge::mergeContent(const Element& place, const Element& was, const 
         isOpen = false;
         return;
     }
+    const bool hasSameNodes = isSame(place, was);
     const bool areLeaves = place.nodes.empty() && was.nodes.empty() && is.nodes.empty();
     const bool isLaidOut = place.isBlank() && was.isBlank() && is.isBlank();
-    if (!isSame(place, was)) {
-        rewriteContent(place, is);
-    } else if (areLeaves) {
+    if (hasSameNodes && areLeaves) {
         replaceText(place, 0, was.texts[0], is.texts[0]);
-    } else if (isLaidOut) {
+    } else if (hasSameNodes && isLaidOut) {
         mergeNodes(place, was, is);
-    } else if (isSame(was, is)) {
+    } else if (hasSameNodes && isSame(was, is)) {
         mergeTexts(place, was, is);
-    } else if (!takeNodes(place, was, is)) {
+    } else if (!hasSameNodes || !takeNodes(place, was, is)) {
         rewriteContent(place, is);
     }
 }
