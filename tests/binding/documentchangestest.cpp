@@ -377,6 +377,12 @@ private slots:
                })
             << QByteArray(">&f;<")
             << QByteArray("><bldg:function>1</bldg:function><bldg:function>2</bldg:function><");
+        QTest::newRow("element of an entity behind a text")
+            << entities + documentText(buildingMember("note&f;<bldg:function>2</bldg:function>"))
+            << Edit([](core::CityModelType& document) {
+                   buildingIn(document).function().erase(buildingIn(document).function().begin());
+               })
+            << QByteArray("note&f;<") << QByteArray("note<");
 
         const QByteArray defaultPrefix =
             "<c:CityModel xmlns:c='http://www.opengis.net/citygml/2.0' xmlns='http://www.opengis.net/gml'"
