@@ -65,5 +65,6 @@ build() {
     local directory=$1
     shift
     say "building in $directory"
-    ninja -C "$directory" "$@" >&2 || fail "the build failed"
+    # By itself ninja runs two compilers more than there are processors, which on two of them takes a sixth longer.
+    ninja -C "$directory" -j "$(nproc)" "$@" >&2 || fail "the build failed"
 }
