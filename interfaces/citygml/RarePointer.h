@@ -24,8 +24,10 @@ public:
     /// Takes the object, which may be null, as its own.
     explicit RarePointer(T* object = nullptr) { reset(object); }
 
-    /// Takes the object of the other pointer over.
+    /// Takes the object of the other pointer over, and changes that one, as std::auto_ptr does. Throws
+    /// std::bad_alloc where the table cannot grow.
     /// @{
+    // NOLINTBEGIN(performance-noexcept-move-constructor, misc-unconventional-assign-operator): see above
     RarePointer(RarePointer&& other) : RarePointer(other.release()) {}
     RarePointer& operator=(RarePointer&& other)
     {
@@ -33,6 +35,7 @@ public:
         return *this;
     }
     RarePointer& operator=(RarePointer& other) { return *this = std::move(other); }
+    // NOLINTEND(performance-noexcept-move-constructor, misc-unconventional-assign-operator)
     /// @}
 
     ~RarePointer() { reset(); }
