@@ -1,1 +1,0 @@
-#include "citygml/SchemaContainers.h"
