@@ -5,6 +5,7 @@
 #include "UI/Models/CityGMLModel/CityGMLTreeModel.h"
 
 #include <array>
+#include <cstdio>
 #include <map>
 #include <memory>
 #include <QAbstractItemModelTester>
@@ -187,6 +188,10 @@ public:
         filtered.setRecursiveFilteringEnabled(true);
         filtered.setDynamicSortFilter(true);
         filtered.setSourceModel(&tree);
+        // Of rows that move between parents that it refuses Qt's filter takes no notice, with every source,
+        // and shows them at their former place as soon as it accepts that: it has to look anew.
+        QObject::connect(&tree, &QAbstractItemModel::rowsMoved, &filtered,
+                         &QSortFilterProxyModel::invalidate);
         const auto inTree = [](const QModelIndex& index) { return CityGMLProxyModel::getFeature(index); };
         watched[0] = std::make_unique<Watched>(tree, inTree);
         watched[1] = std::make_unique<Watched>(
@@ -537,7 +542,9 @@ private slots:
         formerHandler =
             qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& text) {
                 const bool isKnown = text.contains("invalid inserted rows reported by source model");
-                if (type != QtDebugMsg && type != QtInfoMsg && !isKnown) {
+                if (type == QtFatalMsg) {
+                    std::fprintf(stderr, "%s\n", qPrintable(text)); // there is no later for it
+                } else if (type != QtDebugMsg && type != QtInfoMsg && !isKnown) {
                     warnings().append(text);
                 }
             });
