@@ -505,13 +505,19 @@ void CityGMLModel::removeFeature(gml::AbstractFeatureType* feature)
 
     beginRemoveRows(QModelIndex(), removedRow, removedRow);
     rowByFeature.erase(feature);
-    featureById.erase(getFeatureID(feature));
+    const auto byId = featureById.find(getFeatureID(feature));
+    const bool hasOneKey =
+        byId != featureById.end() && byId->second == feature && keptFeatures.size() == count - 1;
+    if (byId != featureById.end()) {
+        featureById.erase(byId);
+    }
     // A feature whose identifier was changed stands under the former one.
-    for (auto entry = featureById.begin(); entry != featureById.end();) {
+    for (auto entry = featureById.begin(); !hasOneKey && entry != featureById.end();) {
         entry = entry->second == feature ? featureById.erase(entry) : std::next(entry);
     }
-    for (int row = removedRow + 1; row < count; ++row) {
-        --rowByFeature.find(features[row])->second;
+    // In the order of the map, which takes less time than to look up each row behind.
+    for (auto& [other, row] : rowByFeature) {
+        row -= row > removedRow ? 1 : 0;
     }
     features = std::move(keptFeatures);
     visibility = std::move(keptVisibility);
