@@ -505,12 +505,9 @@ void CityGMLModel::removeFeature(gml::AbstractFeatureType* feature)
 
     beginRemoveRows(QModelIndex(), removedRow, removedRow);
     rowByFeature.erase(feature);
-    const auto byId = featureById.find(getFeatureID(feature));
-    const bool hasOneKey =
-        byId != featureById.end() && byId->second == feature && keptFeatures.size() == count - 1;
-    if (byId != featureById.end()) {
-        featureById.erase(byId);
-    }
+    const auto [first, last] = featureById.equal_range(getFeatureID(feature));
+    const bool hasOneKey = first != last && first->second == feature && keptFeatures.size() == count - 1;
+    featureById.erase(first, last);
     // A feature whose identifier was changed stands under the former one.
     for (auto entry = featureById.begin(); !hasOneKey && entry != featureById.end();) {
         entry = entry->second == feature ? featureById.erase(entry) : std::next(entry);
