@@ -38,8 +38,8 @@ public:
         }
         writeFile(file(), documentText(members));
         open(file());
-        // However fast the machine is, no edit of many features is done in a single slice.
-        runner().setSliceLength(std::chrono::milliseconds(0));
+        // No machine does an edit of so many features in a single slice then.
+        runner().setSliceLength(std::chrono::milliseconds(1));
         selectBuildings();
         QObject::connect(&runner(), &EditRunner::ended, [this](const QString& why) {
             ++ends;

@@ -5,13 +5,6 @@
 
 namespace tolvik::viewer {
 
-namespace {
-
-// Most steps are short, and so the clock is not asked for each.
-constexpr int stepsToClock = 8;
-
-} // namespace
-
 SlicedWork::SlicedWork(QObject* parent) : QObject(parent)
 {
     timer.setInterval(0);
@@ -41,7 +34,7 @@ void SlicedWork::runSlice()
     // A step may stop the work.
     while (done < steps && timer.isActive()) {
         step(done++);
-        if (done % stepsToClock == 0 && clock.elapsed() >= sliceLength.count()) {
+        if (clock.elapsed() >= sliceLength.count()) {
             break;
         }
     }
