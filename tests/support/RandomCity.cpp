@@ -30,6 +30,7 @@ void RandomCity::addListOperations()
     add("reload", 3, &City::reload);
     add("add a new feature", 22, &City::addNew);
     add("add a feature of the document", 18, &City::addAgain);
+    add("add all features that have no row", 4, &City::addAllAgain);
     add("remove a row", 14, &City::removeRow);
     add("remove a branch from the document", 8, &City::removeBranch);
     add("rename in the list", 8, &City::renameInList);
@@ -177,7 +178,7 @@ void RandomCity::addNew()
     addFeature(item);
 }
 
-void RandomCity::addAgain()
+std::vector<Item*> RandomCity::withoutRow() const
 {
     std::vector<Item*> without;
     for (const auto& item : reference.items) {
@@ -185,8 +186,31 @@ void RandomCity::addAgain()
             without.push_back(item.get());
         }
     }
+    return without;
+}
+
+void RandomCity::addAgain()
+{
+    const std::vector<Item*> without = withoutRow();
     if (!without.empty()) {
         addFeature(without[std::size_t(below(int(without.size())))]);
+    }
+}
+
+void RandomCity::addAllAgain()
+{
+    std::vector<Item*> without = withoutRow();
+    std::shuffle(without.begin(), without.end(), random);
+    QVector<gml::AbstractFeatureType*> features;
+    for (Item* const item : without) {
+        features << item->feature;
+        if (Item* const other = anyRow()) {
+            features << item->feature << nullptr << other->feature;
+        }
+    }
+    model.addFeatures(features);
+    for (Item* const item : without) {
+        reference.appendRow(item);
     }
 }
 

@@ -67,6 +67,12 @@ protected:
 
     void addAgain();
 
+    /// Adds those without a row in one operation, among others that are to be left out.
+    void addAllAgain();
+
+    /// The features of the document that have no row.
+    std::vector<Item*> withoutRow() const;
+
     /// Takes away the row of a feature.
     virtual void remove(Item* item);
 

@@ -230,6 +230,67 @@ private slots:
         QCOMPARE(town.dump(), QString("city(b1(n1(b2(b4(b3(n2(n3)))))))"));
     }
 
+    void manyThatComeAreArrangedOnce()
+    {
+        Town town(cityDocument(R"(
+  <cityObjectMember><bldg:Building gml:id="b1"/></cityObjectMember>
+  <cityObjectMember><bldg:Building gml:id="b2"/></cityObjectMember>
+)"));
+        QStringList pairs{"city n3", "city n2", "city b2", "city n4", "n2 n1", "b2 b1"};
+        setClaims(town, pairs);
+        QCOMPARE(town.dump(), QString("city(b2(b1))"));
+        // n1 takes b1 over, and stands below n2, which comes later.
+        pairs.last() = "n1 b1";
+        QVector<gml::AbstractFeatureType*> added{nullptr, town.feature("b2")};
+        for (const char* const id : {"n1", "n2", "n3", "n4"}) {
+            added << addMember(*town.model.cityGML(), makeBuilding(id));
+        }
+        added << added.last();
+        // Who looks in between finds no node for those that wait.
+        QStringList mapped;
+        connect(&town.tree, &QAbstractItemModel::rowsAboutToBeInserted, [&] {
+            QStringList present;
+            for (const char* const id : {"n1", "n2", "n3", "n4"}) {
+                present += town.at(id).isValid() ? id : "-";
+            }
+            mapped += present.join(' ');
+        });
+        town.recorder.clear();
+        town.model.addFeatures(added);
+        QCOMPARE(town.dump(), QString("city(n3 n2(n1(b1)) b2 n4)"));
+        QCOMPARE(mapped, QStringList({"- - - -", "- n2 - -", "n1 n2 - -", "n1 n2 n3 -"}));
+        QCOMPARE(town.recorder.take(), inserted("0:0 0 0") + inserted("0/0:0 0 0") + inserted("0:0 0 0") +
+                                           inserted("0:0 3 3") + moved("0/2:0 0 0 0/1/0:0 0"));
+        QVERIFY(!town.model.isAddingMore());
+    }
+
+    void whatGoesOrIsResetWhileManyComeIsLeftOut()
+    {
+        Town town;
+        gml::AbstractFeatureType* const gone = addMember(*town.model.cityGML(), makeBuilding("gone"));
+        gml::AbstractFeatureType* const stays = addMember(*town.model.cityGML(), makeBuilding("stays"));
+        gml::AbstractFeatureType* const last = addMember(*town.model.cityGML(), makeBuilding("last"));
+        const auto removal = connect(&town.model, &QAbstractItemModel::rowsInserted, [&] {
+            if (town.model.getRow(stays) >= 0 && town.model.getRow(gone) >= 0) {
+                town.model.removeFeature(gone);
+            }
+        });
+        town.model.addFeatures({gone, stays, last});
+        QCOMPARE(town.dump(), QString("city(b1(w1(d1 d2) w2) b2 stays last)"));
+        disconnect(removal);
+
+        town.model.removeFeature(stays);
+        town.model.removeFeature(last);
+        const auto reset = connect(&town.model, &QAbstractItemModel::rowsInserted, [&] {
+            if (town.model.isAddingMore()) {
+                town.tree.setSourceModel(&town.model);
+            }
+        });
+        town.model.addFeatures({last, stays});
+        QCOMPARE(town.dump(), QString("city(b1(w1(d1 d2) w2) b2 stays last)"));
+        disconnect(reset);
+    }
+
     void claimsThatMakeNoTree()
     {
         Town town(cityDocument(R"(

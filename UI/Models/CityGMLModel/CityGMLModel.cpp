@@ -464,66 +464,6 @@ void CityGMLModel::setCorrectGuid(bool correct)
     correctGuid = correct;
 }
 
-void CityGMLModel::addFeature(gml::AbstractFeatureType* feature)
-{
-    if (feature == nullptr || featureExists(feature)) {
-        return;
-    }
-    const int row = rowCount(QModelIndex());
-    beginInsertRows(QModelIndex(), row, row);
-    append(feature);
-    dirty(true);
-    endInsertRows();
-}
-
-void CityGMLModel::removeFeature(gml::AbstractFeatureType* feature)
-{
-    if (!featureExists(feature)) {
-        return;
-    }
-    const int count = features.size();
-    QVector<gml::AbstractFeatureType*> keptFeatures;
-    QVector<bool> keptVisibility;
-    QVector<bool> keptDisabled;
-    QVector<Fondo::RefPtr<CoreProperty>> keptProperties;
-    keptFeatures.reserve(count);
-    keptVisibility.reserve(count);
-    keptDisabled.reserve(count);
-    keptProperties.reserve(count);
-
-    int removedRow = 0;
-    for (int row = 0; row < count; ++row) {
-        if (features[row] == feature) {
-            removedRow = row;
-            continue;
-        }
-        keptFeatures.append(features[row]);
-        keptVisibility.append(visibility[row]);
-        keptDisabled.append(disabled[row]);
-        keptProperties.append(properties[row]);
-    }
-
-    beginRemoveRows(QModelIndex(), removedRow, removedRow);
-    rowByFeature.erase(feature);
-    const auto [first, last] = featureById.equal_range(getFeatureID(feature));
-    const bool hasOneKey = first != last && first->second == feature && keptFeatures.size() == count - 1;
-    featureById.erase(first, last);
-    // A feature whose identifier was changed stands under the former one.
-    for (auto entry = featureById.begin(); !hasOneKey && entry != featureById.end();) {
-        entry = entry->second == feature ? featureById.erase(entry) : std::next(entry);
-    }
-    // In the order of the map, which takes less time than to look up each row behind.
-    for (auto& [other, row] : rowByFeature) {
-        row -= row > removedRow ? 1 : 0;
-    }
-    features = std::move(keptFeatures);
-    visibility = std::move(keptVisibility);
-    disabled = std::move(keptDisabled);
-    properties = std::move(keptProperties);
-    dirty(true);
-    endRemoveRows();
-}
-
 void CityGMLModel::updateData(const QModelIndex& index)
 {
     announce(index);

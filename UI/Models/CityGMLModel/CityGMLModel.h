@@ -204,6 +204,14 @@ public:
     /// Where the feature stands in the document is the caller's business.
     void addFeature(gml::AbstractFeatureType* feature);
 
+    /// Adds a row for each of many features as addFeature() does, with the signals of each. A
+    /// CityGMLTreeModel arranges its nodes once, with the last row: as long as a single one takes it.
+    /// \throws xsd::cxx::tree::duplicate_id<char> as append() does; those in front have their rows then
+    void addFeatures(const QVector<gml::AbstractFeatureType*>& features);
+
+    /// Whether addFeatures() is to add another row behind the one that it adds.
+    bool isAddingMore() const { return addsMore; }
+
     /// Takes away the row of a feature, but not the rows of the features below it. The feature stays where it
     /// is in the document. Null, or a feature that has no row, is ignored.
     void removeFeature(gml::AbstractFeatureType* feature);
@@ -247,6 +255,7 @@ private:
 
     log4cplus::Logger logger;
     bool correctGuid;
+    bool addsMore = false;
     std::auto_ptr<core::CityModelType> cityModel;
 
     // Of each row, besides the properties and the visibility in the base; all of the same length.

@@ -323,17 +323,40 @@ void CityGMLTreeModel::rowsInsertedInSourceModel(const QModelIndex& /*parent*/, 
     if (source == nullptr || sourceBusy) {
         return;
     }
-    gml::AbstractFeatureType* const feature = document()->getFeature(start);
-    if (feature == nullptr || !isAccepted(feature) || treeNode(feature) != nullptr) {
+    added.push_back(document()->getFeature(start));
+    if (!document()->isAddingMore()) {
+        addNodes(std::exchange(added, {}));
+    }
+}
+
+/// Makes nodes for features, less those that have no row or are not for the tree.
+void CityGMLTreeModel::addNodes(const std::vector<gml::AbstractFeatureType*>& features)
+{
+    Nodes waiting;
+    for (gml::AbstractFeatureType* const feature : features) {
+        if (document()->getRow(feature) < 0 || !isAccepted(feature) || treeNode(feature) != nullptr) {
+            continue;
+        }
+        auto* const node = new Node(feature);
+        nodeMap[feature].emplace_back(node);
+        node->isVisible = isVisibleInSource(*node);
+        node->visibleNodes = node->isVisible ? 1 : 0;
+        node->announcedState = node->state();
+        node->isInTree = false;
+        waiting.emplace_back(node);
+    }
+    if (waiting.empty()) {
         return;
     }
-    auto* const node = new Node(feature);
-    nodeMap[feature].emplace_back(node);
-    node->isVisible = isVisibleInSource(*node);
-    node->visibleNodes = node->isVisible ? 1 : 0;
-    node->announcedState = node->state();
     const Links links = claimedLinks();
-    insert(node, links);
+    for (const auto& node : waiting) {
+        // What is to stand above comes first.
+        std::vector<Node*> way;
+        for (Node* each = node.get(); each != nullptr && !each->isInTree; each = each->claimer) {
+            way.push_back(each);
+        }
+        std::for_each(way.rbegin(), way.rend(), [&](Node* each) { insert(each, links); });
+    }
     rearrange(links);
     announceStates();
 }
@@ -353,6 +376,7 @@ void CityGMLTreeModel::insert(Node* node, const Links& links)
     }
     beginInsertRows(indexOf(parent), row, row);
     insertChildren(parent, row, {node});
+    node->isInTree = true;
     endInsertRows();
 }
 

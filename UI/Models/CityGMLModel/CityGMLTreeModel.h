@@ -64,6 +64,7 @@ protected slots:
     void sourceDataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight) override;
 
     /// Makes a node for one new row and walks all nodes anew: what has come to stand elsewhere is moved.
+    /// Rows of CityGMLModel::addFeatures() wait for the last one, and then all nodes are walked once.
     void rowsInsertedInSourceModel(const QModelIndex& parent, int start, int end) override;
 
     /// Takes out the node of one row, with what is below it.
@@ -95,6 +96,7 @@ private:
     QModelIndex indexOf(Node* node) const;
 
     Links claimedLinks();
+    void addNodes(const std::vector<gml::AbstractFeatureType*>& features);
     void insert(Node* node, const Links& links);
     void rearrange(const Links& links);
     void arrangeChildren(Node* parent, const Children& wanted);
@@ -123,6 +125,9 @@ private:
 
     // Between the reset signals of the source.
     bool isEmptied = false;
+
+    // While many features are added: those that have no node yet. They may be gone by the end of it.
+    std::vector<gml::AbstractFeatureType*> added;
 
     FeatureAnswers* const answers;
 };

@@ -8,6 +8,7 @@
 #include "gml/AbstractFeatureType.hxx"
 
 #include <algorithm>
+#include <cstddef>
 #include <QJsonArray>
 #include <QJsonObject>
 #include <unordered_map>
@@ -23,6 +24,8 @@ const QString featureRemovalKind = QStringLiteral("removal");
 constexpr std::size_t fewFeatures = 100;
 // A row that goes has the model number all others anew.
 constexpr int rowsOfOneEffort = 10000;
+// A tree arranges all its nodes for one row that comes, or for several at once.
+constexpr std::size_t rowsAtOnce = 64;
 
 /// The member whose entry goes with a feature: that of the property element around it. Of a property element
 /// that holds several features only the feature goes.
@@ -176,7 +179,7 @@ void FeatureRemoval::turn(int change)
     if (at < all.size()) {
         isGoingBack ? putBack(all[at]) : locate(at);
     } else {
-        isGoingBack ? addNextRow() : removeNext();
+        isGoingBack ? addNextRows() : removeNext();
     }
 }
 
@@ -282,16 +285,18 @@ void FeatureRemoval::putBack(Removed& removed)
     }
 }
 
-/// Gives one of the features that are back its row.
-void FeatureRemoval::addNextRow()
+/// Gives some of the features that are back their rows.
+void FeatureRemoval::addNextRows()
 {
     if (!areComingKnown) {
         coming = featuresWithoutRow();
         areComingKnown = true;
     }
-    if (!coming.empty()) {
-        document.model().addFeature(coming.back());
-        coming.pop_back();
+    const auto count = std::min(coming.size(), rowsAtOnce);
+    if (count > 0) {
+        const auto first = coming.rbegin();
+        document.model().addFeatures({first, first + static_cast<std::ptrdiff_t>(count)});
+        coming.resize(coming.size() - count);
     }
 }
 

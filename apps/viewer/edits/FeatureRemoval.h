@@ -80,7 +80,7 @@ private:
     void removeNext();
     void take(Removed& removed);
     void putBack(Removed& removed);
-    void addNextRow();
+    void addNextRows();
     Features featuresWithoutRow();
     FeatureLocator& locator();
 
