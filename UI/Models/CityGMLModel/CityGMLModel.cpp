@@ -16,7 +16,6 @@
 #include <boost/iostreams/device/null.hpp>
 #include <boost/iostreams/stream.hpp>
 #include <fstream>
-#include <iterator>
 #include <osgDB/Registry>
 #include <QDataStream>
 #include <QDir>
@@ -24,7 +23,6 @@
 #include <QItemSelection>
 #include <sstream>
 #include <stdexcept>
-#include <utility>
 
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations" // std::auto_ptr, see the header
 
