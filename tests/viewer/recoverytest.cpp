@@ -52,7 +52,7 @@ void rename(tolvik::viewer::Document& document, int row, const QString& name)
 }
 
 constexpr int buildings = 400;
-// At least, where slices are as short as they can be.
+// At least so many there are, where each is as short as it can be.
 constexpr int slicesOfEdit = buildings / 100;
 
 QByteArray street()

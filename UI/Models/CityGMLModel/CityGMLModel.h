@@ -205,9 +205,10 @@ public:
     void addFeature(gml::AbstractFeatureType* feature);
 
     /// Adds a row for each of many features as addFeature() does, with the signals of each. A
-    /// CityGMLTreeModel arranges its nodes once, with the last row: as long as a single one takes it.
+    /// CityGMLTreeModel arranges its nodes once, with the last row, which takes as long as for a single one.
+    /// Nobody is to add or remove rows meanwhile, such as in a slot for one of those signals.
     /// \throws xsd::cxx::tree::duplicate_id<char> as append() does; those in front have their rows then
-    void addFeatures(const QVector<gml::AbstractFeatureType*>& features);
+    void addFeatures(const QVector<gml::AbstractFeatureType*>& added);
 
     /// Whether addFeatures() is to add another row behind the one that it adds.
     bool isAddingMore() const { return addsMore; }
